@@ -1,0 +1,17 @@
+#pragma once
+
+#include "elements/NUXBaseObject.h"
+
+/// The substation that feeds the whole site.
+class NUXTotalStepDownSubstationObject : public NUXBaseObject {
+public:
+    static constexpr ClassBits kClassBit = kTotalStepDownSubstationBit;
+    static NUXTotalStepDownSubstationObject* Cast(const UdRxObject* object) {
+        return UdRxCast<NUXTotalStepDownSubstationObject>(object);
+    }
+
+    explicit NUXTotalStepDownSubstationObject(
+        const NUXBaseParams& params,
+        std::wstring typeIdentifier = L"NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION")
+        : NUXBaseObject(kClassBit, std::move(typeIdentifier), params) {}
+};
