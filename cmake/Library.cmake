@@ -1,0 +1,38 @@
+# The check library: a shared library that exports its five public types, and a static one of the same sources in which
+# tests and the checker see everything.
+include(GenerateExportHeader)
+
+set(library_sources
+    engine/NUXCheck.cpp
+    engine/NUXRule.cpp
+    engine/NuxFireStandardCheck.cpp
+    evaluators/distant/NUXRelElementTypeDistantRule.cpp
+    evaluators/position/NUXRelElementTypePositionRule.cpp
+    evaluators/self/NUXElementTypeRule.cpp
+    evaluators/without/NUXWithoutElementTypeRule.cpp
+    evaluators/without/required_use.cpp
+    rules_config/NUXRuleConfigFile.cpp
+    rules_config/NuxStandardCheckRule.cpp
+    rules_config/rule_key.cpp
+    site/IdentifierField.cpp
+)
+
+add_library(FireStandardCheck SHARED ${library_sources})
+add_library(FireStandardCheck::FireStandardCheck ALIAS FireStandardCheck)
+add_library(FireStandardCheckWhiteBox STATIC ${library_sources})
+
+generate_export_header(FireStandardCheck BASE_NAME firestandardcheck
+                       EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/firestandardcheck_export.h)
+set_target_properties(FireStandardCheck PROPERTIES
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+target_compile_definitions(FireStandardCheckWhiteBox PUBLIC FIRESTANDARDCHECK_STATIC_DEFINE)
+
+foreach(library FireStandardCheck FireStandardCheckWhiteBox)
+    target_include_directories(${library} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
+    target_link_libraries(${library} PUBLIC Qt5::Core PRIVATE Qt5::Xml ${FIRECHECK_HOST_TARGET} firecheck_settings)
+endforeach()
+# White-box users see the host types that the library's inner headers speak of.
+target_link_libraries(FireStandardCheckWhiteBox PUBLIC ${FIRECHECK_HOST_TARGET})

@@ -1,0 +1,100 @@
+#include "engine/NuxFireStandardCheck.h"
+
+#include "cad/UdApDocManager.h"
+#include "evaluators/distant/NUXRelElementTypeDistantRule.h"
+#include "evaluators/position/NUXRelElementTypePositionRule.h"
+#include "evaluators/self/NUXElementTypeRule.h"
+#include "evaluators/without/NUXWithoutElementTypeRule.h"
+#include "rules_config/NUXRuleConfigFile.h"
+
+namespace {
+
+UdDbBlock* currentModelSpace() {
+    UdApDocManager* manager = UdDocManagerPtr();
+    UdApDocument* current = manager ? manager->CurDocument() : nullptr;
+    UdDbDocument* document = current ? current->Database() : nullptr;
+    return document ? document->GetModelSpace() : nullptr;
+}
+
+QString stateKey(const QString& filingKey, const NuxStandardCheckRule& record) {
+    if (record.type == QLatin1String("without"))
+        return filingKey;
+    return filingKey + QLatin1Char(':') + record.name;
+}
+
+} // namespace
+
+NuxFireStandardCheck::NuxFireStandardCheck()
+    : m_withoutRule(new NUXWithoutElementTypeRule()), m_distantRule(new NUXRelElementTypeDistantRule()),
+      m_positionRule(new NUXRelElementTypePositionRule()), m_selfRule(new NUXElementTypeRule()) {}
+
+NuxFireStandardCheck::NuxFireStandardCheck(const NuxFireStandardCheck& other) = default;
+NuxFireStandardCheck& NuxFireStandardCheck::operator=(const NuxFireStandardCheck& other) = default;
+NuxFireStandardCheck::~NuxFireStandardCheck() = default;
+
+void NuxFireStandardCheck::DoCheck() {
+    UdDbBlock* modelSpace = currentModelSpace();
+    if (!modelSpace)
+        return;
+
+    const QMap<QString, std::vector<NuxStandardCheckRule>>& rules =
+        NUXRuleConfigFile::Single()->getAllRuleMap();
+    m_mapRules.clear();
+    for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry)
+        judgeRules(entry.key(), entry.value(), modelSpace);
+    resetCheckState();
+}
+
+NUXRule* NuxFireStandardCheck::evaluatorOf(const QString& ruleType) const {
+    if (ruleType == QLatin1String("without"))
+        return m_withoutRule;
+    if (ruleType == QLatin1String("distant"))
+        return m_distantRule;
+    if (ruleType == QLatin1String("position"))
+        return m_positionRule;
+    if (ruleType == QLatin1String("self"))
+        return m_selfRule;
+    return nullptr;
+}
+
+void NuxFireStandardCheck::judgeRules(const QString& ruleKey, const std::vector<NuxStandardCheckRule>& rules,
+                                      UdDbBlock* modelSpace) {
+    // Deliberate: set once for the entry and carried over from record to record and from rule to rule, so
+    // that a record without an element lies beside those of the last element.
+    QString filingKey = ruleKey;
+    for (const NuxStandardCheckRule& stored : rules) {
+        NUXRule* evaluator = evaluatorOf(stored.type);
+        if (!evaluator)
+            continue;
+        const NuxStandardCheckRule rule = stored;
+        for (const NuxStandardCheckRule& record : evaluator->check(modelSpace, rule)) {
+            if (record.handle != 0)
+                filingKey = QString::number(record.handle, 10);
+            m_mapRules[filingKey].push_back(record);
+        }
+    }
+}
+
+void NuxFireStandardCheck::resetCheckState() {
+    m_mapRulesCheckState.clear();
+    for (auto entry = m_mapRules.cbegin(); entry != m_mapRules.cend(); ++entry) {
+        for (const NuxStandardCheckRule& record : entry.value())
+            m_mapRulesCheckState[stateKey(entry.key(), record)].push_back(false);
+    }
+}
+
+// Deliberate: keyed by the filing key alone, unlike the flags that DoCheck builds.
+void NuxFireStandardCheck::clearMapRulesCheckState() {
+    m_mapRulesCheckState.clear();
+    for (auto entry = m_mapRules.cbegin(); entry != m_mapRules.cend(); ++entry)
+        for (std::size_t record = 0; record < entry->size(); ++record)
+            m_mapRulesCheckState[entry.key()].push_back(false);
+}
+
+QMap<QString, std::vector<NuxStandardCheckRule>>& NuxFireStandardCheck::getMapRules() {
+    return m_mapRules;
+}
+
+QMap<QString, std::vector<bool>>& NuxFireStandardCheck::getMapRulesCheckState() {
+    return m_mapRulesCheckState;
+}

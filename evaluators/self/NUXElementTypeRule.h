@@ -1,0 +1,14 @@
+#pragma once
+
+#include "engine/NUXRule.h"
+
+/// Judges rules of type "self": one element by itself, or the road network as a whole.
+class NUXElementTypeRule : public NUXRule {
+public:
+    NUXElementTypeRule();
+
+    /// Leaves the map alone and answers true.
+    bool removeWithoutRules(NUXElementObject* element, void* unused,
+                            QMap<QString, std::vector<NuxStandardCheckRule>>& rules) override;
+    std::vector<NuxStandardCheckRule> check(UdDbBlock* modelSpace, const NuxStandardCheckRule& rule) override;
+};
