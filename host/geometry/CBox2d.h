@@ -1,0 +1,34 @@
+#pragma once
+
+#include "geometry/CVec2.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace hrx {
+
+/// An axis-parallel rectangle of the plane; empty until a point is added.
+struct CBox2d {
+    CVec2<double> low{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    CVec2<double> high{-std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+
+    bool isEmpty() const { return !(low.x <= high.x && low.y <= high.y); }
+
+    void add(const CVec2<double>& point) {
+        low = {std::min(low.x, point.x), std::min(low.y, point.y)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y)};
+    }
+    void add(const CBox2d& other) {
+        add(other.low);
+        add(other.high);
+    }
+};
+
+/// Square of the least distance between two boxes; 0 when they touch or overlap.
+inline double squaredDistance(const CBox2d& a, const CBox2d& b) {
+    const double dx = std::max(0.0, std::max(a.low.x - b.high.x, b.low.x - a.high.x));
+    const double dy = std::max(0.0, std::max(a.low.y - b.high.y, b.low.y - a.high.y));
+    return dx * dx + dy * dy;
+}
+
+} // namespace hrx

@@ -1,0 +1,115 @@
+#include "geometry/Edge2d.h"
+
+#include <cmath>
+
+namespace hrx {
+
+namespace {
+
+constexpr double kLeastSagitta = 1e-7;
+
+/// Cosine and sine of half the sweep, from the half-angle formulas on the bulge.
+CVec2<double> halfSweepDirection(double bulge) {
+    const double squared = bulge * bulge;
+    return {(1.0 - squared) / (1.0 + squared), 2.0 * bulge / (1.0 + squared)};
+}
+
+CVec2<double> unit(const CVec2<double>& v) {
+    const double size = length(v);
+    return size > 0.0 ? v * (1.0 / size) : CVec2<double>{};
+}
+
+/// A box that surely holds the arc, without the rounding that a very large radius brings.
+CBox2d looseBox(const Edge2d& edge) {
+    CBox2d box;
+    const CVec2<double> chord = edge.end - edge.start;
+    const CVec2<double> rise = leftNormal(chord) * (-0.5 * edge.bulge);
+    box.add(edge.start + rise);
+    box.add(edge.end + rise);
+    box.add(edge.start);
+    box.add(edge.end);
+    if (std::abs(edge.bulge) > 1.0) {
+        const CVec2<double> centre = edge.centre();
+        const double radius = edge.radius();
+        box.add(centre + CVec2<double>(radius, radius));
+        box.add(centre - CVec2<double>(radius, radius));
+    }
+    return box;
+}
+
+} // namespace
+
+bool Edge2d::isArc() const {
+    if (bulge == 0.0)
+        return false;
+    const CVec2<double> rise = (end - start) * (0.5 * bulge);
+    return dot(rise, rise) > kLeastSagitta * kLeastSagitta;
+}
+
+double Edge2d::length() const {
+    return isArc() ? radius() * std::abs(sweep()) : hrx::length(end - start);
+}
+
+CVec2<double> Edge2d::middle() const {
+    const CVec2<double> chord = end - start;
+    return start + chord * 0.5 - leftNormal(chord) * (0.5 * bulge);
+}
+
+CBox2d Edge2d::box() const {
+    CBox2d box;
+    box.add(start);
+    box.add(end);
+    if (!isArc())
+        return box;
+    const CBox2d loose = looseBox(*this);
+    const CVec2<double> middlePoint = centre();
+    const double size = radius();
+    const CVec2<double> extremes[] = {{size, 0.0}, {-size, 0.0}, {0.0, size}, {0.0, -size}};
+    for (const CVec2<double>& extreme : extremes) {
+        const CVec2<double> point = middlePoint + extreme;
+        if (isLeftOf(*this, point) != (bulge > 0.0))
+            box.add({std::clamp(point.x, loose.low.x, loose.high.x),
+                     std::clamp(point.y, loose.low.y, loose.high.y)});
+    }
+    return box;
+}
+
+CVec2<double> Edge2d::startDirection() const {
+    const CVec2<double> along = unit(end - start);
+    const CVec2<double> half = halfSweepDirection(bulge);
+    return along * half.x - leftNormal(along) * half.y;
+}
+
+CVec2<double> Edge2d::endDirection() const {
+    const CVec2<double> along = unit(end - start);
+    const CVec2<double> half = halfSweepDirection(bulge);
+    return along * half.x + leftNormal(along) * half.y;
+}
+
+CVec2<double> Edge2d::centre() const {
+    const CVec2<double> chord = end - start;
+    return start + chord * 0.5 + leftNormal(chord) * ((1.0 - bulge * bulge) / (4.0 * bulge));
+}
+
+double Edge2d::radius() const {
+    return hrx::length(end - start) * (1.0 + bulge * bulge) / (4.0 * std::abs(bulge));
+}
+
+double Edge2d::sweep() const {
+    return 4.0 * std::atan(bulge);
+}
+
+double Edge2d::startAngle() const {
+    const CVec2<double> arm = start - centre();
+    return std::atan2(arm.y, arm.x);
+}
+
+bool isLeftOf(const Edge2d& edge, const CVec2<double>& p) {
+    const CVec2<double> along = edge.end - edge.start;
+    const double side = cross(along, p - edge.start);
+    if (side != 0.0)
+        return side > 0.0;
+    return along.y != 0.0 ? along.y < 0.0 : along.x > 0.0;
+}
+
+} // namespace hrx
