@@ -1,0 +1,9 @@
+#pragma once
+
+#include <stdexcept>
+
+/// A file or an argument that cannot be used; the text says where and what was expected there.
+class InputError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+/// JSON whose objects keep the order in which their keys were written.
+using Json = nlohmann::ordered_json;

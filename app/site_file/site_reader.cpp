@@ -1,0 +1,151 @@
+#include "site_file/site_reader.h"
+
+#include "InputError.h"
+#include "site_file/parse_json.h"
+#include "site_file/site_classes.h"
+#include "site_file/site_keys.h"
+#include "text/nearest_name.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+const SiteClass& classNamed(const Json& value, const JsonPlace& place) {
+    if (!value.is_string())
+        refuseType(value, place, "the name of a class");
+    const auto& name = value.get_ref<const std::string&>();
+    const std::vector<SiteClass>& classes = siteClasses();
+    const auto found = std::find_if(classes.begin(), classes.end(),
+                                    [&name](const SiteClass& candidate) { return candidate.name == name; });
+    if (found != classes.end())
+        return *found;
+    std::vector<std::string> known;
+    for (const SiteClass& candidate : classes)
+        known.push_back(candidate.name);
+    const auto near = nearestName(name, known);
+    refuse(place, "unknown class \"" + name + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
+}
+
+/// What the reader knows about one class, worked out once: an object costs no tables.
+struct ClassReader {
+    const SiteClass* siteClass;
+    std::vector<KeyShape> keys;
+    Fields<ObjectHead> headFields;
+};
+
+class SiteReader {
+public:
+    Site read(const Json& value) {
+        const JsonPlace top;
+        checkKeys(value, top, siteKeys());
+        readNotes(value, top);
+        m_site.document = std::make_unique<UdDbDocument>();
+        const Json& objects = value.at(kObjectsKey);
+        const JsonPlace list(top, kObjectsKey);
+        if (!objects.is_array())
+            refuseType(objects, list, "a list of objects");
+        for (std::size_t i = 0; i < objects.size(); ++i)
+            appendObject(objects[i], JsonPlace(list, i));
+        m_links.setAll(m_objects);
+        return std::move(m_site);
+    }
+
+private:
+    void readNotes(const Json& value, const JsonPlace& top) {
+        for (const auto& [key, note] : value.items()) {
+            if (key == kObjectsKey)
+                continue;
+            const std::wstring checked = text().read(note, JsonPlace(top, key));
+            if (key == kSiteNameKey)
+                m_site.name = note.get<std::string>();
+        }
+    }
+
+    void appendObject(const Json& value, const JsonPlace& place) {
+        ObjectHead head;
+        std::unique_ptr<UdDbObject> object = createObject(value, place, ObjectRole::InDocument, head);
+        const std::string handleKey = "handle";
+        if (m_site.document->hasHandle(head.handle))
+            refuse(JsonPlace(place, handleKey),
+                   "expected a handle of its own, found " + std::to_string(head.handle) + " once more");
+        const auto secondView = value.find(kSecondViewKey);
+        if (secondView != value.end()) {
+            ObjectHead viewHead;
+            object->attachView(createObject(*secondView, JsonPlace(place, kSecondViewKey),
+                                            ObjectRole::SecondView, viewHead));
+        }
+        object->setRefusesToOpen(head.refusesToOpen);
+        m_objects[head.handle] = object.get();
+        m_site.labels[head.handle] = {value.at(kClassKey).get<std::string>(),
+                                      QString::fromStdWString(head.name).toStdString()};
+        m_site.document->append(std::move(object), head.handle);
+    }
+
+    std::unique_ptr<UdDbObject> createObject(const Json& value, const JsonPlace& place, ObjectRole role,
+                                             ObjectHead& head) {
+        const ClassReader& reader = readerFor(value, place, role);
+        checkKeys(value, place, reader.keys);
+        readFields(head, reader.headFields, value, place);
+        auto object = reader.siteClass->create(value, place, head.identifier, m_links);
+        if (head.extents)
+            object->setExtents(*head.extents);
+        return object;
+    }
+
+    const ClassReader& readerFor(const Json& value, const JsonPlace& place, ObjectRole role) {
+        if (!value.is_object())
+            refuseType(value, place, "an object");
+        const auto className = value.find(kClassKey);
+        if (className == value.end())
+            refuse(place, "expected the key \"class\" (what the object is)");
+        const SiteClass& siteClass = classNamed(*className, JsonPlace(place, kClassKey));
+        const auto known = m_readers.find({&siteClass, role});
+        if (known != m_readers.end())
+            return known->second;
+        ClassReader reader{&siteClass, objectKeys(siteClass, role), headFields(siteClass, role)};
+        return m_readers.emplace(std::pair(&siteClass, role), std::move(reader)).first->second;
+    }
+
+    Site m_site;
+    ObjectLinks m_links;
+    ObjectLinks::ObjectsByHandle m_objects;
+    std::map<std::pair<const SiteClass*, ObjectRole>, ClassReader> m_readers;
+};
+
+std::string readFile(const std::string& fileName) {
+    constexpr qint64 largestSite = 256 * 1024 * 1024;
+    const QString name = QString::fromStdString(fileName);
+    if (QFileInfo(name).isDir())
+        throw InputError(fileName + ": expected a site file, found a directory");
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+    const QByteArray bytes = file.read(largestSite + 1);
+    if (file.error() != QFileDevice::NoError)
+        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+    if (bytes.size() > largestSite)
+        throw InputError(fileName + ": expected a site file, found more than 256 MiB");
+    return bytes.toStdString();
+}
+
+} // namespace
+
+Site readSite(const Json& value) {
+    return SiteReader().read(value);
+}
+
+Site parseSite(const std::string& text, const std::string& name) {
+    const Json value = parseJson(text, name);
+    try {
+        return readSite(value);
+    } catch (const InputError& error) {
+        throw InputError(name + ": " + error.what());
+    }
+}
+
+Site loadSite(const std::string& fileName) {
+    return parseSite(readFile(fileName), fileName);
+}
