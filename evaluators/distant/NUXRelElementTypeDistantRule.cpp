@@ -1,5 +1,8 @@
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 
+#include "evaluators/distant/pair_walk.h"
+#include "evaluators/distant/spacing_walk.h"
+
 NUXRelElementTypeDistantRule::NUXRelElementTypeDistantRule() {
     m_type = QStringLiteral("RelElementTypeDistantRule");
 }
@@ -9,7 +12,16 @@ bool NUXRelElementTypeDistantRule::removeWithoutRules(NUXElementObject*, void*,
     return true;
 }
 
-std::vector<NuxStandardCheckRule> NUXRelElementTypeDistantRule::check(UdDbBlock*,
-                                                                      const NuxStandardCheckRule&) {
-    return {};
+std::vector<NuxStandardCheckRule> NUXRelElementTypeDistantRule::check(UdDbBlock* modelSpace,
+                                                                      const NuxStandardCheckRule& rule) {
+    if (!modelSpace)
+        return {};
+    const auto relates = [&rule](QLatin1String type) {
+        return rule.elementType == type && rule.referenceElementType == type;
+    };
+    if (relates(QLatin1String("NUX_ELEMENT_TYPE_PREFABHOUSE")))
+        return checkPrefabHouseSpacing(*modelSpace, rule);
+    if (relates(QLatin1String("NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION")))
+        return checkSubstationSpacing(*modelSpace, rule);
+    return checkAllPairs(*modelSpace, rule);
 }

@@ -1,0 +1,35 @@
+#include "evaluators/distant/DistanceCondition.h"
+
+#include <QStringList>
+
+namespace {
+
+constexpr double kMillimetresPerMetre = 1000.0;
+
+} // namespace
+
+DistanceCondition::DistanceCondition(const NuxStandardCheckRule& rule) : m_word(Word::Unknown) {
+    const QStringList parts =
+        rule.distantValue.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
+    m_minimum = parts[0].toDouble() * kMillimetresPerMetre;
+    // Deliberate: the mark itself is no number of metres and is not multiplied.
+    m_maximum = parts.size() > 1 ? parts[1].toDouble() * kMillimetresPerMetre : kNoDistanceMark;
+    if (rule.constraintCondition == QLatin1String("less"))
+        m_word = Word::Less;
+    else if (rule.constraintCondition == QLatin1String("less or more"))
+        m_word = Word::LessOrMore;
+}
+
+bool DistanceCondition::isDistanceViolated(double distance) const {
+    if (distance > kNoDistanceMark)
+        return true;
+    switch (m_word) {
+    case Word::Less:
+        return m_minimum > distance;
+    case Word::LessOrMore:
+        return m_minimum > distance || distance > m_maximum;
+    case Word::Unknown:
+        break;
+    }
+    return false;
+}

@@ -1,0 +1,186 @@
+#include "evaluators/distant/pair_distance.h"
+
+#include "elements/NUXOpenHouseObject.h"
+#include "elements/NUXPrefabHouseObject.h"
+#include "elements/NUXRoadObject.h"
+#include "geometry/CExtrudedBody.h"
+#include "site/element_body.h"
+#include "site/element_type_identifiers.h"
+#include "site/min_body_distance.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr double kBodyHeight = 1.0;
+
+/// The bodies of one side of a pair; nothing when the pair measures 0.0 at once.
+using Side = std::optional<BodyList>;
+
+Side sideWith(BodyPtr body) {
+    BodyList bodies;
+    if (body)
+        bodies.push_back(std::move(body));
+    return bodies;
+}
+
+Side elementSide(const NUXElementObject* element) {
+    BodyPtr body;
+    buildElementBody(element, kBodyHeight, body);
+    return sideWith(std::move(body));
+}
+
+Side houseWithStairSide(const NUXElementObject* element) {
+    const auto* house = NUXPrefabHouseObject::Cast(element);
+    return sideWith(house ? buildHouseWithStairBody(*house, kBodyHeight) : nullptr);
+}
+
+/// An ordinary road does not count. The road keeps its outline.
+Side fireRoadSide(const NUXElementObject* element) {
+    const auto* road = NUXRoadObject::Cast(element);
+    if (!road)
+        return std::nullopt;
+    if (!road->getIsFireRoad())
+        return BodyList();
+    hrx::CPolygon* outline = road->getRoadPoly();
+    if (!outline)
+        return std::nullopt;
+    return sideWith(std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), kBodyHeight, outline, true));
+}
+
+/// Under a rule of this name, open sheds of this use count.
+struct ShedUse {
+    const char* ruleName;
+    int use;
+};
+
+/// How the first elements of one type are measured.
+struct PairMeasure {
+    std::wstring_view firstType;
+    Side (*firstSide)(const NUXElementObject* first);
+    std::vector<std::wstring_view> referenceTypes; ///< those measured by their element body
+    std::vector<ShedUse> shedUses;                 ///< no rows: open sheds do not count
+    const char* otherShedsRule; ///< counts the open sheds that are no workshop; may be null
+    bool countsFireRoads;
+    bool countsPrefabHouses;
+};
+
+// Each name as rule files write it; "Eletrical" and "Futureouse" are deliberate. The codes of uses are those
+// of the position rules and not those of the absence rules.
+const PairMeasure prefabHouseDistance{NUX_ELEMENT_TYPE_PREFABHOUSE,
+                                      houseWithStairSide,
+                                      {NUX_ELEMENT_TYPE_FUTUREHOUSE, NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
+                                       NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,
+                                       NUX_EDO_TYPE_ELECTRICALMECHANICALYARD},
+                                      {{"Distant_PrefabHouseToWoodFactory", 2},
+                                       {"Distant_PrefabHouseToWoodWorkingFactory", 3},
+                                       {"Distant_PrefabHouseToEletricalMechanicalFactory", 4}},
+                                      nullptr,
+                                      true,
+                                      true};
+
+const PairMeasure futureHouseDistance{
+    NUX_ELEMENT_TYPE_FUTUREHOUSE,
+    elementSide,
+    {NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD,
+     NUX_ELEMENT_TYPE_BOXHOUSE, NUX_ELEMENT_TYPE_CLOSEHOUSE, NUX_ELEMENT_TYPE_CHAYANTING,
+     NUX_EDO_TYPE_ANQUANJT, NUX_ELEMENT_TYPE_OPENHALFHOUSE, NUX_ELEMENT_TYPE_MIXSITE},
+    {{"Distant_FutureouseToWoodFactory", 2},
+     {"Distant_FutureHouseToWoodWorkingFactory", 3},
+     {"Distant_FutureHouseToEletricalMechanicalFactory", 4}},
+    "Distant_FutureHouseToOpenHouse",
+    false,
+    false};
+
+const PairMeasure substationDistance{NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
+                                     elementSide,
+                                     {NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
+                                      NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION, NUX_EDO_TYPE_TEMPLATEYARD,
+                                      NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD},
+                                     {{"Distant_TransformerSubstationToWoodFactory", 2},
+                                      {"Distant_TransformerSubstationToWoodWorkingFactory", 3},
+                                      {"Distant_TransformerSubstationToEletricalMechanicalFactory", 4}},
+                                     nullptr,
+                                     false,
+                                     false};
+
+const PairMeasure fireRoadDistance{NUX_EDO_TYPE_ROAD,
+                                   fireRoadSide,
+                                   {NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,
+                                    NUX_EDO_TYPE_ELECTRICALMECHANICALYARD, NUX_ELEMENT_TYPE_FUTUREHOUSE},
+                                   {},
+                                   nullptr,
+                                   false,
+                                   false};
+
+const PairMeasure* measureOf(const std::wstring& firstType) {
+    for (const PairMeasure* measure :
+         {&fireRoadDistance, &prefabHouseDistance, &futureHouseDistance, &substationDistance}) {
+        if (firstType == measure->firstType)
+            return measure;
+    }
+    return nullptr;
+}
+
+bool shedCounts(const PairMeasure& measure, int use, const QString& ruleName) {
+    const auto& uses = measure.shedUses;
+    const auto isUnderRule = [&](const ShedUse& row) {
+        return row.use == use && ruleName == QLatin1String(row.ruleName);
+    };
+    if (std::any_of(uses.begin(), uses.end(), isUnderRule))
+        return true;
+    const bool isWorkshop =
+        std::any_of(uses.begin(), uses.end(), [&](const ShedUse& row) { return row.use == use; });
+    return measure.otherShedsRule && ruleName == QLatin1String(measure.otherShedsRule) && !isWorkshop;
+}
+
+Side openShedSide(const PairMeasure& measure, const NUXElementObject* element, const QString& ruleName) {
+    const auto* shed = NUXOpenHouseObject::Cast(element);
+    if (!shed)
+        return std::nullopt;
+    if (!shedCounts(measure, shed->openHouseUse(), ruleName))
+        return BodyList();
+    return elementSide(element);
+}
+
+/// Deliberate: a point at the origin. Rules between prefab houses never come here, they are spaced instead.
+Side prefabHouseReferenceSide(const NUXElementObject* first) {
+    const auto* house = NUXPrefabHouseObject::Cast(first);
+    return sideWith(buildRectParamBody(
+        NUXRectParam({0.0, 0.0}, 0.0, 0.0, house ? house->getRectAngle() : 0.0), kBodyHeight));
+}
+
+Side referenceSide(const PairMeasure& measure, const NUXElementObject* first,
+                   const NUXElementObject* reference, const QString& ruleName) {
+    const std::wstring type = reference->getElementType();
+    const auto& types = measure.referenceTypes;
+    if (std::find(types.begin(), types.end(), type) != types.end())
+        return elementSide(reference);
+    if (type == NUX_ELEMENT_TYPE_OPENHOUSE && !measure.shedUses.empty())
+        return openShedSide(measure, reference, ruleName);
+    if (type == NUX_EDO_TYPE_ROAD && measure.countsFireRoads)
+        return fireRoadSide(reference);
+    if (type == NUX_ELEMENT_TYPE_PREFABHOUSE && measure.countsPrefabHouses)
+        return prefabHouseReferenceSide(first);
+    return BodyList();
+}
+
+} // namespace
+
+double pairDistance(const NUXElementObject* first, const NUXElementObject* reference,
+                    const NuxStandardCheckRule& rule) {
+    const PairMeasure* measure = measureOf(first->getElementType());
+    if (!measure)
+        return 0.0;
+    Side firstSide = measure->firstSide(first);
+    if (!firstSide)
+        return 0.0;
+    Side otherSide = referenceSide(*measure, first, reference, rule.name);
+    if (!otherSide)
+        return 0.0;
+    return minBodyDistance(std::move(*firstSide), std::move(*otherSide));
+}

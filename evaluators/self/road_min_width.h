@@ -1,0 +1,3 @@
+#pragma once
+
+inline constexpr double kMinimumFireRoadWidth = 4000.0; ///< millimetres
