@@ -1,0 +1,49 @@
+#include "geometry/edge_fractions.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace hrx {
+
+namespace {
+
+double nearestFractionOfLine(const Edge2d& edge, const CVec2<double>& point) {
+    const CVec2<double> chord = edge.end - edge.start;
+    const double squaredLength = dot(chord, chord);
+    if (!(squaredLength > 0.0))
+        return 0.0;
+    return std::clamp(dot(point - edge.start, chord) / squaredLength, 0.0, 1.0);
+}
+
+} // namespace
+
+CVec2<double> pointAt(const Edge2d& edge, double fraction) {
+    if (fraction == 0.0)
+        return edge.start;
+    if (fraction == 1.0)
+        return edge.end;
+    const CVec2<double> chord = edge.end - edge.start;
+    if (!edge.isArc())
+        return edge.start + chord * fraction;
+    const double halfSweep = edge.sweep() / 2.0;
+    const double scale = std::sin(fraction * halfSweep) / std::sin(halfSweep);
+    const double turn = (fraction - 1.0) * halfSweep;
+    const double along = scale * std::cos(turn);
+    const double across = scale * std::sin(turn);
+    return edge.start + chord * along + leftNormal(chord) * across;
+}
+
+double nearestFraction(const Edge2d& edge, const CVec2<double>& point) {
+    if (!edge.isArc())
+        return nearestFractionOfLine(edge, point);
+    const double sweep = edge.sweep();
+    const CVec2<double> centre = edge.centre();
+    const CVec2<double> toMiddle = edge.middle() - centre;
+    const CVec2<double> toPoint = point - centre;
+    const double fromMiddle = std::atan2(cross(toMiddle, toPoint), dot(toMiddle, toPoint));
+    if (std::abs(fromMiddle) <= std::abs(sweep) / 2.0)
+        return std::clamp(0.5 + fromMiddle / sweep, 0.0, 1.0);
+    return length(point - edge.start) <= length(point - edge.end) ? 0.0 : 1.0;
+}
+
+} // namespace hrx
