@@ -1,6 +1,7 @@
 #include "elements/NUXServiceCableObject.h"
 
 #include "geometry/CPlaneCurve3d.h"
+#include "geometry/CPolygon.h"
 #include "geometry/GBodyBuilder.h"
 
 namespace {
