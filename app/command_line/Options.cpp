@@ -1,0 +1,28 @@
+#include "command_line/Options.h"
+
+#include "InputError.h"
+
+Options::Options(const QStringList& words, const QStringList& valueOptions) {
+    for (const QString& option : valueOptions)
+        m_parser.addOption({option, {}, "value"});
+    // The parser expects the program's name first.
+    if (!m_parser.parse(QStringList("firecheck") + words))
+        throw InputError(m_parser.errorText().toStdString() + " Try \"firecheck --help\".");
+}
+
+std::optional<QString> Options::value(const QString& option) const {
+    if (!m_parser.isSet(option))
+        return std::nullopt;
+    const QString given = m_parser.value(option);
+    if (given.isEmpty())
+        throw InputError("Option --" + option.toStdString() + " needs a value.");
+    return given;
+}
+
+QString Options::format(const QStringList& allowed) const {
+    const QString format = value("format").value_or(allowed.first());
+    if (!allowed.contains(format))
+        throw InputError("No such format: \"" + format.toStdString() + "\". Choose one of " +
+                         allowed.join(", ").toStdString() + ".");
+    return format;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The options and arguments of one command. Throws InputError for options that it does not have.
+class Options {
+public:
+    Options(const QStringList& words, const QStringList& valueOptions);
+
+    /// Nothing when it is not given; the last one when it is given again.
+    std::optional<QString> value(const QString& option) const;
+    QStringList arguments() const { return m_parser.positionalArguments(); }
+
+    /// The value of --format; the first of `allowed` unless given.
+    QString format(const QStringList& allowed) const;
+
+private:
+    QCommandLineParser m_parser;
+};

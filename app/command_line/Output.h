@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFile>
+#include <QSaveFile>
+#include <QString>
+
+#include <memory>
+#include <string>
+
+/// Where results go: standard output, or a file that takes the place of an older one only when all is
+/// written. Every failure to write throws InputError.
+class Output {
+public:
+    /// An empty name stands for standard output.
+    explicit Output(const QString& fileName);
+
+    void write(const std::string& piece);
+
+    /// Without this a file is left as it was.
+    void commit();
+
+    bool isTerminal() const;
+
+private:
+    [[noreturn]] void fail() const;
+
+    std::string m_name;
+    std::unique_ptr<QSaveFile> m_file;
+    QFile m_standardOutput;
+};

@@ -1,0 +1,8 @@
+#include "command_line/commands.h"
+#include "text/printable.h"
+
+#include <cstdio>
+
+void complain(const std::string& message) {
+    std::fprintf(stderr, "firecheck: %s\n", printable(message).c_str());
+}

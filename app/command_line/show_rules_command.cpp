@@ -1,0 +1,52 @@
+#include "InputError.h"
+#include "command_line/Options.h"
+#include "command_line/Output.h"
+#include "command_line/commands.h"
+#include "rules/rule_fields.h"
+#include "rules/rule_file.h"
+
+namespace {
+
+std::string rulesAsJson(const RuleMap& rules) {
+    Json entries = Json::array();
+    for (auto entry = rules.begin(); entry != rules.end(); ++entry) {
+        Json records = Json::array();
+        for (const NuxStandardCheckRule& rule : entry.value())
+            records.push_back(ruleTexts(rule));
+        entries.push_back({{"key", entry.key().toStdString()}, {"records", std::move(records)}});
+    }
+    return Json{{"rules", std::move(entries)}}.dump(2) + "\n";
+}
+
+/// Texts are quoted as in JSON, so that blanks and control characters show; empty ones are left out.
+std::string rulesAsText(const RuleMap& rules) {
+    std::string text;
+    for (auto entry = rules.begin(); entry != rules.end(); ++entry) {
+        text += Json(entry.key().toStdString()).dump() + "\n";
+        for (const NuxStandardCheckRule& rule : entry.value()) {
+            const char* bullet = "  - ";
+            for (const auto& [name, member] : ruleTextFields()) {
+                if ((rule.*member).isEmpty())
+                    continue;
+                text += bullet + std::string(name) + ": " + Json((rule.*member).toStdString()).dump() + "\n";
+                bullet = "    ";
+            }
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+int showRulesCommand(const QStringList& words) {
+    const Options options(words, {"format", "output"});
+    const QStringList files = options.arguments();
+    if (files.size() > 1)
+        throw InputError("Only one rule file can be shown at a time.");
+    const QString format = options.format({"text", "json"});
+    const RuleMap& rules = loadRules(files.isEmpty() ? defaultRuleFile() : files.first().toStdString());
+    Output output(options.value("output").value_or(QString()));
+    output.write(format == "json" ? rulesAsJson(rules) : rulesAsText(rules));
+    output.commit();
+    return kNothingFound;
+}

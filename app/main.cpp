@@ -1,0 +1,64 @@
+#include "InputError.h"
+#include "command_line/commands.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+constexpr const char* kHelp =
+    R"(firecheck - checks construction-site layouts against fire-safety rules
+
+  firecheck check SITE... [--rules FILE] [--format text|json] [--output FILE]
+      Checks each site file and reports what breaks a rule.
+  firecheck show-rules [FILE] [--format text|json] [--output FILE]
+      Shows the rules of a rule file as the checker holds them.
+  firecheck site-schema [--format json|markdown] [--output FILE]
+      Writes the JSON Schema of site files, or the list of their classes and keys.
+  firecheck --help | --version
+
+Results go to standard output or the file named by --output, which is replaced only
+when every input could be used; everything else goes to standard error. Without
+--rules (or FILE) the rule file that comes with the checker is used.
+
+Exit status: 0 nothing found, 1 violations found, 2 wrong usage or input.
+)";
+
+int run(const QStringList& words) {
+    const QString command = words.value(0);
+    const QStringList rest = words.mid(1);
+    if (command == "--help" || command == "-h" || rest.contains("--help")) {
+        std::fputs(kHelp, stdout);
+        return kNothingFound;
+    }
+    if (command == "--version") {
+        std::puts("firecheck " FIRECHECK_VERSION);
+        return kNothingFound;
+    }
+    if (command == "check")
+        return checkCommand(rest);
+    if (command == "show-rules")
+        return showRulesCommand(rest);
+    if (command == "site-schema")
+        return siteSchemaCommand(rest);
+    throw InputError(
+        (command.isEmpty() ? "No command is given." : "No such command: \"" + command + "\".").toStdString() +
+        " Try \"firecheck --help\".");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // File names and output are UTF-8 whatever the locale says.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const QCoreApplication application(argc, argv);
+    try {
+        return run(QCoreApplication::arguments().mid(1));
+    } catch (const std::exception& error) {
+        complain(error.what());
+        return kWrongInput;
+    }
+}

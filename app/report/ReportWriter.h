@@ -1,0 +1,33 @@
+#pragma once
+
+#include "report/SiteReport.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+/// Writes the reports of one call, site after site, so that no more than one is held at a time.
+class ReportWriter {
+public:
+    /// Takes the report's bytes, piece by piece.
+    using Sink = std::function<void(const std::string&)>;
+
+    explicit ReportWriter(Sink sink) : m_write(std::move(sink)) {}
+    virtual ~ReportWriter() = default;
+
+    virtual void begin() {}
+    virtual void add(const SiteReport& report) = 0;
+    virtual void end() {}
+
+protected:
+    void write(const std::string& piece) const { m_write(piece); }
+
+private:
+    Sink m_write;
+};
+
+/// One JSON object: {"sites": [...]}, one entry for each site checked.
+std::unique_ptr<ReportWriter> jsonReportWriter(ReportWriter::Sink sink);
+
+/// For people. With `coloured`, ANSI escape sequences set off what counts.
+std::unique_ptr<ReportWriter> textReportWriter(ReportWriter::Sink sink, bool coloured);

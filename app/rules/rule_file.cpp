@@ -1,0 +1,49 @@
+#include "rules/rule_file.h"
+
+#include "InputError.h"
+#include "base/rooted_file_name.h"
+#include "rules_config/NUXRuleConfigFile.h"
+
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+/// The library reads past whatever is wrong with its rule file, so the file is looked at beforehand.
+void requireWellFormed(const std::string& fileName) {
+    const QString name = QString::fromStdString(fileName);
+    if (QFileInfo(name).isDir())
+        throw InputError(fileName + ": expected a rule file, found a directory");
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+    QDomDocument document;
+    QString reason;
+    int line = 0;
+    int column = 0;
+    if (!document.setContent(&file, &reason, &line, &column))
+        throw InputError(fileName + ":" + std::to_string(line) + ":" + std::to_string(column) +
+                         ": expected a well-formed XML document: " + reason.toStdString());
+}
+
+} // namespace
+
+std::string defaultRuleFile() {
+    const QString fileName = "FireStandardCheck.xml";
+    const QString installed =
+        QCoreApplication::applicationDirPath() + "/../share/firestandardcheck/" + fileName;
+    if (QFileInfo(installed).isFile())
+        return QFileInfo(installed).canonicalFilePath().toStdString();
+    return (QStringLiteral(FIRECHECK_SOURCE_DATA_DIRECTORY) + "/" + fileName).toStdString();
+}
+
+const RuleMap& loadRules(const std::string& fileName) {
+    requireWellFormed(fileName);
+    mapRootedFileName("\\FireStandardCheck.xml", QString::fromStdString(fileName));
+    const RuleMap& rules = NUXRuleConfigFile::Single()->getAllRuleMap();
+    if (rules.isEmpty())
+        throw InputError(fileName + ": expected at least one rule");
+    return rules;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "rules_config/NuxStandardCheckRule.h"
+
+#include <QMap>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
+
+/// The rule file in use where none is named: the one installed beside the executable or, in a source tree
+/// that was never installed, the one of that tree.
+std::string defaultRuleFile();
+
+/// Has the rule store read `fileName`, and answers its rules. The store reads one file in the life of the
+/// process, so this is called once. Throws InputError for a file that cannot be read, is not well-formed XML,
+/// or holds no rule.
+const RuleMap& loadRules(const std::string& fileName);

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string>
+
+/// `utf8` on one line and harmless to a terminal: each control character becomes a question mark.
+std::string printable(const std::string& utf8);
