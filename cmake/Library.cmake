@@ -32,7 +32,7 @@ set(library_sources
     evaluators/without/required_use.cpp
     rules_config/NUXRuleConfigFile.cpp
     rules_config/NuxStandardCheckRule.cpp
-    rules_config/rule_key.cpp
+    rules_config/rule_document.cpp
     site/IdentifierField.cpp
     site/element_body.cpp
     site/house_footprint.cpp

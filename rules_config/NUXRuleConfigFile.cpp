@@ -1,10 +1,9 @@
 #include "rules_config/NUXRuleConfigFile.h"
 
 #include "base/rooted_file_name.h"
-#include "rules_config/rule_key.h"
+#include "rules_config/rule_document.h"
 
 #include <QDomDocument>
-#include <QFile>
 
 #include <algorithm>
 #include <iterator>
@@ -17,6 +16,12 @@ QString attribute(const QDomNode& node, const char* name) {
 
 QString childText(const QDomNode& node, const char* tagName) {
     return node.firstChildElement(QLatin1String(tagName)).text();
+}
+
+QString ruleKey(const NuxStandardCheckRule& rule) {
+    if (rule.type == QLatin1String("without"))
+        return rule.elementType + rule.propertyType;
+    return rule.name;
 }
 
 } // namespace
@@ -44,13 +49,8 @@ void NUXRuleConfigFile::setConfigFilePath(const QString& path) {
 }
 
 void NUXRuleConfigFile::loadFile() {
-    QDomDocument document;
-    QFile file(resolveRootedFileName(m_configFilePath + QStringLiteral("\\FireStandardCheck.xml")));
-    if (file.open(QIODevice::ReadOnly)) {
-        document.setContent(&file);
-        file.close();
-    }
-
+    const QString fileName = m_configFilePath + QStringLiteral("\\FireStandardCheck.xml");
+    const QDomDocument document = readRuleDocument(resolveRootedFileName(fileName));
     const QDomElement root = document.documentElement();
     for (QDomNode group = root.firstChild(); !group.isNull(); group = group.nextSibling()) {
         const QDomElement groupElement = group.toElement();

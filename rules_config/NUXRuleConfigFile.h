@@ -33,6 +33,8 @@ public:
     QMap<QString, std::vector<NuxStandardCheckRule>> getRuleMapFromType(const QString& type) const;
 
 private:
+    friend struct RuleStoreAccess; // for white-box tests, which read more than one file
+
     NUXRuleConfigFile();
 
     void loadFile();

@@ -1,0 +1,84 @@
+#include "base/WcharArrayToQString.h"
+#include "base/rooted_file_name.h"
+#include "cad/UdApDocManager.h"
+#include "elements/NUX3dsObject.h"
+#include "elements/NUXPrefabHouseObject.h"
+#include "elements/NUXRoadObject.h"
+#include "elements/NUXServiceCableObject.h"
+#include "elements/NUXYardOBJObject.h"
+
+#include <gtest/gtest.h>
+
+TEST(Casts, FindEveryViewOfAnObject) {
+    const NUXRoadObject road{NUXRoadParams()};
+    EXPECT_EQ(NUXElementObject::Cast(&road), &road);
+    EXPECT_EQ(NUXBaseObject::Cast(&road), &road);
+    EXPECT_EQ(NUXRoadObject::Cast(&road), &road);
+    EXPECT_EQ(NUXPrefabHouseObject::Cast(&road), nullptr);
+    EXPECT_EQ(NUX3dsBaseObject::Cast(&road), nullptr);
+    EXPECT_EQ(NUXElementObject::Cast(nullptr), nullptr);
+    const UdDbPlainObject plain;
+    EXPECT_EQ(NUXElementObject::Cast(&plain), nullptr);
+    EXPECT_EQ(NUX3dsBaseObject::Cast(&plain), nullptr);
+
+    UdDbDocument document;
+    NUXYardOBJObject& yard = document.append(std::make_unique<NUXYardOBJObject>(NUXYardOBJParams()), 7);
+    yard.attachView(std::make_unique<NUX3dsObject>(L"KIND", NUX3dsParams()));
+    const NUX3dsObject* model = NUX3dsObject::Cast(&yard);
+    ASSERT_NE(model, nullptr);
+    EXPECT_EQ(NUX3dsBaseObject::Cast(&yard), model);
+    EXPECT_EQ(NUXYardOBJObject::Cast(model), &yard);
+    EXPECT_EQ(NUX3dsObject::Cast(model), model);
+    EXPECT_EQ(model->Handle().GetID(), 7);
+}
+
+TEST(Document, OpensObjectsByHandle) {
+    UdDbDocument document;
+    document.append(std::make_unique<UdDbPlainObject>(), 2);
+    UdDbObject& shy = document.append(std::make_unique<UdDbPlainObject>(), 1);
+    const UdDbObject& numbered = document.append(std::make_unique<UdDbPlainObject>());
+    shy.setRefusesToOpen(true);
+    EXPECT_EQ(numbered.Handle().GetID(), 3);
+    EXPECT_EQ(document.GetItem(3, UdDb::kForRead), &numbered);
+    EXPECT_EQ(document.GetItem(1, UdDb::kForRead), nullptr);
+    EXPECT_EQ(document.GetItem(9, UdDb::kForRead), nullptr);
+    EXPECT_THROW(document.append(std::make_unique<UdDbPlainObject>(), 2), std::invalid_argument);
+
+    UdDbObject* opened = nullptr;
+    EXPECT_EQ(UdDbOpenUdDbObject(opened, UdDbObjectId(&shy), UdDb::kForRead, false), Udad::eNotOpen);
+    EXPECT_EQ(UdDbOpenUdDbObject(opened, UdDbObjectId(), UdDb::kForRead, false), Udad::eNullId);
+    EXPECT_EQ(opened, nullptr);
+    EXPECT_EQ(UdDbObjectId(&shy).Handle().GetID(), 1);
+}
+
+TEST(Extents, AreThoseOfTheGeometry) {
+    NUXServiceCableParams cable;
+    cable.start = {0.0, 0.0};
+    cable.end = {3000.0, 0.0};
+    cable.startElevation = cable.endElevation = 5.0;
+    cable.radius = 10.0;
+    hrx::CVec3<double> low{1e9, 1e9, 1e9};
+    hrx::CVec3<double> high{-1e9, -1e9, -1e9};
+    EXPECT_EQ(NUXServiceCableObject(cable).GetGeomExtents(low, high), Udad::eOk);
+    EXPECT_DOUBLE_EQ(low.z, 4990.0);
+    EXPECT_DOUBLE_EQ(high.x, 3000.0);
+    EXPECT_DOUBLE_EQ(high.y, 10.0);
+
+    UdDbPlainObject plain;
+    EXPECT_EQ(plain.GetGeomExtents(low, high), Udad::eNoExtents);
+    EXPECT_DOUBLE_EQ(low.z, 4990.0);
+    hrx::CExtents3 given;
+    given.add({1.0, 2.0, 3.0});
+    plain.setExtents(given);
+    EXPECT_EQ(plain.GetGeomExtents(low, high), Udad::eOk);
+    EXPECT_DOUBLE_EQ(low.z, 3.0);
+}
+
+TEST(RootedNames, LieBelowTheDriveRoot) {
+    setDriveRoot("/data");
+    EXPECT_EQ(resolveRootedFileName("\\a\\b.xml"), "/data/a/b.xml");
+    EXPECT_EQ(resolveRootedFileName("C:\\a.xml"), "C:\\a.xml");
+    mapRootedFileName("\\a\\b.xml", "/other/c.xml");
+    EXPECT_EQ(resolveRootedFileName("\\a\\b.xml"), "/other/c.xml");
+    EXPECT_EQ(resolveRootedFileName("\\a.xml"), "/data/a.xml");
+}

@@ -1,0 +1,126 @@
+#include "base/rooted_file_name.h"
+#include "rules_config/NUXRuleConfigFile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+struct RuleStoreAccess {
+    static NUXRuleConfigFile load() { return NUXRuleConfigFile(); }
+};
+
+namespace {
+
+using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
+
+NUXRuleConfigFile storeOf(const QByteArray& text) {
+    const QTemporaryDir root;
+    QFile file(root.filePath("FireStandardCheck.xml"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    setDriveRoot(root.path());
+    return RuleStoreAccess::load();
+}
+
+RuleMap rulesOf(const QByteArray& text) {
+    return storeOf(text).getAllRuleMap();
+}
+
+/// The rules of the map as "key: name name; key: name".
+std::string outline(const RuleMap& rules) {
+    QStringList entries;
+    for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
+        QStringList names;
+        for (const NuxStandardCheckRule& rule : *entry)
+            names << rule.name;
+        entries << entry.key() + ": " + names.join(' ');
+    }
+    return entries.join("; ").toStdString();
+}
+
+} // namespace
+
+TEST(RuleStore, FilesEveryNodeOfEveryGroup) {
+    struct Row {
+        const char* what;
+        QByteArray text;
+        const char* rules;
+    };
+    const Row rows[] = {
+        {"other names of root and groups", "<a><b><R/></b><c><Q/></c></a>", "Q: Q; R: R"},
+        {"one name in two groups, in document order", "<a><b><R Type='1'/></b><c><R Type='2'/></c></a>",
+         "R: R R"},
+        {"white space between rules is no rule", "<a>\n <b>\n  <R/>\n </b>\n</a>", "R: R"},
+        {"comment, text, data section and instruction in a group are rules",
+         "<a><b><!-- c --><R/>text<![CDATA[d]]><?pi x?></b></a>",
+         "#cdata-section: #cdata-section; #comment: #comment; #text: #text; R: R; pi: pi"},
+        {"what is no element beside the groups is nothing", "<a><!-- c -->text<b><R/></b></a>", "R: R"},
+        {"a rule directly below the root is a group", "<a><R Type='self'><ObjName/></R></a>",
+         "ObjName: ObjName"},
+        {"absence rules by element and property type",
+         "<a><b><W Type='without' ElementType='AB' PropertyType='C'/><V Type='without' ElementType='A' "
+         "PropertyType='BC'/></b></a>",
+         "ABC: W V"},
+        {"another letter case is another type", "<a><b><W Type='Without' ElementType='AB'/></b></a>", "W: W"},
+        {"no element at all", "<a/>", ""},
+        {"not a document", "nonsense", ""},
+        {"not well-formed", "<a><b><R/></b>", ""},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(outline(rulesOf(row.text)), row.rules) << row.what;
+}
+
+TEST(RuleStore, ReadsARuleAsItStands) {
+    const RuleMap rules =
+        rulesOf("<a><b><R ElementType=' E ' Type='self' PropertyType='P' Standard='S &amp; T' "
+                "ReferenceElementType='F' "
+                "ConstraintCondition='less or more' DistantValue='6:10' type='x' Other='y'>"
+                "<RuleDescription>one <b>two<i> "
+                "three</i></b></RuleDescription><RuleDescription>second</RuleDescription>"
+                "<ruledescription>no</ruledescription><RuleCatalog> c </RuleCatalog><ObjName>食堂</ObjName>"
+                "<ReferenceObjName>r</ReferenceObjName></R></b></a>");
+    ASSERT_EQ(outline(rules), "R: R");
+    const NuxStandardCheckRule& rule = rules["R"][0];
+    EXPECT_EQ(rule.elementType, " E ");
+    EXPECT_EQ(rule.type, "self");
+    EXPECT_EQ(rule.propertyType, "P");
+    EXPECT_EQ(rule.standard, "S & T");
+    EXPECT_EQ(rule.referenceElementType, "F");
+    EXPECT_EQ(rule.constraintCondition, "less or more");
+    EXPECT_EQ(rule.distantValue, "6:10");
+    EXPECT_EQ(rule.ruleDescription, "one two three");
+    EXPECT_EQ(rule.ruleCatalog, " c ");
+    EXPECT_EQ(rule.ruleDetailDescription, "");
+    EXPECT_EQ(rule.objName, "食堂");
+    EXPECT_EQ(rule.referenceObjName, "r");
+    EXPECT_EQ(rule.handle, 0);
+    EXPECT_TRUE(rule.relatedHandles.empty());
+    EXPECT_FALSE(rule.flag);
+}
+
+TEST(RuleStore, SelectsByExactType) {
+    const NUXRuleConfigFile store =
+        storeOf("<a><g><R Type='self'/><R Type='distant'/><Q Type='self'/><P Type='selfish'/></g></a>");
+    EXPECT_EQ(outline(store.getRuleMapFromType("self")), "Q: Q; R: R");
+    EXPECT_EQ(outline(store.getRuleMapFromType("distant")), "R: R");
+    EXPECT_EQ(outline(store.getRuleMapFromType("Self")), "");
+}
+
+TEST(RuleStore, ReadsOnceAtTheFirstCall) {
+    const QTemporaryDir first;
+    const QTemporaryDir second;
+    for (const auto& [directory, text] : {std::pair(first.path(), "<a><g><First/></g></a>"),
+                                          std::pair(second.path(), "<a><g><Second/></g></a>")}) {
+        QFile file(directory + "/FireStandardCheck.xml");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    setDriveRoot(first.path());
+    NUXRuleConfigFile* store = NUXRuleConfigFile::Single();
+    setDriveRoot(second.path());
+    store->setConfigFilePath(second.path());
+    EXPECT_EQ(NUXRuleConfigFile::Single(), store);
+    EXPECT_EQ(outline(store->getAllRuleMap()), "First: First");
+    EXPECT_EQ(outline(NUXRuleConfigFile(*store).getAllRuleMap()), "First: First");
+}
