@@ -57,7 +57,7 @@ CArc2d::CArc2d(const CVec2<double>& start, const CVec2<double>& end, const CVec2
 CArc2d::CArc2d(const CVec2<double>& centre, double radius, double fromAngle, double toAngle) {
     const double sweep = std::clamp(toAngle - fromAngle, -2.0 * kPi, 2.0 * kPi);
     if (!(magnitude(centre) + std::abs(radius) <= g_curveCoordinateLimit) || !std::isfinite(fromAngle) ||
-        !std::isfinite(sweep) || !(radius * std::abs(sweep) > g_DistEpsilon))
+        !std::isfinite(toAngle) || !(radius * std::abs(sweep) > g_DistEpsilon))
         return;
     const CVec2<double> start = pointOnCircle(centre, radius, fromAngle);
     const bool fullCircle = std::abs(sweep) == 2.0 * kPi;

@@ -1,7 +1,6 @@
 #include "geometry/Strand.h"
 
 #include "geometry/edge_fractions.h"
-#include "geometry/edge_intersections.h"
 
 #include <cmath>
 
@@ -34,7 +33,7 @@ double Strand::nearestFraction(const CVec2<double>& point) const {
 Strand Strand::piece(double fromFraction, double toFraction, const CVec2<double>& start,
                      const CVec2<double>& end) const {
     constexpr double halfCircle = 3.14159265358979323846;
-    Strand result{from, to, curve, {}, moved};
+    Strand result{from, to, curve, {}};
     double sweep = 0.0;
     for (const Edge2d& part : parts)
         sweep += part.isArc() ? part.sweep() : 0.0;
@@ -46,8 +45,6 @@ Strand Strand::piece(double fromFraction, double toFraction, const CVec2<double>
         result.parts.push_back({start, middle, std::tan(sweep / 8.0)});
         result.parts.push_back({middle, end, std::tan(sweep / 8.0)});
     }
-    result.moved = moved || length(pointAt(fromFraction) - start) > g_touchDistance ||
-                   length(pointAt(toFraction) - end) > g_touchDistance;
     return result;
 }
 

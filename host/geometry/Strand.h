@@ -18,8 +18,6 @@ struct Strand {
     /// The curve that the piece comes from.
     std::size_t curve;
     Parts parts;
-    /// True when joining has moved an end of the piece off its curve.
-    bool moved = false;
 
     /// Least box around the parts.
     CBox2d box() const;

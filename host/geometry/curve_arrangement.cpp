@@ -5,9 +5,14 @@
 #include "geometry/edge_intersections.h"
 #include "geometry/end_joining.h"
 
+#include <boost/geometry/geometries/box.hpp>
+#include <boost/geometry/geometries/point_xy.hpp>
+#include <boost/geometry/index/rtree.hpp>
+
 #include <algorithm>
 #include <limits>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace hrx {
@@ -16,6 +21,23 @@ namespace {
 
 /// Moving ends seldom brings up new crossings, and theirs hardly ever do.
 constexpr int kMostRounds = 8;
+
+/// Crossings nearer than this (mm) to the common end of two strands are that end, blurred where they touch.
+constexpr double kLeastPiece = 1e-2;
+
+using PlanPoint = boost::geometry::model::d2::point_xy<double>;
+using IndexedBox = std::pair<boost::geometry::model::box<PlanPoint>, std::size_t>;
+
+boost::geometry::model::box<PlanPoint> boxAround(const CBox2d& box, double margin) {
+    return {{box.low.x - margin, box.low.y - margin}, {box.high.x + margin, box.high.y + margin}};
+}
+
+/// What a crossing near the common end of both its strands means.
+enum class NearNode {
+    IsTheNode, ///< that end, drawn carelessly
+    MayDivide ///< strands that leave the node and cross again; a node of its own keeps the face beyond whole,
+              ///< and the pieces before it run together and count once
+};
 
 class Arrangement {
 public:
@@ -29,8 +51,10 @@ private:
     void attachEndsToCurves();
     std::vector<std::size_t> strandsAttachedBy(std::size_t node) const;
     CVec2<double> nearestPlaceOn(const std::vector<std::size_t>& strands, const CVec2<double>& point) const;
-    bool findCrossings(bool allStrands);
-    void addCrossings(std::size_t first, std::size_t second);
+    bool findCrossings(NearNode nearNode);
+    void addCrossings(std::size_t first, std::size_t second, NearNode nearNode);
+    std::optional<std::size_t> nodeNear(const CVec2<double>& point, const Strand& first, const Strand& second,
+                                        NearNode nearNode) const;
     void addCut(std::size_t strand, std::size_t node);
     void divideStrands();
     void dropRepeatedStrands();
@@ -55,9 +79,9 @@ Arrangement::Arrangement(const std::vector<std::vector<Edge2d>>& curves, const J
     m_cuts.resize(m_strands.size());
     joinCurveEnds();
     attachEndsToCurves();
-    findCrossings(true);
+    findCrossings(NearNode::IsTheNode);
     divideStrands();
-    for (int round = 1; round < kMostRounds && findCrossings(false); ++round)
+    for (int round = 1; round < kMostRounds && findCrossings(NearNode::MayDivide); ++round)
         divideStrands();
 }
 
@@ -138,37 +162,54 @@ void Arrangement::attachEndsToCurves() {
     }
 }
 
-/// Looks at pairs of which at least one strand was moved, or at all; false when nothing is to be divided.
-bool Arrangement::findCrossings(bool allStrands) {
-    constexpr double squaredTouch = g_touchDistance * g_touchDistance;
-    for (std::size_t i = 0; i < m_strands.size(); ++i) {
-        if (!allStrands && !m_strands[i].moved)
-            continue;
-        for (std::size_t j = 0; j < m_strands.size(); ++j) {
-            const bool seenFromOther = j <= i && (allStrands || m_strands[j].moved);
-            if (!seenFromOther && j != i && squaredDistance(m_boxes[i], m_boxes[j]) <= squaredTouch)
-                addCrossings(i, j);
+/// False when nothing is to be divided.
+bool Arrangement::findCrossings(NearNode nearNode) {
+    std::vector<IndexedBox> boxes;
+    for (std::size_t i = 0; i < m_strands.size(); ++i)
+        boxes.emplace_back(boxAround(m_boxes[i], g_touchDistance), i);
+    const boost::geometry::index::rtree<IndexedBox, boost::geometry::index::rstar<16>> tree(boxes);
+    for (const auto& [box, first] : boxes) {
+        for (auto found = tree.qbegin(boost::geometry::index::intersects(box)); found != tree.qend();
+             ++found) {
+            if (found->second > first)
+                addCrossings(first, found->second, nearNode);
         }
     }
     return std::any_of(m_cuts.begin(), m_cuts.end(), [](const auto& cuts) { return !cuts.empty(); });
 }
 
-void Arrangement::addCrossings(std::size_t first, std::size_t second) {
+void Arrangement::addCrossings(std::size_t first, std::size_t second, NearNode nearNode) {
     for (const Edge2d& part : m_strands[first].parts) {
         for (const Edge2d& other : m_strands[second].parts) {
             for (const EdgeIntersection& crossing : edgeIntersections(part, other)) {
-                std::size_t node = m_nodes.size();
-                if (const auto known = m_nodeGrid.nearestJoinedWith(crossing.point)) {
-                    node = *known;
-                } else {
+                auto node = nodeNear(crossing.point, m_strands[first], m_strands[second], nearNode);
+                if (!node) {
+                    node = m_nodes.size();
                     m_nodes.push_back(crossing.point);
-                    m_nodeGrid.add(node, crossing.point);
+                    m_nodeGrid.add(*node, crossing.point);
                 }
-                addCut(first, node);
-                addCut(second, node);
+                addCut(first, *node);
+                addCut(second, *node);
             }
         }
     }
+}
+
+/// The node to which a crossing belongs, if any.
+std::optional<std::size_t> Arrangement::nodeNear(const CVec2<double>& point, const Strand& first,
+                                                 const Strand& second, NearNode nearNode) const {
+    const auto nearest = m_nodeGrid.nearestJoinedWith(point);
+    const auto isCommonEnd = [&](std::size_t node) {
+        return (first.from == node || first.to == node) && (second.from == node || second.to == node);
+    };
+    if (!nearest || nearNode == NearNode::IsTheNode || !isCommonEnd(*nearest) ||
+        length(m_nodes[*nearest] - point) <= kLeastPiece)
+        return nearest;
+    for (const std::size_t node : m_nodeGrid.joinedWith(point)) {
+        if (!isCommonEnd(node))
+            return node;
+    }
+    return std::nullopt;
 }
 
 void Arrangement::addCut(std::size_t strand, std::size_t node) {
