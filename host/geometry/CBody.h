@@ -1,6 +1,8 @@
 #pragma once
 
 #include "geometry/CExtents3.h"
+#include "geometry/ConvexPiece.h"
+#include "geometry/UprightSolid.h"
 
 namespace hrx {
 
@@ -18,6 +20,17 @@ public:
     virtual CExtents3 GetExtents() const = 0;
     /// True when the solid passes every check of its kind and has a volume.
     virtual bool isStrictlyValid() const = 0;
+
+    /// True when a distance to the solid makes sense: it has points, all finite and within 1e12 mm of the
+    /// world's origin. The members below need it.
+    virtual bool isMeasurable() const = 0;
+    /// Describes the solid as one that stands straight up, if it is one. What it borrows lives as long as the
+    /// body.
+    virtual bool describeUpright(UprightSolid&) const { return false; }
+    /// Appends convex pieces whose union has the boundary of the solid, moved by -origin.
+    virtual void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const = 0;
+    /// True for a point inside the solid, when its pieces do not fill it.
+    virtual bool holds(const CVec3<double>&) const { return false; }
 };
 
 } // namespace hrx

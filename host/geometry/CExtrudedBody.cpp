@@ -1,6 +1,10 @@
 #include "geometry/CExtrudedBody.h"
 
 #include "geometry/DistEpsilon.h"
+#include "geometry/PrismPieces.h"
+#include "geometry/finite.h"
+#include "geometry/outline_shape.h"
+#include "geometry/plan_distance.h"
 
 #include <cmath>
 #include <ostream>
@@ -9,33 +13,40 @@ namespace hrx {
 
 namespace {
 
-constexpr unsigned long kEveryCheck = 0x1f;
-
-bool isFinite(const CVec3<double>& v) {
-    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+bool standsInWorldPlan(const CCoord3<double>& frame) {
+    return frame.xAxis.x == 1.0 && frame.xAxis.y == 0.0 && frame.yAxis.x == 0.0 && frame.yAxis.y == 1.0 &&
+           frame.origin.x == 0.0 && frame.origin.y == 0.0;
 }
 
-bool isFinite(const CCoord3<double>& frame) {
-    return isFinite(frame.origin) && isFinite(frame.xAxis) && isFinite(frame.yAxis) && isFinite(frame.zAxis);
+bool isUpright(const CCoord3<double>& frame) {
+    return frame.zAxis.x == 0.0 && frame.zAxis.y == 0.0 && frame.xAxis.z == 0.0 && frame.yAxis.z == 0.0;
 }
 
 } // namespace
 
 CExtrudedBody::CExtrudedBody(const CCoord3<double>& frame, double height, CPolygon* outline, bool)
-    : m_frame(frame), m_height(height), m_outline(outline) {}
+    : m_frame(frame), m_height(height), m_outline(outline) {
+    if (m_outline && isUpright(m_frame))
+        m_plan = standsInWorldPlan(m_frame) ? m_outline : PolygonRef(movedToPlan(*m_outline, m_frame));
+}
 
 CExtents3 CExtrudedBody::GetExtents() const {
     CExtents3 extents;
     if (!m_outline)
         return extents;
+    PrismPiece hull(m_frame, m_height);
+    bool empty = true;
     for (const CCoedgeList& loop : m_outline->loops())
-        for (const Edge2d& edge : loop.edges())
-            extents.add(m_frame.toWorld({edge.start.x, edge.start.y, 0.0}));
-    return extents;
+        for (const Edge2d& edge : loop.edges()) {
+            hull.add(edge);
+            empty = false;
+        }
+    return empty ? extents : hull.box();
 }
 
 bool CExtrudedBody::isStrictlyValid() const {
-    return IsValid(kEveryCheck, nullptr) && std::abs(m_height) > g_DistEpsilon;
+    return isFinite(m_frame) && std::isfinite(m_height) && std::abs(m_height) > g_DistEpsilon && m_outline &&
+           hrx::isStrictlyValid(*m_outline);
 }
 
 bool CExtrudedBody::IsValid(const std::bitset<16>& checks, std::ostream* log) const {
@@ -50,6 +61,54 @@ bool CExtrudedBody::IsValid(const std::bitset<16>& checks, std::ostream* log) co
         return false;
     }
     return m_outline->IsValid(checks, log);
+}
+
+bool CExtrudedBody::isMeasurable() const {
+    return m_outline && isWithinReach(*m_outline) && isWithinReach(m_height) &&
+           isWithinReach(m_frame.origin) && isWithinReach(m_frame.xAxis) && isWithinReach(m_frame.yAxis) &&
+           isWithinReach(m_frame.zAxis);
+}
+
+bool CExtrudedBody::describeUpright(UprightSolid& solid) const {
+    if (!m_plan)
+        return false;
+    const double base = m_frame.origin.z;
+    const double top = base + m_frame.zAxis.z * m_height;
+    solid.outline = m_plan.get();
+    solid.low = std::min(base, top);
+    solid.high = std::max(base, top);
+    return true;
+}
+
+void CExtrudedBody::appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const {
+    // The outline moves to its first corner and the frame with it, so that the place of the site costs no
+    // precision.
+    const CVec2<double> corner = firstCorner(*m_outline);
+    CCoord3<double> base = m_frame;
+    base.origin = m_frame.origin - origin + m_frame.xAxis * corner.x + m_frame.yAxis * corner.y;
+    const auto moved = [&](const Edge2d& edge) {
+        return Edge2d{edge.start - corner, edge.end - corner, edge.bulge};
+    };
+    if (isConvex(*m_outline)) {
+        auto whole = std::make_unique<PrismPiece>(base, m_height);
+        for (const Edge2d& edge : m_outline->GetLoop(0)->edges())
+            whole->add(moved(edge));
+        pieces.push_back(std::move(whole));
+        return;
+    }
+    CCoord3<double> raised = base;
+    raised.origin = base.origin + m_frame.zAxis * m_height;
+    pieces.push_back(std::make_unique<CapPiece>(base, *m_outline, corner));
+    pieces.push_back(std::make_unique<CapPiece>(raised, *m_outline, corner));
+    for (const CCoedgeList& loop : m_outline->loops())
+        for (const Edge2d& edge : loop.edges())
+            pieces.push_back(std::make_unique<WallPiece>(base, m_height, moved(edge)));
+}
+
+bool CExtrudedBody::holds(const CVec3<double>& point) const {
+    const CVec3<double> local = m_frame.toLocal(point);
+    return local.z >= std::min(0.0, m_height) && local.z <= std::max(0.0, m_height) &&
+           contains(*m_outline, {local.x, local.y});
 }
 
 } // namespace hrx

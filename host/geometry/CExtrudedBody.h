@@ -23,14 +23,16 @@ public:
     /// The checks of the outline (see CPolygon::IsValid), and a finite frame and height.
     bool IsValid(const std::bitset<16>& checks, std::ostream* log) const;
 
-    const CCoord3<double>& frame() const { return m_frame; }
-    double height() const { return m_height; }
-    const CPolygon* outline() const { return m_outline.get(); }
+    bool isMeasurable() const override;
+    bool describeUpright(UprightSolid& solid) const override;
+    void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const override;
+    bool holds(const CVec3<double>& point) const override;
 
 private:
     CCoord3<double> m_frame;
     double m_height;
     PolygonRef m_outline;
+    PolygonRef m_plan; ///< the outline in world coordinates when the solid stands upright
 };
 
 } // namespace hrx

@@ -1,15 +1,15 @@
 #include "geometry/CPolygon.h"
+#include "geometry/DistEpsilon.h"
+#include "geometry/edge_intersections.h"
+#include "geometry/finite.h"
 
 #include <cmath>
+#include <iterator>
 #include <ostream>
 
 namespace hrx {
 
 namespace {
-
-bool isFinite(const CVec2<double>& v) {
-    return std::isfinite(v.x) && std::isfinite(v.y);
-}
 
 bool hasLoops(const CPolygon& polygon) {
     for (const CCoedgeList& loop : polygon.loops())

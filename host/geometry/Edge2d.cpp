@@ -19,24 +19,6 @@ CVec2<double> unit(const CVec2<double>& v) {
     return size > 0.0 ? v * (1.0 / size) : CVec2<double>{};
 }
 
-/// A box that surely holds the arc, without the rounding that a very large radius brings.
-CBox2d looseBox(const Edge2d& edge) {
-    CBox2d box;
-    const CVec2<double> chord = edge.end - edge.start;
-    const CVec2<double> rise = leftNormal(chord) * (-0.5 * edge.bulge);
-    box.add(edge.start + rise);
-    box.add(edge.end + rise);
-    box.add(edge.start);
-    box.add(edge.end);
-    if (std::abs(edge.bulge) > 1.0) {
-        const CVec2<double> centre = edge.centre();
-        const double radius = edge.radius();
-        box.add(centre + CVec2<double>(radius, radius));
-        box.add(centre - CVec2<double>(radius, radius));
-    }
-    return box;
-}
-
 } // namespace
 
 bool Edge2d::isArc() const {
@@ -61,7 +43,7 @@ CBox2d Edge2d::box() const {
     box.add(end);
     if (!isArc())
         return box;
-    const CBox2d loose = looseBox(*this);
+    const CBox2d loose = looseBox();
     const CVec2<double> middlePoint = centre();
     const double size = radius();
     const CVec2<double> extremes[] = {{size, 0.0}, {-size, 0.0}, {0.0, size}, {0.0, -size}};
@@ -70,6 +52,22 @@ CBox2d Edge2d::box() const {
         if (isLeftOf(*this, point) != (bulge > 0.0))
             box.add({std::clamp(point.x, loose.low.x, loose.high.x),
                      std::clamp(point.y, loose.low.y, loose.high.y)});
+    }
+    return box;
+}
+
+CBox2d Edge2d::looseBox() const {
+    CBox2d box;
+    box.add(start);
+    box.add(end);
+    const CVec2<double> rise = leftNormal(end - start) * (-0.5 * bulge);
+    box.add(start + rise);
+    box.add(end + rise);
+    if (std::abs(bulge) > 1.0) {
+        const CVec2<double> middlePoint = centre();
+        const double size = radius();
+        box.add(middlePoint + CVec2<double>(size, size));
+        box.add(middlePoint - CVec2<double>(size, size));
     }
     return box;
 }
@@ -84,6 +82,12 @@ CVec2<double> Edge2d::endDirection() const {
     const CVec2<double> along = unit(end - start);
     const CVec2<double> half = halfSweepDirection(bulge);
     return along * half.x + leftNormal(along) * half.y;
+}
+
+std::pair<Edge2d, Edge2d> Edge2d::halves() const {
+    // tan(x / 2) from tan(x)
+    const double half = bulge / (1.0 + std::hypot(1.0, bulge));
+    return {{start, middle(), half}, {middle(), end, half}};
 }
 
 CVec2<double> Edge2d::centre() const {

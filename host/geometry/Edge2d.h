@@ -3,6 +3,8 @@
 #include "geometry/CBox2d.h"
 #include "geometry/CVec2.h"
 
+#include <utility>
+
 namespace hrx {
 
 /// One edge of an outline: a straight line or a circular arc from start to end, in mm.
@@ -24,12 +26,17 @@ struct Edge2d {
     CVec2<double> middle() const;
     /// Least box around the edge, arcs included.
     CBox2d box() const;
+    /// A box that surely holds the edge, larger where that spares the rounding of a very large radius.
+    CBox2d looseBox() const;
     /// Unit vector in which the edge leaves its start; (0, 0) without length.
     CVec2<double> startDirection() const;
     /// Unit vector in which the edge arrives at its end; (0, 0) without length.
     CVec2<double> endDirection() const;
     /// The same points run through the other way.
     Edge2d reversed() const { return {end, start, -bulge}; }
+
+    /// The edge in two, divided at its middle.
+    std::pair<Edge2d, Edge2d> halves() const;
 
     CVec2<double> centre() const;
     double radius() const;

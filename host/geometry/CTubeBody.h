@@ -1,0 +1,26 @@
+#pragma once
+
+#include "geometry/CBody.h"
+#include "geometry/CPlaneCurve3d.h"
+#include "geometry/CPolygon.h"
+
+namespace hrx {
+
+/// A tube with flat ends along an arc, no thicker than the arc's own circle. Shares its section.
+class CTubeBody : public CBody {
+public:
+    CTubeBody(const CPlaneCurve3d& path, CPolygon* section, double radius)
+        : m_path(path), m_section(section), m_radius(radius) {}
+
+    CExtents3 GetExtents() const override;
+    bool isStrictlyValid() const override;
+    bool isMeasurable() const override;
+    void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const override;
+
+private:
+    CPlaneCurve3d m_path;
+    PolygonRef m_section;
+    double m_radius;
+};
+
+} // namespace hrx

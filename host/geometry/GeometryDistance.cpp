@@ -1,0 +1,68 @@
+#include "geometry/GeometryDistance.h"
+
+#include "geometry/BodyDistance.h"
+#include "geometry/CBody.h"
+#include "geometry/piece_distance.h"
+#include "geometry/upright_distance.h"
+
+#include <cmath>
+
+namespace hrx {
+
+namespace {
+
+constexpr double kNotMeasurable = 1e100;
+constexpr double kStepsPerMillimetre = 1e5;
+
+double roundedToStep(double distance) {
+    const double steps = distance * kStepsPerMillimetre;
+    // Beyond 2^52 steps a double is coarser than a step anyway.
+    return steps < 4503599627370496.0 ? std::floor(steps + 0.5) / kStepsPerMillimetre : distance;
+}
+
+/// Both solids by their pieces, about an origin near both so that the place of the site costs no precision.
+SolidContact contactByPieces(const CBody& a, const CBody& b) {
+    const CExtents3 extents = a.GetExtents();
+    const CVec3<double> origin = (extents.low + extents.high) * 0.5;
+    ConvexPieces piecesA;
+    ConvexPieces piecesB;
+    a.appendPieces(origin, piecesA);
+    b.appendPieces(origin, piecesB);
+    const CVec3<double> anyDirection(1.0, 0.0, 0.0);
+    const CVec3<double> pointOfA = piecesA.front()->support(anyDirection) + origin;
+    const CVec3<double> pointOfB = piecesB.front()->support(anyDirection) + origin;
+    if (a.holds(pointOfB))
+        return {0.0, pointOfB, pointOfB};
+    if (b.holds(pointOfA))
+        return {0.0, pointOfA, pointOfA};
+    SolidContact contact = pieceContact(std::move(piecesA), std::move(piecesB));
+    contact.onA = contact.onA + origin;
+    contact.onB = contact.onB + origin;
+    return contact;
+}
+
+SolidContact contactOf(const CBody& a, const CBody& b) {
+    UprightSolid uprightA;
+    UprightSolid uprightB;
+    if (a.describeUpright(uprightA) && b.describeUpright(uprightB))
+        return uprightContact(uprightA, uprightB);
+    return contactByPieces(a, b);
+}
+
+} // namespace
+
+double GeometryDistance(const CBody* a, const CBody* b, CVec3<double>& onA, CVec3<double>& onB, double) {
+    if (!a || !b || !a->isMeasurable() || !b->isMeasurable())
+        return kNotMeasurable;
+    const SolidContact contact = contactOf(*a, *b);
+    onA = contact.onA;
+    onB = contact.onB;
+    return roundedToStep(contact.distance);
+}
+
+double BodyDistance(const CBody* a, const CBody* b, CVec3<double>& onA, CVec3<double>& onB,
+                    double tolerance) {
+    return GeometryDistance(a, b, onA, onB, tolerance);
+}
+
+} // namespace hrx
