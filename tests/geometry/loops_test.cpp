@@ -1,3 +1,4 @@
+#include "Placing.h"
 #include "geometry/CArc2d.h"
 #include "geometry/CLine2d.h"
 #include "geometry/CLoopTreeNode.h"
@@ -21,21 +22,6 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr double kTolerance = 200.0;
 using Point = CVec2<double>;
 using Curves = std::vector<std::unique_ptr<CCurve2d>>;
-
-/// A placing of a drawing: turned about the origin, then moved.
-struct Placing {
-    double degrees;
-    Point offset;
-
-    Point operator()(double x, double y) const {
-        const double angle = degrees * kPi / 180.0;
-        return {x * std::cos(angle) - y * std::sin(angle) + offset.x,
-                x * std::sin(angle) + y * std::cos(angle) + offset.y};
-    }
-};
-
-const Placing kPlacings[] = {
-    {0.0, {0.0, 0.0}}, {36.87, {0.0, 0.0}}, {123.4, {5e6, -3e6}}, {270.1, {-4e9, 4e9}}};
 
 /// Draws roads in a placing.
 class Drawing {
