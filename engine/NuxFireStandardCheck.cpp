@@ -6,6 +6,7 @@
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
 #include "rules_config/NUXRuleConfigFile.h"
+#include "site/CheckObserver.h"
 
 namespace {
 
@@ -14,6 +15,17 @@ UdDbBlock* currentModelSpace() {
     UdApDocument* current = manager ? manager->CurDocument() : nullptr;
     UdDbDocument* document = current ? current->Database() : nullptr;
     return document ? document->GetModelSpace() : nullptr;
+}
+
+std::vector<NuxStandardCheckRule> judge(NUXRule& evaluator, UdDbBlock* modelSpace,
+                                        const NuxStandardCheckRule& rule) {
+    CheckObserver* observer = checkObserver();
+    if (observer)
+        observer->beginRule(rule);
+    std::vector<NuxStandardCheckRule> records = evaluator.check(modelSpace, rule);
+    if (observer)
+        observer->endRule();
+    return records;
 }
 
 QString stateKey(const QString& filingKey, const NuxStandardCheckRule& record) {
@@ -67,7 +79,7 @@ void NuxFireStandardCheck::judgeRules(const QString& ruleKey, const std::vector<
         if (!evaluator)
             continue;
         const NuxStandardCheckRule rule = stored;
-        for (const NuxStandardCheckRule& record : evaluator->check(modelSpace, rule)) {
+        for (const NuxStandardCheckRule& record : judge(*evaluator, modelSpace, rule)) {
             if (record.handle != 0)
                 filingKey = QString::number(record.handle, 10);
             m_mapRules[filingKey].push_back(record);

@@ -6,6 +6,7 @@
 #include "evaluators/distant/DistanceCondition.h"
 #include "evaluators/distant/pair_distance.h"
 #include "evaluators/violation_record.h"
+#include "site/CheckObserver.h"
 #include "site/IdentifierField.h"
 #include "site/model_space_walk.h"
 
@@ -26,7 +27,8 @@ public:
             const auto* element = NUXElementObject::Cast(object);
             if (!isFirst(object, element))
                 return;
-            std::vector<qint64> offending = offendingReferences(element);
+            observeFound(*object);
+            std::vector<qint64> offending = offendingReferences(*object, element);
             if (offending.empty())
                 return;
             found.push_back(violationOf(m_rule, *object));
@@ -44,8 +46,9 @@ private:
         return model && m_firstType.matches(model->getModelKind());
     }
 
-    /// `first` is null for a 3-D model.
-    std::vector<qint64> offendingReferences(const NUXElementObject* first) const {
+    /// `first` is the object as a site element, null for a 3-D model.
+    std::vector<qint64> offendingReferences(const UdDbObject& firstObject,
+                                            const NUXElementObject* first) const {
         std::vector<qint64> offending;
         walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
             const auto* reference = NUXElementObject::Cast(object);
@@ -54,6 +57,7 @@ private:
             const double distance = first ? pairDistance(first, reference, m_rule) : kDistanceOfModel;
             if (distance > kNoDistanceMark)
                 return;
+            observePair(firstObject, *object, distance);
             if (m_condition.isDistanceViolated(distance))
                 offending.push_back(object->Handle().GetID());
         });

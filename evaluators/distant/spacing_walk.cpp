@@ -5,6 +5,7 @@
 #include "elements/NUXTotalStepDownSubstationObject.h"
 #include "evaluators/distant/DistanceCondition.h"
 #include "evaluators/violation_record.h"
+#include "site/CheckObserver.h"
 #include "site/element_body.h"
 #include "site/min_body_distance.h"
 #include "site/model_space_walk.h"
@@ -29,11 +30,13 @@ std::vector<NuxStandardCheckRule> checkSpacing(const UdDbBlock& modelSpace, cons
     const std::vector<const Element*> elements = collect<Element>(modelSpace);
     std::vector<NuxStandardCheckRule> violations;
     for (std::size_t i = 0; i < elements.size(); ++i) {
+        observeFound(*elements[i]);
         std::vector<qint64> offending;
         for (std::size_t j = i + 1; j < elements.size(); ++j) {
             const double distance = pairDistance(*elements[i], *elements[j]);
             if (distance > kNoDistanceMark)
                 continue;
+            observePair(*elements[i], *elements[j], distance);
             if (condition.isDistanceViolated(distance))
                 offending.push_back(elements[j]->Handle().GetID());
         }

@@ -4,6 +4,7 @@
 #include "elements/NUXWallObject.h"
 #include "evaluators/position/wall_corner.h"
 #include "evaluators/violation_record.h"
+#include "site/CheckObserver.h"
 #include "site/model_space_walk.h"
 
 namespace {
@@ -87,6 +88,8 @@ std::vector<NuxStandardCheckRule> checkDoorToDoor(const UdDbBlock& modelSpace,
     std::vector<NuxStandardCheckRule> violations;
     for (const NUXWallObject* wall : walls) {
         const Doors doors = doorList(wall->getAssociationDoor());
+        if (!doors.empty())
+            observeFound(*wall);
         if (doors.size() >= 2)
             violations.push_back(twoDoorsOfOneWall(doors, rule));
         else if (doors.size() == 1)

@@ -6,6 +6,7 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/position/workshop_use.h"
 #include "evaluators/violation_record.h"
+#include "site/CheckObserver.h"
 #include "site/IdentifierField.h"
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
@@ -76,6 +77,8 @@ Placement placementOf(const NUXElementObject& element, const Boxes& boxes, const
     Placement placement;
     for (const UdDbObject* box : boxes) {
         const double distance = boxDistance(element, *box, ruleName);
+        if (distance < kNotMeasurable)
+            observePair(element, *box, distance);
         placement.nearest = std::min(placement.nearest, distance);
         if (distance < kNotMeasurable && !Placement::isRight(distance))
             placement.misplaced.push_back(box);
@@ -127,6 +130,7 @@ std::vector<NuxStandardCheckRule> checkFireExtinguisherBoxes(const UdDbBlock& mo
         const auto* element = NUXElementObject::Cast(object);
         if (!element || !examinedType.matches(element->getElementType()))
             return WalkStep::Continue;
+        observeFound(*object);
         if (boxes.empty()) {
             if (needsBox(*element, rule.name))
                 violations.push_back(violationOf(rule, *object));

@@ -10,6 +10,7 @@
 #include "evaluators/position/clearance_body.h"
 #include "evaluators/position/poster_headroom.h"
 #include "evaluators/violation_record.h"
+#include "site/CheckObserver.h"
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
 #include "site/model_space_walk.h"
@@ -183,6 +184,8 @@ Roads collectFireRoads(const UdDbBlock& modelSpace) {
 std::vector<NuxStandardCheckRule> checkFireRoadHeadroom(const UdDbBlock& modelSpace,
                                                         const NuxStandardCheckRule& rule) {
     const Roads roads = collectFireRoads(modelSpace);
+    for (const NUXRoadObject* road : roads)
+        observeFound(*road);
     if (roads.empty())
         return {};
     // Deliberate: each object's records replace those of the one before it, so only the last object needs a

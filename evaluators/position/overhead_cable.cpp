@@ -10,6 +10,7 @@
 #include "geometry/CLine2d.h"
 #include "geometry/CPositionJudge.h"
 #include "geometry/DistEpsilon.h"
+#include "site/CheckObserver.h"
 #include "site/element_type_identifiers.h"
 #include "site/model_space_walk.h"
 #include "site/rectangle_outline.h"
@@ -128,6 +129,8 @@ bool isOverheadCableRule(const QString& ruleName) {
 std::vector<NuxStandardCheckRule> checkOverheadCables(const UdDbBlock& modelSpace,
                                                       const NuxStandardCheckRule& rule) {
     const Elements elements = collect(modelSpace, rule.name);
+    for (const NUXServiceCableObject* cable : elements.cables)
+        observeFound(*cable);
     std::vector<NuxStandardCheckRule> violations;
     for (const auto* areas : {&elements.yards, &elements.workshops}) {
         for (const NUXBaseObject* area : *areas) {

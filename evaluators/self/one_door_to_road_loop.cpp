@@ -5,6 +5,7 @@
 #include "geometry/CLine2d.h"
 #include "geometry/CLoopTreeNode.h"
 #include "geometry/Curve2dlistToCoedgelists.h"
+#include "site/CheckObserver.h"
 #include "site/outline_ptr.h"
 
 #include <algorithm>
@@ -43,6 +44,7 @@ bool NUXElementTypeRule::isRoadLoopClosed(const UdDbBlock& modelSpace) {
         return true;
     Curves curves;
     for (const NUXRoadObject* road : roads) {
+        observeFound(*road);
         if (auto curve = centreLine(*road))
             curves.push_back(std::move(curve));
     }

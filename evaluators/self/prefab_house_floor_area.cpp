@@ -2,6 +2,7 @@
 
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/self/NUXElementTypeRule.h"
+#include "site/CheckObserver.h"
 
 double floorArea(const NUXPrefabHouseObject& house) {
     return (house.getDepth() / 1000.0) * (house.getRectWidthL() / 1000.0);
@@ -9,5 +10,10 @@ double floorArea(const NUXPrefabHouseObject& house) {
 
 bool NUXElementTypeRule::isFloorAreaExceeded(const NUXElementObject* element) {
     const auto* house = NUXPrefabHouseObject::Cast(element);
-    return house && floorArea(*house) > kMaximumFloorArea;
+    if (!house)
+        return false;
+    observeFound(*house);
+    const double area = floorArea(*house);
+    observeValue(*house, area, kMaximumFloorArea);
+    return area > kMaximumFloorArea;
 }

@@ -2,6 +2,7 @@
 
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/self/NUXElementTypeRule.h"
+#include "site/CheckObserver.h"
 
 #include <algorithm>
 
@@ -25,6 +26,12 @@ bool NUXElementTypeRule::isRoomAreaExceeded(const NUXElementObject* element) {
     const auto* house = NUXPrefabHouseObject::Cast(element);
     if (!house || house->houseUse() != kOfficeUse)
         return false;
+    observeFound(*house);
     const std::vector<double> areas = roomAreas(*house);
-    return std::any_of(areas.begin(), areas.end(), [](double area) { return area > kMaximumRoomArea; });
+    const auto isTooLarge = [](double area) { return area > kMaximumRoomArea; };
+    const auto tooLarge = std::find_if(areas.begin(), areas.end(), isTooLarge);
+    if (tooLarge == areas.end())
+        return false;
+    observeValue(*house, *tooLarge, kMaximumRoomArea);
+    return true;
 }

@@ -1,6 +1,7 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/self/prefab_house_floor_area.h"
+#include "site/CheckObserver.h"
 
 namespace {
 
@@ -13,6 +14,7 @@ bool NUXElementTypeRule::isStairsMissing(const NUXElementObject* element) {
     const auto* house = NUXPrefabHouseObject::Cast(element);
     if (!house)
         return false;
+    observeFound(*house);
     if (floorArea(*house) <= kLargestAreaWithoutStairs && house->getFloorCount() < kFewestFloorsWithStairs)
         return false;
     return house->getStairPosition() != kStairAtBothEnds;

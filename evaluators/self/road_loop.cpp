@@ -3,6 +3,7 @@
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/self/identified_roads.h"
 #include "geometry/CPositionJudge.h"
+#include "site/CheckObserver.h"
 #include "site/outline_ptr.h"
 
 #include <algorithm>
@@ -30,6 +31,8 @@ bool NUXElementTypeRule::isFireRoadLoopClosed(const UdDbBlock& modelSpace) {
     std::vector<const NUXRoadObject*> roads = identifiedRoads(modelSpace);
     const auto isOrdinary = [](const NUXRoadObject* road) { return !road->getIsFireRoad(); };
     roads.erase(std::remove_if(roads.begin(), roads.end(), isOrdinary), roads.end());
+    for (const NUXRoadObject* road : roads)
+        observeFound(*road);
     if (roads.empty())
         return true;
     if (roads.size() == 1)

@@ -2,8 +2,13 @@
 
 #include "elements/NUXRoadObject.h"
 #include "evaluators/self/NUXElementTypeRule.h"
+#include "site/CheckObserver.h"
 
 bool NUXElementTypeRule::isFireRoadTooNarrow(const NUXElementObject* element) {
     const auto* road = NUXRoadObject::Cast(element);
-    return road && road->getIsFireRoad() && kMinimumFireRoadWidth > road->getWidth();
+    if (!road || !road->getIsFireRoad())
+        return false;
+    observeFound(*road);
+    observeValue(*road, road->getWidth(), kMinimumFireRoadWidth);
+    return kMinimumFireRoadWidth > road->getWidth();
 }

@@ -5,6 +5,7 @@
 #include "elements/NUX3dsBaseObject.h"
 #include "elements/NUXElementObject.h"
 #include "evaluators/without/required_use.h"
+#include "site/CheckObserver.h"
 #include "site/IdentifierField.h"
 #include "site/model_space_walk.h"
 
@@ -44,11 +45,15 @@ std::vector<NuxStandardCheckRule> NUXWithoutElementTypeRule::check(UdDbBlock* mo
     bool isPresent = false;
     walkModelSpace(*modelSpace, [&](UdDbObject* object) {
         // A 3-D model is never tried as a site element, nor asked for its use.
-        if (const auto* model = NUX3dsBaseObject::Cast(object))
+        if (const auto* model = NUX3dsBaseObject::Cast(object)) {
             isPresent = wantedType.matches(model->getModelKind());
-        else if (auto* element = NUXElementObject::Cast(object))
-            isPresent = wantedType.matches(element->getElementType()) &&
-                        (rule.propertyType.isEmpty() || isRequiredUse(element, rule));
+        } else if (auto* element = NUXElementObject::Cast(object)) {
+            if (!wantedType.matches(element->getElementType()))
+                return WalkStep::Continue;
+            isPresent = rule.propertyType.isEmpty() || isRequiredUse(element, rule);
+        }
+        if (isPresent)
+            observeFound(*object);
         return isPresent ? WalkStep::Stop : WalkStep::Continue;
     });
     if (isPresent)
