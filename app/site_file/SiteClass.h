@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cad/UdDbObject.h"
+#include "cad/UdDb3dsImage.h"
 #include "site_file/Field.h"
 
 #include <functional>
@@ -35,6 +35,7 @@ struct SiteClass {
     std::string doc;
     Identifier identifierUse = Identifier::Fixed;
     std::string identifier; ///< unless the object gives another one
+    bool isModel = false;   ///< a 3-D model, which may also be the second view of an object
     std::vector<KeyShape> keys;
     Json furtherSchema = Json::object(); ///< what the schema demands beside the keys
 
@@ -57,6 +58,7 @@ SiteClass siteClass(std::string name, std::string identifier, std::string doc, F
     result.identifierUse =
         identifier.empty() ? SiteClass::Identifier::Required : SiteClass::Identifier::Fixed;
     result.identifier = std::move(identifier);
+    result.isModel = std::is_base_of_v<UdDb3dsImage, Object>;
     result.keys = keyShapes(fields);
     result.create = [fields = std::move(fields), complete = std::move(complete)](
                         const Json& object, const JsonPlace& place, const std::wstring& identifierGiven,

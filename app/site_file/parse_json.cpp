@@ -90,7 +90,8 @@ Json parseJson(const std::string& text, const std::string& name) {
     const char* end = text.data() + text.size();
     const auto fail = [&](const std::string& reason) -> InputError {
         const auto read = static_cast<std::size_t>(position - text.data());
-        const std::size_t offset = position == end || read == 0 ? read : read - 1;
+        const bool atEnd = reason.find("unexpected end of input") != std::string::npos;
+        const std::size_t offset = atEnd || read == 0 ? read : read - 1;
         return InputError(name + ":" + lineAndColumn(text, offset) + ": " + reason);
     };
 

@@ -59,7 +59,7 @@ std::vector<KeyShape> objectKeys(const SiteClass& siteClass, ObjectRole role) {
     if (role == ObjectRole::InDocument)
         keys.push_back(
             {kSecondViewKey,
-             "the same thing seen as an object of another class, mostly a 3-D model; without handle",
+             "the same thing as a 3-D model: an object of one of their classes, without handle and name",
              false,
              {{"$ref", "#/definitions/secondView"}}});
     return keys;

@@ -13,7 +13,7 @@ struct ObjectHead {
     bool refusesToOpen = false;
 };
 
-/// An object of a document, or the second view of one, which has neither handle nor name of its own.
+/// An object of a document, or the second view of one: a 3-D model without handle and name of its own.
 enum class ObjectRole { InDocument, SecondView };
 
 Fields<ObjectHead> headFields(const SiteClass& siteClass, ObjectRole role);

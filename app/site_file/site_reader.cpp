@@ -9,24 +9,24 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace {
 
-const SiteClass& classNamed(const Json& value, const JsonPlace& place) {
+const SiteClass& classNamed(const Json& value, const JsonPlace& place, ObjectRole role) {
     if (!value.is_string())
         refuseType(value, place, "the name of a class");
     const auto& name = value.get_ref<const std::string&>();
-    const std::vector<SiteClass>& classes = siteClasses();
-    const auto found = std::find_if(classes.begin(), classes.end(),
-                                    [&name](const SiteClass& candidate) { return candidate.name == name; });
-    if (found != classes.end())
-        return *found;
     std::vector<std::string> known;
-    for (const SiteClass& candidate : classes)
+    for (const SiteClass& candidate : siteClasses()) {
+        if (role == ObjectRole::SecondView && !candidate.isModel)
+            continue;
+        if (candidate.name == name)
+            return candidate;
         known.push_back(candidate.name);
+    }
     const auto near = nearestName(name, known);
-    refuse(place, "unknown class \"" + name + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
+    const std::string what = role == ObjectRole::SecondView ? "class of 3-D models" : "class";
+    refuse(place,
+           "unknown " + what + " \"" + name + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
 }
 
 /// What the reader knows about one class, worked out once: an object costs no tables.
@@ -101,7 +101,7 @@ private:
         const auto className = value.find(kClassKey);
         if (className == value.end())
             refuse(place, "expected the key \"class\" (what the object is)");
-        const SiteClass& siteClass = classNamed(*className, JsonPlace(place, kClassKey));
+        const SiteClass& siteClass = classNamed(*className, JsonPlace(place, kClassKey), role);
         const auto known = m_readers.find({&siteClass, role});
         if (known != m_readers.end())
             return known->second;

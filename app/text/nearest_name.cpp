@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <numeric>
 
 namespace {
 
@@ -12,20 +11,23 @@ std::string lowerCase(std::string text) {
     return text;
 }
 
-/// Levenshtein distance, one row of the table at a time.
+/// Letters inserted, dropped, replaced, or swapped with their neighbour.
 std::size_t editDistance(const std::string& a, const std::string& b) {
-    std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            const std::size_t substituted = diagonal + (a[i] == b[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({substituted, row[j] + 1, row[j + 1] + 1});
+    std::vector<std::vector<std::size_t>> edits(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
+    for (std::size_t i = 0; i <= a.size(); ++i)
+        edits[i][0] = i;
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        edits[0][j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t replaced = edits[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            edits[i][j] = std::min({replaced, edits[i - 1][j] + 1, edits[i][j - 1] + 1});
+            const bool swaps = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+            if (swaps)
+                edits[i][j] = std::min(edits[i][j], edits[i - 2][j - 2] + 1);
         }
     }
-    return row.back();
+    return edits[a.size()][b.size()];
 }
 
 } // namespace
@@ -36,7 +38,7 @@ std::optional<std::string> nearestName(const std::string& name, const std::vecto
         return std::nullopt;
     const std::string wanted = lowerCase(name);
     std::optional<std::string> nearest;
-    std::size_t fewestEdits = name.size() / 3 + 1;
+    std::size_t fewestEdits = std::max<std::size_t>(name.size() / 4, 1) + 1;
     for (const std::string& candidate : candidates) {
         const std::size_t edits = editDistance(wanted, lowerCase(candidate));
         if (edits < fewestEdits) {

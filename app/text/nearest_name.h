@@ -5,5 +5,5 @@
 #include <vector>
 
 /// The candidate that `name` was probably meant to be: equal but for letter case, or the one fewest edits
-/// away, at most one edit in three letters. The first of equals; nothing when none is near.
+/// away, at most one edit in four letters. The first of equals; nothing when none is near.
 std::optional<std::string> nearestName(const std::string& name, const std::vector<std::string>& candidates);

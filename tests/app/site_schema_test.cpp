@@ -1,0 +1,152 @@
+#include "InputError.h"
+#include "site_file/site_classes.h"
+#include "site_file/site_keys.h"
+#include "site_file/site_reader.h"
+#include "site_file/site_reference.h"
+#include "site_file/site_schema.h"
+
+#include <gtest/gtest.h>
+#include <valijson/adapters/nlohmann_json_adapter.hpp>
+#include <valijson/schema.hpp>
+#include <valijson/schema_parser.hpp>
+#include <valijson/validator.hpp>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+const fs::path kSource = SOURCE_DIRECTORY;
+
+std::string contents(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Judges by the published schema, read from its text as a stranger would.
+class SchemaJudge {
+public:
+    explicit SchemaJudge(const Json& schema) {
+        const nlohmann::json plain = nlohmann::json::parse(schema.dump());
+        valijson::SchemaParser().populateSchema(valijson::adapters::NlohmannJsonAdapter(plain), m_schema);
+    }
+
+    bool accepts(const Json& site) {
+        const nlohmann::json plain = nlohmann::json::parse(site.dump());
+        return valijson::Validator().validate(m_schema, valijson::adapters::NlohmannJsonAdapter(plain),
+                                              nullptr);
+    }
+
+private:
+    valijson::Schema m_schema;
+};
+
+bool readerAccepts(const Json& site) {
+    try {
+        readSite(site);
+        return true;
+    } catch (const InputError&) {
+        return false;
+    }
+}
+
+/// The first of some values that the schema of a key allows.
+Json sample(const KeyShape& shape) {
+    const bool isText = shape.schema.value("type", "") == "string";
+    if (isText)
+        return "NUX_ELEMENT_POINT";
+    if (shape.schema.value("type", "") == "array")
+        return Json::array({100, 200});
+    return shape.key == "handle" ? 1 : 3;
+}
+
+Json smallest(const SiteClass& siteClass, ObjectRole role) {
+    Json object;
+    for (const KeyShape& shape : objectKeys(siteClass, role))
+        if (shape.required)
+            object[shape.key] = sample(shape);
+    object["class"] = siteClass.name;
+    if (!siteClass.furtherSchema.empty())
+        object["circle"] = {{"center", {0, 0}}, {"radius", 1000}};
+    return object;
+}
+
+Json siteOf(Json object) {
+    return {{"objects", Json::array({std::move(object)})}};
+}
+
+std::vector<Json> probes() {
+    Json list = Json::parse(R"([null, true, 0, -1, 0.5, 3, 3000000000, 1e19, "none", "bothEnds",
+        [], [1], [1, 2], [1, 2, 3], [1, 2, 3, 4], [[1, 2]], [[1, 2, 3]], [["1", 2]], [{}], {}, {"low": [1, 2, 3]},
+        {"low": [1, 2, 3], "high": [4, 5, 6]}, {"low": [1, 2, 3], "high": [4, 5, 6], "mid": [7, 8, 9]},
+        {"center": [1, 2], "radius": 3}, {"center": [1, 2], "radius": -3}, {"center": [1, 2], "radius": 3, "x": 4},
+        [{"distance": 1, "door": null}], [{"distance": 1}], [{"distance": 1, "door": "1"}],
+        {"class": "drawing"}, {"class": "drawing", "handle": 5}, {"class": "unknown"}, {"class": "woodYard"},
+        {"class": "woodYard", "circle": {"center": [1, 2], "radius": 3}}, {"class": "element"},
+        {"class": "element", "identifier": "NUX_ELEMENT_POINT", "secondView": {"class": "drawing"}}])");
+    return {list.begin(), list.end()};
+}
+
+TEST(SiteSchema, JudgesEveryKeyOfEveryClassAsTheReaderDoes) {
+    SchemaJudge judge(siteSchema());
+    std::size_t accepted = 0;
+    for (const SiteClass& siteClass : siteClasses()) {
+        const Json base = smallest(siteClass, ObjectRole::InDocument);
+        ASSERT_TRUE(readerAccepts(siteOf(base))) << base;
+        ASSERT_TRUE(judge.accepts(siteOf(base))) << base;
+        std::vector<KeyShape> keys = objectKeys(siteClass, ObjectRole::InDocument);
+        keys.push_back({"unheardOf", "", false, {}});
+        for (const KeyShape& shape : keys) {
+            Json without = base;
+            without.erase(shape.key);
+            EXPECT_EQ(judge.accepts(siteOf(without)), readerAccepts(siteOf(without))) << without;
+            for (const Json& probe : probes()) {
+                Json varied = base;
+                varied[shape.key] = probe;
+                const bool isRead = readerAccepts(siteOf(varied));
+                EXPECT_EQ(judge.accepts(siteOf(varied)), isRead) << varied;
+                accepted += isRead;
+            }
+        }
+    }
+    EXPECT_GT(accepted, 500u);
+}
+
+TEST(SiteSchema, JudgesSitesAndFootprintsAsTheReaderDoes) {
+    SchemaJudge judge(siteSchema());
+    const std::string yard = R"({"class": "woodYard", "handle": 1, )";
+    const std::string rectangle = R"("center": [0, 0], "length": 1, "depth": 1)";
+    for (const std::string& text :
+         {std::string("[]"), std::string("{}"), std::string(R"({"objects": {}})"),
+          std::string(R"({"objects": [], "name": 1})"), std::string(R"({"objects": [], "title": ""})"),
+          std::string(R"({"objects": [], "name": "a", "note": "b", "$schema": "c"})"),
+          std::string(R"({"objects": [3]})"), "{\"objects\": [" + yard + rectangle + "}]}",
+          "{\"objects\": [" + yard + R"("center": [0, 0]}]})",
+          "{\"objects\": [" + yard + rectangle + R"(, "polyline": [[1, 2]]}]})",
+          "{\"objects\": [" + yard + rectangle + R"(, "polyline": [[1, 2]], "shapeKind": "polyline"}]})",
+          "{\"objects\": [" + yard + R"("shapeKind": 77}]})"}) {
+        const Json site = Json::parse(text);
+        EXPECT_EQ(judge.accepts(site), readerAccepts(site)) << text;
+    }
+}
+
+TEST(SiteSchema, IsPublishedAsItIs) {
+    EXPECT_EQ(contents(kSource / "data" / "site.schema.json"), siteSchema().dump(2) + "\n");
+    EXPECT_EQ(contents(kSource / "docs" / "site-classes.md"), siteReference());
+}
+
+TEST(SiteSchema, AcceptsEveryExample) {
+    SchemaJudge judge(siteSchema());
+    std::size_t examples = 0;
+    for (const auto& entry : fs::directory_iterator(kSource / "examples")) {
+        if (entry.path().extension() != ".json")
+            continue;
+        ++examples;
+        EXPECT_TRUE(judge.accepts(Json::parse(contents(entry.path())))) << entry.path();
+        EXPECT_NO_THROW(loadSite(entry.path().string()));
+    }
+    EXPECT_GT(examples, 0u);
+}
+
+} // namespace
