@@ -55,7 +55,19 @@ struct Faces {
     EnLoopsState state = LoopsJoined;
     std::vector<double> areas; ///< in mm2, smallest first, holes taken off
     std::size_t invalid = 0;
+    std::size_t withSpurs = 0; ///< those with an edge run both ways
 };
+
+bool hasSpur(const CPolygon& polygon) {
+    std::vector<Edge2d> edges;
+    for (const CCoedgeList& loop : polygon.loops())
+        edges.insert(edges.end(), loop.edges().begin(), loop.edges().end());
+    return std::any_of(edges.begin(), edges.end(), [&](const Edge2d& edge) {
+        return std::any_of(edges.begin(), edges.end(), [&](const Edge2d& other) {
+            return edge.start == other.end && edge.end == other.start && edge.bulge == -other.bulge;
+        });
+    });
+}
 
 Faces facesOf(const Curves& curves, double tolerance = kTolerance) {
     Faces faces;
@@ -70,6 +82,7 @@ Faces facesOf(const Curves& curves, double tolerance = kTolerance) {
             area += loop.signedArea();
         faces.areas.push_back(area);
         faces.invalid += polygon->IsValid(0x1F, nullptr) ? 0 : 1;
+        faces.withSpurs += hasSpur(*polygon) ? 1 : 0;
         polygon->Free();
     }
     std::sort(faces.areas.begin(), faces.areas.end());
@@ -264,6 +277,37 @@ const LoopCase kLoopCases[] = {
          }
      },
      {20.0 * std::sin(kPi / 20.0)}},
+    {"two roads ending short of the same place from both sides",
+     [](Drawing& d) {
+         d.rectangle(0, 0, 10000, 10000)
+             .line(5000, 0, 5000, 4850)
+             .line(5000, 5150, 5000, 10000)
+             .line(0, 5000, 10000, 5000);
+     },
+     {25.0, 25.0, 25.0, 25.0}},
+    {"road touching a circle, and another from it to the circle",
+     [](Drawing& d) {
+         d.circle({0, 0}, 5000).line(-7000, 5000, 8000, 5000).line(8000, 5000, 4000, 3000);
+     },
+     {8.0 - 12.5 * (std::acos(0.6) - 0.8), 25.0 * kPi}},
+    {"circle narrower than the tolerance",
+     [](Drawing& d) {
+         d.circle({0, 0}, 80);
+     },
+     {0.0064 * kPi}},
+    {"arc that crosses a road again near their common end",
+     [](Drawing& d) {
+         d.line(0, 0, 10000, 0).arc({0, 0}, {5000, -3000}, {150, 0}).line(5000, -3000, 10000, 0);
+     },
+     {12.2},
+     0.5},
+    {"arc that reaches a road by the joining of its ends",
+     [](Drawing& d) {
+         d.arc({0, 0}, {10000, 0}, {5000, 5000}).line(10190, 0, 10190, -3000).line(-190, 0, -190, -3000);
+         d.rectangle(-8000, -3000, 18000, 5050);
+     },
+     {68.8, 68.8, 71.6},
+     0.5},
     {"short road across another, both ends near it",
      [](Drawing& d) { d.rectangle(0, 0, 10000, 10000).line(5000, -90, 5000, 100); },
      {100.0}},
@@ -289,6 +333,7 @@ TEST_P(Loops, facesAreTheExpectedWhateverThePlacing) {
         const Faces faces = facesOf(drawing.curves);
         EXPECT_EQ(faces.state, LoopsJoined);
         EXPECT_EQ(faces.invalid, 0U);
+        EXPECT_EQ(faces.withSpurs, 0U);
         ASSERT_EQ(faces.areas.size(), GetParam().areas.size());
         for (std::size_t i = 0; i < faces.areas.size(); ++i)
             EXPECT_NEAR(faces.areas[i] * 1e-6, GetParam().areas[i], GetParam().slack);
@@ -419,6 +464,8 @@ TEST(RandomLoops, facesNeverOverlap) {
         ASSERT_EQ(Curve2dlistToCoedgelists(drawing.curves, lists, run % 3 == 0 ? 1e-3 : step / 5.0),
                   LoopsJoined);
         CLoopTreeNode::GenPolygonListByCoedgeList(lists, polygons);
+        for (const CPolygon* polygon : polygons)
+            EXPECT_TRUE(polygon->IsValid(0x1F, nullptr)) << "run " << run;
         for (int i = 0; i < 50; ++i) {
             const Point probe = kPlacings[run % 4](upTo(20000) * 1e-3 * step, upTo(20000) * 1e-3 * step);
             EXPECT_LE(std::count_if(polygons.begin(), polygons.end(),
