@@ -2,7 +2,7 @@
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXYardOBJObject.h"
-#include "geometry/CExtents3.h"
+#include "geometry/CExtrudedBody.h"
 #include "site/element_body.h"
 #include "site/house_footprint.h"
 #include "site/min_body_distance.h"
