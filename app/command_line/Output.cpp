@@ -2,26 +2,22 @@
 
 #include "InputError.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <unistd.h>
 
-Output::Output(const QString& fileName)
-    : m_name(fileName.isEmpty() ? "standard output" : fileName.toStdString()) {
-    bool isOpen = false;
-    if (fileName.isEmpty()) {
-        isOpen = m_standardOutput.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    } else {
-        m_file = std::make_unique<QSaveFile>(fileName);
-        isOpen = m_file->open(QIODevice::WriteOnly);
-    }
-    if (!isOpen)
+Output::Output(const QString& fileName) : m_name(fileName) {
+    if (fileName.isEmpty())
+        return;
+    m_file = std::make_unique<QSaveFile>(fileName);
+    if (!m_file->open(QIODevice::WriteOnly))
         fail();
 }
 
 void Output::write(const std::string& piece) {
-    QIODevice& device = m_file ? static_cast<QIODevice&>(*m_file) : m_standardOutput;
-    const auto size = static_cast<qint64>(piece.size());
-    if (device.write(piece.data(), size) != size)
+    const bool isWritten = m_file ? m_file->write(piece.data(), qint64(piece.size())) == qint64(piece.size())
+                                  : std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size();
+    if (!isWritten)
         fail();
 }
 
@@ -35,6 +31,7 @@ bool Output::isTerminal() const {
 }
 
 void Output::fail() const {
-    const QString reason = m_file ? m_file->errorString() : m_standardOutput.errorString();
-    throw InputError(m_name + ": cannot be written: " + reason.toStdString());
+    const QString reason = m_file ? m_file->errorString() : qt_error_string(errno);
+    const QString name = m_file ? m_name : QStringLiteral("standard output");
+    throw InputError((name + ": cannot be written: " + reason).toStdString());
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFile>
 #include <QSaveFile>
 #include <QString>
 
@@ -24,7 +23,6 @@ public:
 private:
     [[noreturn]] void fail() const;
 
-    std::string m_name;
-    std::unique_ptr<QSaveFile> m_file;
-    QFile m_standardOutput;
+    QString m_name;
+    std::unique_ptr<QSaveFile> m_file; ///< null for standard output
 };

@@ -1,0 +1,162 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+struct Outcome {
+    std::string output;
+    std::string messages;
+    int status = -1;
+};
+
+/// A directory of small input files, in which the checker runs.
+class CommandLine : public testing::Test {
+protected:
+    void SetUp() override {
+        write("narrow.json", R"({"name": "Plot 7", "objects": [
+            {"class": "road", "handle": 3, "name": "Gate\u001b[31m road", "fireRoad": true, "start": [0, 0],
+             "end": [9000, 0], "width": 3999},
+            {"class": "drawing", "handle": 4, "refusesToOpen": true}]})");
+        write("fine.json", R"({"objects": [{"class": "woodYard", "handle": 1,
+            "circle": {"center": [0, 0], "radius": 900}}]})");
+        write("truncated.json", R"({"objects": [)");
+        write("rules.xml", R"(<Rules><Roads><Self_RoadMinWidth Type="self" Standard="clause 1"
+            ElementType="NUX_EDO_TYPE_ROAD"><RuleDescription> 太窄 </RuleDescription></Self_RoadMinWidth>
+            <!-- kept --></Roads></Rules>)");
+        write("no_rules.xml", "<Rules><!-- none --><Roads/></Rules>");
+        write("broken.xml", "<Rules>\n<Roads></Rules>");
+    }
+
+    void write(const std::string& name, const std::string& text) {
+        std::ofstream(path(name), std::ios::binary) << text;
+    }
+    std::string read(const std::string& name) {
+        std::ifstream stream(path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    std::string path(const std::string& name) { return m_directory.filePath(name.c_str()).toStdString(); }
+
+    /// Runs a shell command in which "firecheck" is the checker.
+    Outcome run(const std::string& command) {
+        QProcess process;
+        process.setWorkingDirectory(m_directory.path());
+        const std::string script = "firecheck() { '" FIRECHECK_PROGRAM "' \"$@\"; }; " + command;
+        process.start("/bin/sh", {"-c", QString::fromStdString(script)});
+        process.waitForFinished();
+        return {process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString(),
+                process.exitCode()};
+    }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+const std::string kNarrowReport = R"(narrow.json: Plot 7
+2 objects, 1 violation of 1 rule
+    1  Self_RoadMinWidth
+
+Self_RoadMinWidth (1):  太窄  [clause 1]
+  road NUX_EDO_TYPE_ROAD "Gate?[31m road" #3
+
+Not judged
+  rule #comment: no evaluator is of type ""
+  object #4: it does not open
+)";
+
+const std::string kFineReport = R"(fine.json
+1 object, no violations
+
+Not judged
+  rule #comment: no evaluator is of type ""
+)";
+
+TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
+    const struct {
+        std::string command;
+        std::string output;
+        std::string messages;
+        int status;
+    } cases[] = {
+        {"firecheck check narrow.json --rules rules.xml", kNarrowReport, "", 1},
+        {"firecheck check fine.json --rules=rules.xml", kFineReport, "", 0},
+        {"firecheck check --rules rules.xml fine.json narrow.json", kFineReport + "\n" + kNarrowReport, "",
+         1},
+        {"firecheck check --rules rules.xml truncated.json fine.json", kFineReport,
+         "firecheck: truncated.json:1:14: expected JSON in UTF-8: unexpected end of input; expected '[', "
+         "'{', or a "
+         "literal\n",
+         2},
+        {"firecheck check --rules rules.xml --format json truncated.json 2>&-", "{\n  \"sites\": []\n}\n", "",
+         2},
+        {"firecheck check --rules rules.xml . missing.json", "",
+         "firecheck: .: expected a site file, found a directory\n"
+         "firecheck: missing.json: cannot be read: No such file or directory\n",
+         2},
+        {"firecheck check fine.json --rules no_rules.xml", "",
+         "firecheck: no_rules.xml: expected at least one rule\n", 2},
+        {"firecheck check fine.json --rules broken.xml", "",
+         "firecheck: broken.xml:2:15: expected a well-formed XML document: tag mismatch\n", 2},
+        {"firecheck check fine.json --rules gone.xml", "",
+         "firecheck: gone.xml: cannot be read: No such file or directory\n", 2},
+        {"firecheck check --rules rules.xml", "",
+         "firecheck: No site file is given. Try \"firecheck --help\".\n", 2},
+        {"firecheck check fine.json --format yaml", "",
+         "firecheck: No such format: \"yaml\". Choose one of text, json.\n", 2},
+        {"firecheck check fine.json --fast", "",
+         "firecheck: Unknown option 'fast'. Try \"firecheck --help\".\n", 2},
+        {"firecheck", "", "firecheck: No command is given. Try \"firecheck --help\".\n", 2},
+        {"firecheck chekc fine.json", "",
+         "firecheck: No such command: \"chekc\". Try \"firecheck --help\".\n", 2},
+        {"firecheck check fine.json --rules rules.xml > /dev/full", "",
+         "firecheck: standard output: cannot be written: No space left on device\n", 2},
+        {"firecheck show-rules rules.xml",
+         "\"#comment\"\n  - name: \"#comment\"\n\"Self_RoadMinWidth\"\n  - name: \"Self_RoadMinWidth\"\n"
+         "    type: \"self\"\n    elementType: \"NUX_EDO_TYPE_ROAD\"\n    standard: \"clause 1\"\n"
+         "    ruleDescription: \" 太窄 \"\n",
+         "", 0},
+    };
+    for (const auto& expected : cases) {
+        // A bare locale must not spoil texts and names.
+        const Outcome outcome = run("export LC_ALL=C; " + expected.command);
+        EXPECT_EQ(outcome.output, expected.output) << expected.command;
+        EXPECT_EQ(outcome.messages, expected.messages) << expected.command;
+        EXPECT_EQ(outcome.status, expected.status) << expected.command;
+    }
+}
+
+TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenAllIsWell) {
+    write("report.txt", "before");
+    EXPECT_EQ(run("firecheck check truncated.json fine.json --rules rules.xml --output report.txt").status,
+              2);
+    EXPECT_EQ(read("report.txt"), "before");
+
+    const Outcome outcome = run("LC_ALL=C firecheck check narrow.json --rules rules.xml --output 食堂.txt");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output + outcome.messages, "");
+    EXPECT_EQ(read("食堂.txt"), kNarrowReport);
+    EXPECT_EQ(run("firecheck check narrow.json --rules rules.xml --output gone/report.txt").status, 2);
+}
+
+TEST_F(CommandLine, FindsTheRulesItComesWith) {
+    const Outcome shown = run("firecheck show-rules --format json");
+    EXPECT_EQ(shown.status, 0);
+    EXPECT_NE(shown.output.find("\"key\": \"Self_RoadLoop\""), std::string::npos);
+    const Outcome named =
+        run("firecheck show-rules --format json '" SOURCE_DIRECTORY "/data/FireStandardCheck.xml'");
+    EXPECT_EQ(shown.output, named.output);
+}
+
+TEST_F(CommandLine, ColoursForPeopleAtATerminalOnly) {
+    const std::string onTerminal =
+        "script -qec \"'" FIRECHECK_PROGRAM "' check fine.json --rules rules.xml\" /dev/null";
+    EXPECT_NE(run("unset NO_COLOR; " + onTerminal).output.find("\033[32mno violations"), std::string::npos);
+    EXPECT_EQ(run("export NO_COLOR=1; " + onTerminal).output.find('\033'), std::string::npos);
+}
+
+} // namespace
