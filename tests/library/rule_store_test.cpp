@@ -80,7 +80,7 @@ TEST(RuleStore, ReadsARuleAsItStands) {
                 "<ruledescription>no</ruledescription><RuleCatalog> c </RuleCatalog><ObjName>食堂</ObjName>"
                 "<ReferenceObjName>r</ReferenceObjName></R></b></a>");
     ASSERT_EQ(outline(rules), "R: R");
-    const NuxStandardCheckRule& rule = rules["R"][0];
+    const NuxStandardCheckRule rule = rules["R"][0];
     EXPECT_EQ(rule.elementType, " E ");
     EXPECT_EQ(rule.type, "self");
     EXPECT_EQ(rule.propertyType, "P");
