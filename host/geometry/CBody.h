@@ -27,10 +27,8 @@ public:
     /// Describes the solid as one that stands straight up, if it is one. What it borrows lives as long as the
     /// body.
     virtual bool describeUpright(UprightSolid&) const { return false; }
-    /// Appends convex pieces whose union has the boundary of the solid, moved by -origin.
+    /// Appends pieces that make up the solid, moved by -origin.
     virtual void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const = 0;
-    /// True for a point inside the solid, when its pieces do not fill it.
-    virtual bool holds(const CVec3<double>&) const { return false; }
 };
 
 } // namespace hrx

@@ -1,10 +1,9 @@
 #include "geometry/CExtrudedBody.h"
 
+#include "geometry/CellPiece.h"
 #include "geometry/DistEpsilon.h"
-#include "geometry/PrismPieces.h"
 #include "geometry/finite.h"
 #include "geometry/outline_shape.h"
-#include "geometry/plan_distance.h"
 
 #include <cmath>
 #include <ostream>
@@ -86,29 +85,15 @@ void CExtrudedBody::appendPieces(const CVec3<double>& origin, ConvexPieces& piec
     const CVec2<double> corner = firstCorner(*m_outline);
     CCoord3<double> base = m_frame;
     base.origin = m_frame.origin - origin + m_frame.xAxis * corner.x + m_frame.yAxis * corner.y;
-    const auto moved = [&](const Edge2d& edge) {
-        return Edge2d{edge.start - corner, edge.end - corner, edge.bulge};
-    };
     if (isConvex(*m_outline)) {
         auto whole = std::make_unique<PrismPiece>(base, m_height);
         for (const Edge2d& edge : m_outline->GetLoop(0)->edges())
-            whole->add(moved(edge));
+            whole->add({edge.start - corner, edge.end - corner, edge.bulge});
         pieces.push_back(std::move(whole));
         return;
     }
-    CCoord3<double> raised = base;
-    raised.origin = base.origin + m_frame.zAxis * m_height;
-    pieces.push_back(std::make_unique<CapPiece>(base, *m_outline, corner));
-    pieces.push_back(std::make_unique<CapPiece>(raised, *m_outline, corner));
-    for (const CCoedgeList& loop : m_outline->loops())
-        for (const Edge2d& edge : loop.edges())
-            pieces.push_back(std::make_unique<WallPiece>(base, m_height, moved(edge)));
-}
-
-bool CExtrudedBody::holds(const CVec3<double>& point) const {
-    const CVec3<double> local = m_frame.toLocal(point);
-    return local.z >= std::min(0.0, m_height) && local.z <= std::max(0.0, m_height) &&
-           contains(*m_outline, {local.x, local.y});
+    for (const OutlineCell& cell : cellsOf(*m_outline, corner))
+        pieces.push_back(std::make_unique<CellPiece>(base, m_height, cell));
 }
 
 } // namespace hrx

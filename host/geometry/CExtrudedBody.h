@@ -26,7 +26,6 @@ public:
     bool isMeasurable() const override;
     bool describeUpright(UprightSolid& solid) const override;
     void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const override;
-    bool holds(const CVec3<double>& point) const override;
 
 private:
     CCoord3<double> m_frame;

@@ -8,7 +8,7 @@
 
 namespace hrx {
 
-/// Part of a solid or of its boundary, stood for by its convex hull. Where the part is not convex itself, it
+/// Part of a solid, stood for by its convex hull. Where the part is not convex itself, it
 /// tells how far a point of the hull is from it, and divides into parts that fill their hulls better.
 class ConvexPiece {
 public:

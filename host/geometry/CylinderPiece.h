@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/CCoord3.h"
 #include "geometry/ConvexPiece.h"
 
 namespace hrx {
@@ -11,9 +12,8 @@ public:
     CVec3<double> support(const CVec3<double>& direction) const override;
 
 private:
-    CVec3<double> m_bottom;
-    CVec3<double> m_top;
-    CVec3<double> m_axis;
+    CCoord3<double> m_frame; ///< origin at the bottom, z axis along the cylinder
+    double m_length;
     double m_radius;
 };
 

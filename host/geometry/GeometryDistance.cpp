@@ -28,13 +28,6 @@ SolidContact contactByPieces(const CBody& a, const CBody& b) {
     ConvexPieces piecesB;
     a.appendPieces(origin, piecesA);
     b.appendPieces(origin, piecesB);
-    const CVec3<double> anyDirection(1.0, 0.0, 0.0);
-    const CVec3<double> pointOfA = piecesA.front()->support(anyDirection) + origin;
-    const CVec3<double> pointOfB = piecesB.front()->support(anyDirection) + origin;
-    if (a.holds(pointOfB))
-        return {0.0, pointOfB, pointOfB};
-    if (b.holds(pointOfA))
-        return {0.0, pointOfA, pointOfA};
     SolidContact contact = pieceContact(std::move(piecesA), std::move(piecesB));
     contact.onA = contact.onA + origin;
     contact.onB = contact.onB + origin;

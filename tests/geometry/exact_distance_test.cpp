@@ -1,0 +1,80 @@
+#include "geometry/GBodyBuilder.h"
+#include "measure.h"
+
+#include <gtest/gtest.h>
+
+using namespace outlines;
+
+namespace {
+
+struct Pair {
+    const char* name;
+    Outline a;
+    Outline b;
+    double distance;
+};
+
+Outline at(Loop loop, double x, double y) {
+    return moved({std::move(loop)}, 0, x, y);
+}
+
+const std::vector<Pair>& pairs() {
+    static const Outline ring = {circle(10000), circle(6000)};
+    static const Outline frame = {rectangle(20000, 20000), rectangle(16000, 16000)};
+    static const std::vector<Pair> table = {
+        {"6 m apart", at(rectangle(7000, 4000), 0, 0), at(rectangle(5000, 3000), 12000, 500), 6000},
+        {"edge on edge", at(rectangle(7000, 4000), 0, 0), at(rectangle(5000, 3000), 6000, 700), 0},
+        {"corner on corner", at(rectangle(7000, 4000), 0, 0), at(rectangle(5000, 3000), 6000, 3500), 0},
+        {"corner to corner", at(rectangle(6000, 4000), 0, 0), at(rectangle(2000, 2000), 7000, 7000), 5000},
+        {"inside", at(rectangle(7000, 4000), 0, 0), at(rectangle(500, 300), 100, 100), 0},
+        {"crossed, no corner inside", at(rectangle(7000, 1000), 0, 0), at(rectangle(1000, 7000), 0, 0), 0},
+        {"the same twice", at(rectangle(7000, 4000), 0, 0), at(rectangle(7000, 4000), 0, 0), 0},
+        {"circle beside a wall", at(circle(500), 0, 0), at(rectangle(1000, 9000), 7000, 1000), 6000},
+        {"circle touching a wall", at(circle(500), 0, 0), at(rectangle(1000, 9000), 1000, 1000), 0},
+        {"circle inside", at(circle(500), 0, 0), at(rectangle(4000, 9000), 1000, 1000), 0},
+        {"circles apart", at(circle(3000), 0, 0), at(circle(1000), 6000, 8000), 6000},
+        {"circle in a circle", at(circle(3000), 0, 0), at(circle(1000), 500, 0), 0},
+        {"point-like", at(rectangle(0, 0), 0, 0), at(rectangle(7000, 4000), 9500, 0), 6000},
+        {"line touching a corner", at({{0, 0, 0}, {4000, 0, 0}}, 0, 0), at(rectangle(2000, 2000), 5000, 1000),
+         0},
+        {"circle in the hole of a ring", ring, at(circle(2000), 3000, 0), 1000},
+        {"circle filling the hole", ring, at(circle(6000), 0, 0), 0},
+        {"ring in the hole of a frame", frame, {circle(7000), circle(6900)}, 1000},
+        {"ring around the hole of a ring", ring, {circle(8000), circle(2000)}, 0},
+        {"square in a square hole", frame, at(rectangle(4000, 4000), 5000, 0), 1000},
+        {"inside a bend, outside the road", {arcStrip(8000, 12000, 1.5 * kPi)}, at(circle(1000), 0, 0), 7000},
+        {"on the chord of a bend", {arcStrip(8000, 12000, 1.5 * kPi)}, at(circle(1000), -9500, 0), 0},
+        {"half circle added",
+         {{{0, 0, 0}, {8000, 0, 1}, {8000, 6000, 0}, {0, 6000, 0}}},
+         at(circle(500), 8000, 3000),
+         0},
+        {"half circle taken off",
+         {{{0, 0, 0}, {8000, 0, -1}, {8000, 6000, 0}, {0, 6000, 0}}},
+         at(circle(500), 8000, 3000),
+         2500},
+        {"three-quarter circle",
+         {{{0, 0, std::tan(3 * kPi / 8)}, {4000, 0, 0}}},
+         at(rectangle(1000, 1000), 2000, -5500 - 2000 - 2000 * std::sqrt(2.0)),
+         5000},
+    };
+    return table;
+}
+
+} // namespace
+
+TEST(ExactDistance, isTheSameAtEveryAngleAndPlace) {
+    for (const Pair& pair : pairs()) {
+        SCOPED_TRACE(pair.name);
+        Random random(3);
+        for (int i = 0; i < 300; ++i) {
+            const double angle = i == 0 ? 0 : i == 1 ? 36.87 * kPi / 180 : random.between(0, 2 * kPi);
+            const double reach = i % 3 == 0 ? 0 : i % 3 == 1 ? 1e6 : 1e8;
+            const double dx = random.between(-reach, reach);
+            const double dy = random.between(-reach, reach);
+            const Outline a = moved(pair.a, angle, dx, dy);
+            const Outline b = moved(pair.b, angle, dx, dy);
+            ASSERT_EQ(measured(a, b), pair.distance) << "turn " << i;
+            ASSERT_EQ(measured(b, a), pair.distance) << "turn " << i;
+        }
+    }
+}
