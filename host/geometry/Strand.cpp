@@ -33,7 +33,7 @@ double Strand::nearestFraction(const CVec2<double>& point) const {
 Strand Strand::piece(double fromFraction, double toFraction, const CVec2<double>& start,
                      const CVec2<double>& end) const {
     constexpr double halfCircle = 3.14159265358979323846;
-    Strand result{from, to, curve, {}};
+    Strand result{from, to, {}};
     double sweep = 0.0;
     for (const Edge2d& part : parts)
         sweep += part.isArc() ? part.sweep() : 0.0;

@@ -15,8 +15,6 @@ struct Strand {
 
     std::size_t from;
     std::size_t to;
-    /// The curve that the piece comes from.
-    std::size_t curve;
     Parts parts;
 
     /// Least box around the parts.

@@ -71,9 +71,8 @@ private:
 
 Arrangement::Arrangement(const std::vector<std::vector<Edge2d>>& curves, const JoiningTolerance& tolerance)
     : m_tolerance(tolerance), m_nodeGrid(tolerance) {
-    for (std::size_t curve = 0; curve < curves.size(); ++curve) {
-        const std::vector<Edge2d>& edges = curves[curve];
-        m_strands.push_back({0, 0, curve, Strand::Parts(edges.begin(), edges.end())});
+    for (const std::vector<Edge2d>& edges : curves) {
+        m_strands.push_back({0, 0, Strand::Parts(edges.begin(), edges.end())});
         m_boxes.push_back(m_strands.back().box());
     }
     m_cuts.resize(m_strands.size());
@@ -264,15 +263,14 @@ void Arrangement::dropRepeatedStrands() {
     m_strands = std::move(result);
 }
 
-/// For strands between the same nodes. Two parts of one curve are never the same, so a small circle stays
-/// one.
+/// For strands between the same nodes.
 bool Arrangement::runTogether(const Strand& a, const Strand& b) const {
     const auto isStraight = [](const Strand& strand) {
         return strand.parts.size() == 1 && !strand.parts[0].isArc();
     };
     if (isStraight(a) && isStraight(b))
         return true;
-    return a.curve != b.curve && m_tolerance.joins(a.pointAt(0.5), b.pointAt(0.5));
+    return m_tolerance.joins(a.pointAt(0.5), b.pointAt(0.5));
 }
 
 std::vector<std::vector<Edge2d>> movedBy(std::vector<std::vector<Edge2d>> curves,

@@ -201,10 +201,9 @@ const LoopCase kLoopCases[] = {
      {68.8, 68.8, 71.6},
      0.5},
     {"ring in pieces shorter than the tolerance",
-     "path 500 0 433 250 250 433 0 500 -250 433 -433 250 -500 0 -433 -250 -250 -433 0 -500 250 -433 433 -250 "
-     "500 0 "
-     "circle 0 0 80",
-     {0.0064 * kPi, 0.74950 - 0.0064 * kPi}},
+     "path 350 0 303 175 175 303 0 350 -175 303 -303 175 -350 0 -303 -175 -175 -303 0 -350 175 -303 303 -175 "
+     "350 0",
+     {0.367368}},
 };
 
 class Loops : public testing::TestWithParam<LoopCase> {};
