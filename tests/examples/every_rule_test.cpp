@@ -1,0 +1,65 @@
+#include "findings.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QTemporaryFile>
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace {
+
+/// Another value for an attribute of a rule that cannot offend as shipped, or not together with the others.
+struct OtherValue {
+    const char* rule;
+    const char* attribute;
+    const char* value;
+};
+
+const std::vector<OtherValue> kOtherValues = {
+    {"Distant_FireExtinguisherBoxToWoodFactory", "DistantValue", "6"},
+    {"Distant_FireExtinguisherBoxToWoodWorkingFactory", "DistantValue", "6"},
+    {"Distant_FireExtinguisherBoxToEletricalMechanicalFactory", "DistantValue", "6"},
+    {"Without_FireRoad", "ElementType", "NUX_EDO_TYPE_REGIONROAD"},
+    {"Without_TemplateFactory", "ElementType", "NUX_ELEMENT_TYPE_GANTRY"},
+    {"Without_WoodFactory", "ElementType", "NUX_ELEMENT_TYPE_GANTRY"},
+    {"Without_MachanicalFactory", "ElementType", "NUX_ELEMENT_TYPE_GANTRY"},
+};
+
+const RuleMap& shippedRulesWithOtherValues() {
+    QFile shipped(SOURCE_DIRECTORY "/data/FireStandardCheck.xml");
+    QDomDocument document;
+    EXPECT_TRUE(shipped.open(QIODevice::ReadOnly) && document.setContent(&shipped));
+    for (const OtherValue& other : kOtherValues) {
+        const QDomNodeList rules = document.elementsByTagName(other.rule);
+        EXPECT_EQ(rules.size(), 1) << other.rule;
+        rules.item(0).toElement().setAttribute(other.attribute, other.value);
+    }
+    QTemporaryFile changed;
+    EXPECT_TRUE(changed.open() && changed.write(document.toByteArray()) > 0 && changed.flush());
+    return loadRules(changed.fileName().toStdString());
+}
+
+/// The vocabulary of rule names, and whatever else the rule file holds.
+std::set<std::string> namesToJudge(const RuleMap& rules) {
+    std::set<std::string> names;
+    QFile vocabulary(SOURCE_DIRECTORY "/tests/examples/rule-names.txt");
+    EXPECT_TRUE(vocabulary.open(QIODevice::ReadOnly));
+    for (const QByteArray& line : vocabulary.readAll().trimmed().split('\n'))
+        names.insert(line.toStdString());
+    EXPECT_EQ(names.size(), 57u);
+    for (const auto& sharingKey : rules)
+        for (const NuxStandardCheckRule& rule : sharingKey)
+            names.insert(rule.name.toStdString());
+    return names;
+}
+
+TEST(EveryRule, IsBrokenByTheSiteMadeForIt) {
+    const RuleMap& rules = shippedRulesWithOtherValues();
+    std::set<std::string> notBroken = namesToJudge(rules);
+    for (const std::string& found : findings(sourceJson("examples/every-rule-offends.json"), rules))
+        notBroken.erase(found.substr(0, found.find(' ')));
+    EXPECT_EQ(notBroken, std::set<std::string>{});
+}
+
+} // namespace
