@@ -1,6 +1,5 @@
 #include "geometry/CPolygon.h"
-#include "geometry/DistEpsilon.h"
-#include "geometry/edge_intersections.h"
+#include "geometry/edge_crossing.h"
 #include "geometry/finite.h"
 
 #include <cmath>
@@ -44,7 +43,15 @@ bool hasOnlyLongEdges(const CPolygon& polygon) {
     return true;
 }
 
-bool hasNoCrossing(const CPolygon&) {
+bool hasNoCrossing(const CPolygon& polygon) {
+    boost::container::small_vector<const Edge2d*, 16> seen;
+    for (const CCoedgeList& loop : polygon.loops())
+        for (const Edge2d& edge : loop.edges()) {
+            for (const Edge2d* other : seen)
+                if (edgesCross(edge, *other))
+                    return false;
+            seen.push_back(&edge);
+        }
     return true;
 }
 

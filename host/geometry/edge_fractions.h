@@ -4,9 +4,8 @@
 
 namespace hrx {
 
-// Places on an edge, given as a fraction of its length: 0 at its start, 1 at its end. Edges turn by a half
-// circle at most. The point at a fraction is found from the chord rather than from the centre, so flat arcs
-// lose no precision.
+// Places on an edge, given as a fraction of its length: 0 at its start, 1 at its end. The point
+// at a fraction is found from the chord rather than from the centre, so flat arcs lose no precision.
 
 /// The point of the edge at a fraction.
 CVec2<double> pointAt(const Edge2d& edge, double fraction);

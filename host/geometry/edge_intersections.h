@@ -13,7 +13,7 @@ struct EdgeIntersection {
     double onSecond; ///< fraction of the second edge's length
 };
 
-/// The points that two edges (line or arc, turning by a half circle at most) share: where they cross, where
+/// The points that two edges (line or arc) share: where they cross, where
 /// they touch tangentially, and every end of the one that lies on the other. Edges that run along each other
 /// share the ends of their common stretch. Points no further from both edges than `g_touchDistance` count as
 /// shared, so touching edges meet whatever way the drawing is turned; points closer than that to each other
