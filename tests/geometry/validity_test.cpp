@@ -74,8 +74,9 @@ TEST(OutlineValidity, eachCheckFindsItsFaultAlone) {
         EXPECT_FALSE(polygon->IsValid(1U << bit, nullptr)) << bit;
         EXPECT_TRUE(polygon->IsValid(0, nullptr)) << bit;
         // A loop of one edge without length fails two checks.
-        if (bit > 0)
+        if (bit > 0) {
             EXPECT_TRUE(polygon->IsValid(0x1FU & ~(1U << bit), nullptr)) << bit;
+        }
     }
 }
 
