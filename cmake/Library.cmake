@@ -43,6 +43,9 @@ set(library_sources
     site/rectangle_outline.cpp
     site/yard_or_3ds_body.cpp)
 
+get_filename_component(library_root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
+list(TRANSFORM library_sources PREPEND ${library_root}/)
+
 add_library(FireStandardCheck SHARED ${library_sources})
 add_library(FireStandardCheck::FireStandardCheck ALIAS FireStandardCheck)
 add_library(FireStandardCheckWhiteBox STATIC ${library_sources})
@@ -57,7 +60,9 @@ set_target_properties(FireStandardCheck PROPERTIES
 target_compile_definitions(FireStandardCheckWhiteBox PUBLIC FIRESTANDARDCHECK_STATIC_DEFINE)
 
 foreach(library FireStandardCheck FireStandardCheckWhiteBox)
-    target_include_directories(${library} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
+    target_include_directories(${library} PUBLIC
+        $<BUILD_INTERFACE:${library_root}> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/firestandardcheck>)
     target_link_libraries(${library} PUBLIC Qt5::Core PRIVATE Qt5::Xml ${FIRECHECK_HOST_TARGET} firecheck_settings)
 endforeach()
 # White-box users see the host types that the library's inner headers speak of.
