@@ -4,24 +4,28 @@
 
 namespace hrx {
 
+/// A point of the difference of two sets, with the points of the sets that it comes from.
+struct SimplexVertex {
+    CVec3<double> onA;
+    CVec3<double> onB;
+    CVec3<double> difference;
+};
+
 /// Up to four points of the difference of two convex sets, with the point of their hull nearest to the
 /// origin. Only points with a weight in it are kept.
-class Simplex {
+/// Real is the type that the nearest point is computed in.
+template <class Real> class Simplex {
 public:
-    struct Vertex {
-        CVec3<double> onA;
-        CVec3<double> onB;
-        CVec3<double> difference;
-    };
+    using Vertex = SimplexVertex;
 
-    explicit Simplex(const Vertex& vertex) : m_vertices{vertex}, m_nearest(vertex.difference) {}
+    explicit Simplex(const Vertex& vertex);
 
     /// Takes the vertex in. False, and the simplex unchanged, when that brings the hull no nearer to the
     /// origin.
     bool improveWith(const Vertex& vertex);
 
     /// (0, 0, 0) when the origin is inside the hull.
-    const CVec3<double>& nearest() const { return m_nearest; }
+    const CVec3<Real>& nearest() const { return m_nearest; }
     CVec3<double> onA() const { return combine(&Vertex::onA); }
     CVec3<double> onB() const { return combine(&Vertex::onB); }
 
@@ -29,9 +33,9 @@ private:
     CVec3<double> combine(CVec3<double> Vertex::*point) const;
 
     Vertex m_vertices[4];
-    double m_weights[4] = {1.0, 0.0, 0.0, 0.0};
+    Real m_weights[4] = {1, 0, 0, 0};
     int m_count = 1;
-    CVec3<double> m_nearest;
+    CVec3<Real> m_nearest;
 };
 
 } // namespace hrx
