@@ -7,6 +7,8 @@ namespace hrx {
 
 namespace {
 
+constexpr double kMeetsOrigin = 1e-7;
+
 /// The point of a hull of up to four points that is nearest to the origin, as weights of the points.
 template <class Real> struct Candidate {
     Real squared = std::numeric_limits<Real>::infinity();
@@ -84,8 +86,14 @@ template <class Real> void considerInside(const CVec3<Real>* p, Candidate<Real>&
         inside.weights[face[3]] = side / volume;
         sum += side / volume;
     }
-    for (Real& weight : inside.weights)
-        weight /= sum;
+    CVec3<Real> rest;
+    for (int i = 0; i < 4; ++i) {
+        inside.weights[i] /= sum;
+        rest = rest + p[i] * inside.weights[i];
+    }
+    // The signs of a flat tetrahedron are noise; its weights then do not meet the origin.
+    if (dot(rest, rest) > kMeetsOrigin * kMeetsOrigin)
+        return;
     inside.squared = 0;
     best.keepNearer(inside);
 }

@@ -26,6 +26,8 @@ public:
 
     /// (0, 0, 0) when the origin is inside the hull.
     const CVec3<Real>& nearest() const { return m_nearest; }
+    /// The nearest point as the weights have it.
+    CVec3<double> combinedDifference() const { return combine(&Vertex::difference); }
     CVec3<double> onA() const { return combine(&Vertex::onA); }
     CVec3<double> onB() const { return combine(&Vertex::onB); }
 

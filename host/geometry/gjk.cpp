@@ -23,8 +23,9 @@ template <class Real> CVec3<double> unit(const CVec3<Real>& v, Real size) {
             static_cast<double>(v.z / size)};
 }
 
-template <class Real> HullContact iterate(const ConvexPiece& a, const ConvexPiece& b, double enough) {
-    Simplex<Real> simplex(supportOfDifference(a, b, {1.0, 0.0, 0.0}));
+template <class Real>
+HullContact iterate(const ConvexPiece& a, const ConvexPiece& b, const CVec3<double>& from, double enough) {
+    Simplex<Real> simplex(supportOfDifference(a, b, from));
     HullContact contact;
     for (int step = 0; step < kMostSteps; ++step) {
         const Real size = length(simplex.nearest());
@@ -39,18 +40,35 @@ template <class Real> HullContact iterate(const ConvexPiece& a, const ConvexPiec
         if (!simplex.improveWith(vertex))
             break;
     }
-    contact.lower = std::min(contact.lower, contact.upper);
     contact.onA = simplex.onA();
     contact.onB = simplex.onB();
+    // What the points say: the nearest point of a sliver is known better than its weights.
+    if (contact.upper > 0.0)
+        contact.upper = length(simplex.combinedDifference());
+    contact.lower = std::min(contact.lower, contact.upper);
     return contact;
+}
+
+bool isSettled(const HullContact& contact, double enough) {
+    return contact.upper - contact.lower <= kCertifiedGap || contact.lower > enough;
 }
 
 } // namespace
 
 HullContact hullContact(const ConvexPiece& a, const ConvexPiece& b, double enough) {
-    const HullContact contact = iterate<double>(a, b, enough);
-    const bool settled = contact.upper - contact.lower <= kCertifiedGap || contact.lower > enough;
-    return settled ? contact : iterate<long double>(a, b, enough);
+    HullContact best = iterate<double>(a, b, {1.0, 0.0, 0.0}, enough);
+    // Slivers of simplices can stall the iteration: more digits help, and coming from elsewhere.
+    for (const CVec3<double>& from : {CVec3<double>(1, 0, 0), CVec3<double>(0, 1, 0), CVec3<double>(0, 0, 1),
+                                      CVec3<double>(-1, 2, 3), CVec3<double>(3, 1, -2)}) {
+        if (isSettled(best, enough))
+            break;
+        HullContact other = iterate<long double>(a, b, from, enough);
+        other.lower = std::max(other.lower, best.lower);
+        if (other.upper < best.upper)
+            best = other;
+        best.lower = std::min(other.lower, best.upper);
+    }
+    return best;
 }
 
 } // namespace hrx

@@ -14,9 +14,9 @@ struct HullContact {
 };
 
 /// Distance of the hulls of two pieces, by the iteration of Gilbert, Johnson and Keerthi (1988) on their
-/// difference. Ends when upper - lower is at most 1e-7 mm, the gap certified by the support function; when
-/// lower is above `enough`; or, touching within rounding, when no step improves it any more. 0 when they
-/// overlap.
+/// difference. Ends when upper - lower is at most 1e-7 mm, a gap that the support function certifies, or when
+/// lower is above `enough`. Slivers can stall it; it then starts again elsewhere with more digits, and what
+/// gap is left after that (seen: below 1e-6 mm) shows in the bounds. 0 when the hulls overlap.
 HullContact hullContact(const ConvexPiece& a, const ConvexPiece& b, double enough);
 
 } // namespace hrx
