@@ -1,6 +1,5 @@
 #include "geometry/CTubeBody.h"
 
-#include "geometry/DistEpsilon.h"
 #include "geometry/TubePiece.h"
 #include "geometry/finite.h"
 
@@ -21,11 +20,6 @@ CExtents3 CTubeBody::GetExtents() const {
     for (const auto& piece : pieces)
         extents.add(piece->box());
     return extents;
-}
-
-bool CTubeBody::isStrictlyValid() const {
-    return isFinite(m_path.frame()) && std::isfinite(m_path.radius()) && m_radius > g_DistEpsilon &&
-           m_path.radius() * m_path.sweep() > g_DistEpsilon;
 }
 
 bool CTubeBody::isMeasurable() const {

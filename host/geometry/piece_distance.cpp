@@ -14,8 +14,8 @@ namespace hrx {
 namespace {
 
 constexpr double kBoundsMeet = 1e-6;
-/// Far above what any real pair needs (tens); a hang is worse than a result a little too long.
-constexpr int kMostMeasures = 200000;
+/// Far above what any real pair needs (hundreds at most); a hang is worse than a result a little too long.
+constexpr int kMostMeasures = 20000;
 
 double boxDistance(const CExtents3& a, const CExtents3& b) {
     const CVec3<double> gap(std::max({0.0, a.low.x - b.high.x, b.low.x - a.high.x}),
