@@ -2,11 +2,12 @@
 
 #include "geometry/CBody.h"
 
-#include <memory>
-#include <vector>
+#include <boost/container/small_vector.hpp>
 
-/// Bodies that belong to the list; no entry of a list that is measured may be null.
-using BodyList = std::vector<std::unique_ptr<hrx::CBody>>;
+#include <memory>
+
+/// Bodies that belong to the list, one as a rule; no entry of a list that is measured may be null.
+using BodyList = boost::container::small_vector<std::unique_ptr<hrx::CBody>, 1>;
 
 /// What minBodyDistance answers when a side has no body: farther than any distance.
 inline constexpr double kNoBodyDistance = 1e100;

@@ -45,12 +45,16 @@ void pairMeasure(benchmark::State& state, Append appendFirst) {
     }
     const auto document = site.take();
     std::vector<const NUXElementObject*> elements;
-    for (const auto& object : document->GetModelSpace()->objects())
+    std::vector<std::wstring> types;
+    for (const auto& object : document->GetModelSpace()->objects()) {
         elements.push_back(NUXElementObject::Cast(object.get()));
+        types.push_back(elements.back()->getElementType());
+    }
     const NuxStandardCheckRule rule;
     for ([[maybe_unused]] auto _ : state)
         for (std::size_t i = 0; i < elements.size(); i += 2)
-            benchmark::DoNotOptimize(pairDistance(elements[i], elements[i + 1], rule));
+            benchmark::DoNotOptimize(
+                pairDistance({elements[i], types[i]}, {elements[i + 1], types[i + 1]}, rule));
     state.SetItemsProcessed(state.iterations() * pairs);
 }
 

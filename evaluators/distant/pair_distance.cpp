@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -117,7 +116,7 @@ const PairMeasure fireRoadDistance{NUX_EDO_TYPE_ROAD,
                                    false,
                                    false};
 
-const PairMeasure* measureOf(const std::wstring& firstType) {
+const PairMeasure* measureOf(std::wstring_view firstType) {
     for (const PairMeasure* measure :
          {&fireRoadDistance, &prefabHouseDistance, &futureHouseDistance, &substationDistance}) {
         if (firstType == measure->firstType)
@@ -155,8 +154,8 @@ Side prefabHouseReferenceSide(const NUXElementObject* first) {
 }
 
 Side referenceSide(const PairMeasure& measure, const NUXElementObject* first,
-                   const NUXElementObject* reference, const QString& ruleName) {
-    const std::wstring type = reference->getElementType();
+                   const IdentifiedElement& identified, const QString& ruleName) {
+    const auto& [reference, type] = identified;
     const auto& types = measure.referenceTypes;
     if (std::find(types.begin(), types.end(), type) != types.end())
         return elementSide(reference);
@@ -171,16 +170,17 @@ Side referenceSide(const PairMeasure& measure, const NUXElementObject* first,
 
 } // namespace
 
-double pairDistance(const NUXElementObject* first, const NUXElementObject* reference,
+double pairDistance(const IdentifiedElement& first, const IdentifiedElement& reference,
                     const NuxStandardCheckRule& rule) {
-    const PairMeasure* measure = measureOf(first->getElementType());
+    const PairMeasure* measure = measureOf(first.type);
     if (!measure)
         return 0.0;
-    Side firstSide = measure->firstSide(first);
-    if (!firstSide)
-        return 0.0;
-    Side otherSide = referenceSide(*measure, first, reference, rule.name);
-    if (!otherSide)
+    Side otherSide = referenceSide(*measure, first.element, reference, rule.name);
+    // Only a road as first element has an answer of its own for a reference that does not count.
+    if (otherSide && otherSide->empty() && measure->firstSide != fireRoadSide)
+        return kNoBodyDistance;
+    Side firstSide = measure->firstSide(first.element);
+    if (!firstSide || !otherSide)
         return 0.0;
     return minBodyDistance(std::move(*firstSide), std::move(*otherSide));
 }

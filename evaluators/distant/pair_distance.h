@@ -2,7 +2,15 @@
 
 #include "rules_config/NuxStandardCheckRule.h"
 
+#include <string_view>
+
 class NUXElementObject;
+
+/// A site element and the type identifier it reports, read once for a pair.
+struct IdentifiedElement {
+    const NUXElementObject* element;
+    std::wstring_view type;
+};
 
 /// The clear distance in millimetres from a first to a reference element, both as solids 1.0 high. Of the
 /// rule only the name is read: it decides which open sheds count.
@@ -11,5 +19,5 @@ class NUXElementObject;
 /// 0.0 without measuring when the first element's type has no measure, when a road or open shed is of another
 /// class than its identifier says, and when a fire road has no outline; deliberate, so that these pairs
 /// offend.
-double pairDistance(const NUXElementObject* first, const NUXElementObject* reference,
+double pairDistance(const IdentifiedElement& first, const IdentifiedElement& reference,
                     const NuxStandardCheckRule& rule);

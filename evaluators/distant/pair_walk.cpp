@@ -25,10 +25,15 @@ public:
         std::vector<NuxStandardCheckRule> found;
         walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
             const auto* element = NUXElementObject::Cast(object);
-            if (!isFirst(object, element))
+            const auto* model = element ? nullptr : NUX3dsBaseObject::Cast(object);
+            if (!element && !model)
+                return;
+            // An object that is both a site element and a 3-D model is what its element identifier says.
+            const std::wstring type = element ? element->getElementType() : model->getModelKind();
+            if (!m_firstType.matches(type))
                 return;
             observeFound(*object);
-            std::vector<qint64> offending = offendingReferences(*object, element);
+            std::vector<qint64> offending = offendingReferences(*object, {element, type});
             if (offending.empty())
                 return;
             found.push_back(violationOf(m_rule, *object));
@@ -38,23 +43,19 @@ public:
     }
 
 private:
-    /// An object that is both a site element and a 3-D model is what its element identifier says.
-    bool isFirst(const UdDbObject* object, const NUXElementObject* element) const {
-        if (element)
-            return m_firstType.matches(element->getElementType());
-        const auto* model = NUX3dsBaseObject::Cast(object);
-        return model && m_firstType.matches(model->getModelKind());
-    }
-
-    /// `first` is the object as a site element, null for a 3-D model.
+    /// `first` is the object as a site element, which a 3-D model is not.
     std::vector<qint64> offendingReferences(const UdDbObject& firstObject,
-                                            const NUXElementObject* first) const {
+                                            const IdentifiedElement& first) const {
         std::vector<qint64> offending;
         walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
             const auto* reference = NUXElementObject::Cast(object);
-            if (!reference || reference == first || !m_referenceType.matches(reference->getElementType()))
+            if (!reference || reference == first.element)
                 return;
-            const double distance = first ? pairDistance(first, reference, m_rule) : kDistanceOfModel;
+            const std::wstring type = reference->getElementType();
+            if (!m_referenceType.matches(type))
+                return;
+            const double distance =
+                first.element ? pairDistance(first, {reference, type}, m_rule) : kDistanceOfModel;
             if (distance > kNoDistanceMark)
                 return;
             observePair(firstObject, *object, distance);

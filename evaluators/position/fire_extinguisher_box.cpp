@@ -73,10 +73,11 @@ struct Placement {
     }
 };
 
-Placement placementOf(const NUXElementObject& element, const Boxes& boxes, const QString& ruleName) {
+Placement placementOf(const NUXElementObject& element, std::wstring_view type, const Boxes& boxes,
+                      const QString& ruleName) {
     Placement placement;
     for (const UdDbObject* box : boxes) {
-        const double distance = boxDistance(element, *box, ruleName);
+        const double distance = boxDistance(element, type, *box, ruleName);
         if (distance < kNotMeasurable)
             observePair(element, *box, distance);
         placement.nearest = std::min(placement.nearest, distance);
@@ -86,8 +87,8 @@ Placement placementOf(const NUXElementObject& element, const Boxes& boxes, const
     return placement;
 }
 
-bool needsBox(const NUXElementObject& element, const QString& ruleName) {
-    if (element.getElementType() != NUX_ELEMENT_TYPE_OPENHOUSE)
+bool needsBox(const NUXElementObject& element, std::wstring_view type, const QString& ruleName) {
+    if (type != NUX_ELEMENT_TYPE_OPENHOUSE)
         return true;
     const auto* shed = NUXOpenHouseObject::Cast(&element);
     return shed && isWorkshopOfRule(kWorkshopUses, ruleName, shed->openHouseUse());
@@ -128,15 +129,18 @@ std::vector<NuxStandardCheckRule> checkFireExtinguisherBoxes(const UdDbBlock& mo
     std::vector<NuxStandardCheckRule> violations;
     walkModelSpace(modelSpace, [&](const UdDbObject* object) {
         const auto* element = NUXElementObject::Cast(object);
-        if (!element || !examinedType.matches(element->getElementType()))
+        if (!element)
+            return WalkStep::Continue;
+        const std::wstring type = element->getElementType();
+        if (!examinedType.matches(type))
             return WalkStep::Continue;
         observeFound(*object);
         if (boxes.empty()) {
-            if (needsBox(*element, rule.name))
+            if (needsBox(*element, type, rule.name))
                 violations.push_back(violationOf(rule, *object));
             return WalkStep::Continue;
         }
-        const Placement placement = placementOf(*element, boxes, rule.name);
+        const Placement placement = placementOf(*element, type, boxes, rule.name);
         if (!placement.isMeasurable())
             return WalkStep::Stop;
         if (!placement.isServed()) {
@@ -149,24 +153,23 @@ std::vector<NuxStandardCheckRule> checkFireExtinguisherBoxes(const UdDbBlock& mo
     return violations;
 }
 
-double boxDistance(const NUXElementObject& element, const UdDbObject& box, const QString& ruleName) {
-    BodyList boxSide = boxBodies(box);
-    const std::wstring type = element.getElementType();
+double boxDistance(const NUXElementObject& element, std::wstring_view type, const UdDbObject& box,
+                   const QString& ruleName) {
     const bool hasElementBody = std::find(std::begin(kTypesWithElementBody), std::end(kTypesWithElementBody),
                                           type) != std::end(kTypesWithElementBody);
     if (hasElementBody)
-        return minBodyDistance(elementBodies(element), std::move(boxSide));
+        return minBodyDistance(elementBodies(element), boxBodies(box));
     if (type == NUX_ELEMENT_TYPE_PREFABHOUSE) {
         const auto* house = NUXPrefabHouseObject::Cast(&element);
         return minBodyDistance(listOf(house ? buildHouseWithStairBody(*house, kBodyHeight) : nullptr),
-                               std::move(boxSide));
+                               boxBodies(box));
     }
     if (type == NUX_ELEMENT_TYPE_OPENHOUSE) {
         const auto* shed = NUXOpenHouseObject::Cast(&element);
         if (!shed)
             return 0.0;
         if (isWorkshopOfRule(kWorkshopUses, ruleName, shed->openHouseUse()))
-            return minBodyDistance(elementBodies(element), std::move(boxSide));
+            return minBodyDistance(elementBodies(element), boxBodies(box));
     }
     return kNoBodyDistance;
 }

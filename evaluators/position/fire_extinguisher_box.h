@@ -2,6 +2,7 @@
 
 #include "rules_config/NuxStandardCheckRule.h"
 
+#include <string_view>
 #include <vector>
 
 class NUXElementObject;
@@ -20,6 +21,8 @@ bool isFireExtinguisherBoxRule(const QString& ruleName);
 std::vector<NuxStandardCheckRule> checkFireExtinguisherBoxes(const UdDbBlock& modelSpace,
                                                              const NuxStandardCheckRule& rule);
 
-/// The clear distance in millimetres, both as solids 1.0 high. kNoBodyDistance when either has no body, as an
-/// open shed of another use than the rule asks for; 0.0 when the element only claims to be an open shed.
-double boxDistance(const NUXElementObject& element, const UdDbObject& box, const QString& ruleName);
+/// The clear distance in millimetres between an element, which reports `type`, and a box, both as solids 1.0
+/// high. kNoBodyDistance when either has no body, as an open shed of another use than the rule asks for; 0.0
+/// when the element only claims to be an open shed.
+double boxDistance(const NUXElementObject& element, std::wstring_view type, const UdDbObject& box,
+                   const QString& ruleName);

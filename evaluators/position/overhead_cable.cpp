@@ -108,12 +108,11 @@ std::unique_ptr<hrx::CCurve2d> planCurve(const NUXServiceCableObject& cable) {
     return std::make_unique<hrx::CArc2d>(cable.getStartPt(), cable.getEndPt(), cable.getMiddlePt());
 }
 
-bool runsOver(const NUXServiceCableObject& cable, const NUXBaseObject& area) {
+bool runsOver(const NUXServiceCableObject& cable, const hrx::CPolygon& outline) {
     if (!isRaised(cable))
         return false;
-    const OutlinePtr outline(new hrx::CPolygon(planOutline(area)));
     const auto curve = planCurve(cable);
-    const int position = hrx::CPositionJudge().GetCurvePolygonPosition(curve.get(), outline.get());
+    const int position = hrx::CPositionJudge().GetCurvePolygonPosition(curve.get(), &outline);
     return position == kMeetsBoundary || position == kInside;
 }
 
@@ -134,8 +133,9 @@ std::vector<NuxStandardCheckRule> checkOverheadCables(const UdDbBlock& modelSpac
     std::vector<NuxStandardCheckRule> violations;
     for (const auto* areas : {&elements.yards, &elements.workshops}) {
         for (const NUXBaseObject* area : *areas) {
+            const OutlinePtr outline(new hrx::CPolygon(planOutline(*area)));
             for (const NUXServiceCableObject* cable : elements.cables) {
-                if (!runsOver(*cable, *area))
+                if (!runsOver(*cable, *outline))
                     continue;
                 violations.push_back(violationOf(rule, *cable));
                 relate(violations.back(), *area);

@@ -25,11 +25,7 @@ public:
     }
 
     explicit NUXServiceCableObject(const NUXServiceCableParams& params,
-                                   std::wstring typeIdentifier = L"NUX_EDO_TYPE_SERVICECABLE")
-        : NUXBaseObject(kClassBit, std::move(typeIdentifier), params), m_isStraight(params.isStraight),
-          m_start(params.start), m_end(params.end), m_middle(params.middle),
-          m_startElevation(params.startElevation), m_endElevation(params.endElevation),
-          m_radius(params.radius) {}
+                                   std::wstring typeIdentifier = L"NUX_EDO_TYPE_SERVICECABLE");
 
     bool getIsStraight() const { return m_isStraight; }
     hrx::CVec2<double> getStartPt() const { return m_start; }
@@ -44,7 +40,7 @@ public:
 protected:
     /// Those of the cable in space, radius included; where it has no body, those of its axis points widened
     /// by the radius on all sides.
-    std::optional<hrx::CExtents3> geometryExtents() const override;
+    std::optional<hrx::CExtents3> geometryExtents() const override { return m_extents; }
 
 private:
     bool m_isStraight;
@@ -54,4 +50,5 @@ private:
     double m_startElevation;
     double m_endElevation;
     double m_radius;
+    hrx::CExtents3 m_extents; ///< worked out once: rules ask for them again and again
 };
