@@ -12,7 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -107,6 +109,41 @@ TEST(RectangleOutline, StartsAtTheLowerLeftCornerOfItsOwnFrame) {
         EXPECT_NEAR(corners[i].y, expected[i].y, 1e-12);
     }
     EXPECT_EQ(buildRectParamPolygon(NUXRectParam({0.0, 0.0}, -4.0, 2.0, 0.0))->GetLoop(0)->ClockSign(), 1);
+}
+
+// Points that lie upon each other or a hair apart, in short and long polylines, against the definition.
+TEST(PolylineOutline, KeepsTheSamePointsHoweverManyThereAre) {
+    const double hair = 2e-16;
+    const double places[] = {0.0, hair, -hair, 1.0, 1.0 + hair, 3.0, 7e6};
+    std::mt19937 random(1);
+    const auto anyOf = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    for (const int count : {60, 70, 500}) {
+        std::vector<hrx::PolyPt2d> points;
+        std::vector<hrx::PolyPt2d> expected;
+        for (int i = 0; i < count; ++i) {
+            const hrx::PolyPt2d point{places[anyOf(7)] + anyOf(3), places[anyOf(7)], 0.0004 * anyOf(9)};
+            points.push_back(point);
+            const bool isRepeated =
+                std::any_of(expected.begin(), expected.end(), [&](const hrx::PolyPt2d& kept) {
+                    return std::pow(kept.x - point.x, 2) + std::pow(kept.y - point.y, 2) <=
+                               std::pow(2.0, -104) &&
+                           kept.bulge - point.bulge < 0.001;
+                });
+            if (!isRepeated)
+                expected.push_back(point);
+        }
+        const OutlinePtr outline = buildPolylinePolygon(Polyline(points));
+        const auto& edges = outline->GetLoop(0)->edges();
+        ASSERT_EQ(edges.size(), expected.size()) << count;
+        // The outline may run the other way round.
+        const bool isReversed = edges.front().start.x != expected.front().x ||
+                                edges.front().start.y != expected.front().y ||
+                                edges.front().bulge != expected.front().bulge;
+        for (std::size_t i = 0; i < edges.size(); ++i) {
+            const auto& corner = isReversed ? edges[edges.size() - 1 - i].end : edges[i].start;
+            ASSERT_TRUE(corner.x == expected[i].x && corner.y == expected[i].y) << count << ": " << i;
+        }
+    }
 }
 
 TEST(PolylineOutline, DropsRepeatedPointsByAOneSidedTest) {
