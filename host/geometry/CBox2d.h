@@ -19,8 +19,8 @@ struct CBox2d {
         high = {std::max(high.x, point.x), std::max(high.y, point.y)};
     }
     void add(const CBox2d& other) {
-        add(other.low);
-        add(other.high);
+        low = {std::min(low.x, other.low.x), std::min(low.y, other.low.y)};
+        high = {std::max(high.x, other.high.x), std::max(high.y, other.high.y)};
     }
 };
 

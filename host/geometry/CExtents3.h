@@ -21,8 +21,9 @@ struct CExtents3 {
         high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
     }
     void add(const CExtents3& other) {
-        add(other.low);
-        add(other.high);
+        low = {std::min(low.x, other.low.x), std::min(low.y, other.low.y), std::min(low.z, other.low.z)};
+        high = {std::max(high.x, other.high.x), std::max(high.y, other.high.y),
+                std::max(high.z, other.high.z)};
     }
 };
 

@@ -6,8 +6,6 @@ namespace hrx {
 
 namespace {
 
-constexpr double kLeastSagitta = 1e-7;
-
 /// Cosine and sine of half the sweep, from the half-angle formulas on the bulge.
 CVec2<double> halfSweepDirection(double bulge) {
     const double squared = bulge * bulge;
@@ -20,13 +18,6 @@ CVec2<double> unit(const CVec2<double>& v) {
 }
 
 } // namespace
-
-bool Edge2d::isArc() const {
-    if (bulge == 0.0)
-        return false;
-    const CVec2<double> rise = (end - start) * (0.5 * bulge);
-    return dot(rise, rise) > kLeastSagitta * kLeastSagitta;
-}
 
 double Edge2d::length() const {
     return isArc() ? radius() * std::abs(sweep()) : hrx::length(end - start);

@@ -19,7 +19,10 @@ struct Edge2d {
 
     /// False for an arc so flat that it leaves its chord by less than 1e-7 mm, and for an edge without
     /// length.
-    bool isArc() const;
+    bool isArc() const {
+        const CVec2<double> rise = (end - start) * (0.5 * bulge);
+        return bulge != 0.0 && dot(rise, rise) > 1e-14;
+    }
     /// Length along the edge.
     double length() const;
     /// The point half way along the edge; of an arc, its apex over the chord.

@@ -53,6 +53,25 @@ void pointToArc(Side side, const CVec2<double>& point, const Edge2d& arc, const 
     pointToPoint(side, point, arc.end, best);
 }
 
+void segmentToSegment(const Edge2d& a, const Edge2d& b, PlanContact& best) {
+    const CVec2<double> alongA = a.end - a.start;
+    const CVec2<double> alongB = b.end - b.start;
+    const CVec2<double> between = b.start - a.start;
+    const double startOfB = cross(alongA, between);
+    const double endOfB = cross(alongA, b.end - a.start);
+    const double startOfA = -cross(alongB, between);
+    const double endOfA = cross(alongB, a.end - b.start);
+    if (startOfB * endOfB < 0.0 && startOfA * endOfA < 0.0) {
+        const CVec2<double> crossing = a.start + alongA * (startOfA / (startOfA - endOfA));
+        best.keepNearer(0.0, crossing, crossing);
+        return;
+    }
+    pointToSegment(Side::A, a.start, b, best);
+    pointToSegment(Side::A, a.end, b, best);
+    pointToSegment(Side::B, b.start, a, best);
+    pointToSegment(Side::B, b.end, a, best);
+}
+
 /// Points of a line through the frame, start + t * direction (unit), in pairs: where it meets the circle, and
 /// where it comes nearest to or lies deepest inside it.
 struct LineOnCircle {
@@ -142,25 +161,6 @@ void nearestOfPointAndEdge(const CVec2<double>& a, const Edge2d& b, PlanContact&
         pointToSegment(Side::A, a, b, best);
 }
 
-void nearestOfSegments(const Edge2d& a, const Edge2d& b, PlanContact& best) {
-    const CVec2<double> alongA = a.end - a.start;
-    const CVec2<double> alongB = b.end - b.start;
-    const CVec2<double> between = b.start - a.start;
-    const double startOfB = cross(alongA, between);
-    const double endOfB = cross(alongA, b.end - a.start);
-    const double startOfA = -cross(alongB, between);
-    const double endOfA = cross(alongB, a.end - b.start);
-    if (startOfB * endOfB < 0.0 && startOfA * endOfA < 0.0) {
-        const CVec2<double> crossing = a.start + alongA * (startOfA / (startOfA - endOfA));
-        best.keepNearer(0.0, crossing, crossing);
-        return;
-    }
-    pointToSegment(Side::A, a.start, b, best);
-    pointToSegment(Side::A, a.end, b, best);
-    pointToSegment(Side::B, b.start, a, best);
-    pointToSegment(Side::B, b.end, a, best);
-}
-
 void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best) {
     const bool arcA = a.isArc();
     const bool arcB = b.isArc();
@@ -171,7 +171,7 @@ void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best) {
     else if (arcB)
         segmentToArc(Side::A, a, b, best);
     else
-        nearestOfSegments(a, b, best);
+        segmentToSegment(a, b, best);
 }
 
 } // namespace hrx

@@ -27,7 +27,5 @@ struct PlanContact {
 
 void nearestOfPointAndEdge(const CVec2<double>& a, const Edge2d& b, PlanContact& best);
 void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best);
-/// The same for two edges known to be straight.
-void nearestOfSegments(const Edge2d& a, const Edge2d& b, PlanContact& best);
 
 } // namespace hrx

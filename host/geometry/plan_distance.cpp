@@ -26,28 +26,74 @@ struct BoxedEdge {
 
 struct BoxedRegion {
     explicit BoxedRegion(const CPolygon& region) {
-        for (const CCoedgeList& loop : region.loops())
-            for (const Edge2d& edge : loop.edges()) {
-                edges.emplace_back(edge);
-                box.add(edges.back().box);
-            }
+        CBox2d all; // a local one stays in registers
+        for (const CCoedgeList& loop : region.loops()) {
+            edges.reserve(edges.size() + loop.edges().size());
+            for (const Edge2d& edge : loop.edges())
+                all.add(edges.emplace_back(edge).box);
+        }
+        box = all;
     }
 
     boost::container::small_vector<BoxedEdge, 8> edges;
     CBox2d box;
 };
 
+double squaredDistance(const CVec2<double>& point, const CBox2d& box) {
+    const double dx = std::max(0.0, std::max(box.low.x - point.x, point.x - box.high.x));
+    const double dy = std::max(0.0, std::max(box.low.y - point.y, point.y - box.high.y));
+    return dx * dx + dy * dy;
+}
+
+CVec2<double> cornerNearestTo(const CBox2d& box, const BoxedRegion& region) {
+    CVec2<double> corner;
+    double least = std::numeric_limits<double>::infinity();
+    for (const BoxedEdge& edge : region.edges) {
+        const double squared = squaredDistance(edge.edge->start, box);
+        if (squared < least) {
+            least = squared;
+            corner = edge.edge->start;
+        }
+    }
+    return corner;
+}
+
+/// From a point to a straight edge: what to take off the point to come to the nearest point of the edge.
+CVec2<double> gapToSegment(const CVec2<double>& point, const Edge2d& segment) {
+    const CVec2<double> along = segment.end - segment.start;
+    const CVec2<double> arm = point - segment.start;
+    const double size = dot(along, along);
+    // Without branches: which case it is cannot be predicted. 0 / 0 ends as 0.
+    const double t = std::min(1.0, std::max(0.0, dot(arm, along) / size));
+    return arm - along * t;
+}
+
+/// Two straight edges known not to cross come nearest at an end of one. Ends of edges are starts of others,
+/// so the starts will do.
+void nearestOfStarts(const Edge2d& a, const Edge2d& b, PlanContact& best) {
+    const CVec2<double> gapA = gapToSegment(a.start, b);
+    best.keepNearer(dot(gapA, gapA), a.start, a.start - gapA);
+    const CVec2<double> gapB = gapToSegment(b.start, a);
+    best.keepNearer(dot(gapB, gapB), b.start - gapB, b.start);
+}
+
 void nearestOfBoundaries(const BoxedRegion& a, const BoxedRegion& b, PlanContact& best) {
+    // Two near corners, as a first bound.
+    const CVec2<double> cornerA = cornerNearestTo(b.box, a);
+    const CVec2<double> cornerB = cornerNearestTo(a.box, b);
+    const CVec2<double> gap = cornerA - cornerB;
+    best.keepNearer(dot(gap, gap), cornerA, cornerB);
     for (const BoxedEdge& edgeA : a.edges) {
         if (squaredDistance(edgeA.box, b.box) >= best.squared)
             continue;
         for (const BoxedEdge& edgeB : b.edges) {
-            if (squaredDistance(edgeA.box, edgeB.box) >= best.squared)
+            const double bound = squaredDistance(edgeA.box, edgeB.box);
+            if (bound >= best.squared)
                 continue;
-            if (edgeA.arc || edgeB.arc)
+            if (edgeA.arc || edgeB.arc || bound == 0.0)
                 nearestOfEdges(*edgeA.edge, *edgeB.edge, best);
             else
-                nearestOfSegments(*edgeA.edge, *edgeB.edge, best);
+                nearestOfStarts(*edgeA.edge, *edgeB.edge, best);
         }
     }
 }

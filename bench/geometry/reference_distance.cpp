@@ -1,0 +1,50 @@
+#include "reference_distance.h"
+
+#include "geometry/Edge2d.h"
+
+#include <geos_c.h>
+
+namespace {
+
+constexpr double kStrokeError = 0.1;
+
+std::vector<double> stroked(const outlines::Loop& loop) {
+    std::vector<double> coordinates;
+    for (std::size_t i = 0; i < loop.size(); ++i) {
+        const hrx::PolyPt2d& from = loop[i];
+        const hrx::PolyPt2d& to = loop[(i + 1) % loop.size()];
+        const hrx::Edge2d edge{{from.x, from.y}, {to.x, to.y}, from.bulge};
+        coordinates.insert(coordinates.end(), {from.x, from.y});
+        if (!edge.isArc())
+            continue;
+        const double step = 2 * std::acos(1 - kStrokeError / edge.radius());
+        const int count = static_cast<int>(std::ceil(std::abs(edge.sweep()) / step));
+        for (int k = 1; k < count; ++k) {
+            const double angle = edge.startAngle() + edge.sweep() * k / count;
+            coordinates.insert(coordinates.end(), {edge.centre().x + edge.radius() * std::cos(angle),
+                                                   edge.centre().y + edge.radius() * std::sin(angle)});
+        }
+    }
+    coordinates.insert(coordinates.end(), {loop[0].x, loop[0].y});
+    return coordinates;
+}
+
+GEOSGeometry* region(GEOSContextHandle_t context, const outlines::Loop& loop) {
+    const std::vector<double> coordinates = stroked(loop);
+    GEOSCoordSequence* const points = GEOSCoordSeq_copyFromBuffer_r(
+        context, coordinates.data(), static_cast<unsigned>(coordinates.size() / 2), 0, 0);
+    return GEOSGeom_createPolygon_r(context, GEOSGeom_createLinearRing_r(context, points), nullptr, 0);
+}
+
+} // namespace
+
+double referenceDistance(const outlines::Loop& a, const outlines::Loop& b) {
+    static const GEOSContextHandle_t context = GEOS_init_r();
+    GEOSGeometry* const regionA = region(context, a);
+    GEOSGeometry* const regionB = region(context, b);
+    double distance = -1;
+    GEOSDistance_r(context, regionA, regionB, &distance);
+    GEOSGeom_destroy_r(context, regionA);
+    GEOSGeom_destroy_r(context, regionB);
+    return distance;
+}
