@@ -82,12 +82,10 @@ bool isRaised(const NUXServiceCableObject& cable) {
 std::vector<hrx::PolyPt2d> planOutline(const NUXBaseObject& area) {
     std::vector<hrx::PolyPt2d> points;
     if (area.m_shapeKind == kRectangleShape) {
+        // Deliberate: the angle is taken to be in degrees, whatever a host's NUXRectParam makes of it.
         const hrx::CVec3<double> centre = area.getPtRectCenter();
-        std::vector<hrx::CVec2<double>> corners;
-        getRectParamCorners(
-            NUXRectParam({centre.x, centre.y}, area.getRectWidthL(), area.getRectHigh(), area.getRectAngle()),
-            corners);
-        for (const hrx::CVec2<double>& corner : corners)
+        for (const hrx::CVec2<double>& corner : turnedRectangleCorners(
+                 {centre.x, centre.y}, area.getRectWidthL(), area.getRectHigh(), area.getRectAngle()))
             points.push_back({corner.x, corner.y, 0.0});
     } else if (area.m_shapeKind == kPolylineShape) {
         area.GetPolyPts(points);
