@@ -1,7 +1,6 @@
 #include "evaluators/position/clearance_body.h"
 
 #include "elements/NUXRoadObject.h"
-#include "evaluators/position/fire_road_headroom.h"
 #include "geometry/BodyDistance.h"
 #include "site/outline_ptr.h"
 

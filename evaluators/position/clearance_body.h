@@ -6,6 +6,11 @@
 
 class NUXRoadObject;
 
+inline constexpr double kHeadroom = 4000.0; ///< millimetres above the ground plane
+
+/// Distances up to this one, in millimetres, count as touching.
+inline constexpr double kTouchDistance = 0.001;
+
 /// The room above a fire road that must stay free; null for a road without an outline.
 std::unique_ptr<hrx::CExtrudedBody> buildClearanceBody(const NUXRoadObject& road);
 
@@ -14,6 +19,3 @@ bool intrudes(const hrx::CExtrudedBody& clearance, const hrx::CBody& body);
 
 /// The least distance between the room and a body, in millimetres.
 double clearanceDistance(const hrx::CExtrudedBody& clearance, const hrx::CBody& body);
-
-/// Distances up to this one, in millimetres, count as touching.
-inline constexpr double kTouchDistance = 0.001;

@@ -137,12 +137,13 @@ bool overlaps(double lowest, double highest, double bodyLowest, double bodyHighe
     return !(lowest - kEpsilon > bodyHighest) && !(bodyLowest > highest + kEpsilon);
 }
 
-Records checkModelExtents(const Roads& roads, const UdDbObject& object, const NuxStandardCheckRule& rule) {
+Records checkModelExtents(const Roads& roads, const NUX3dsBaseObject& model,
+                          const NuxStandardCheckRule& rule) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     hrx::CVec3<double> low{kInfinity, kInfinity, kInfinity};
     hrx::CVec3<double> high{-kInfinity, -kInfinity, -kInfinity};
-    object.GetGeomExtents(low, high);
-    return intrusions(roads, object, rule, [&](const hrx::CExtrudedBody& clearance) {
+    model.GetGeomExtents(low, high);
+    return intrusions(roads, model, rule, [&](const hrx::CExtrudedBody& clearance) {
         const hrx::CExtents3 room = clearance.GetExtents();
         return overlaps(low.x, high.x, room.low.x, room.high.x) &&
                overlaps(low.y, high.y, room.low.y, room.high.y) &&
@@ -164,7 +165,7 @@ Records checkObject(const Roads& roads, const UdDbObject* object, const NuxStand
     const auto* model = NUX3dsBaseObject::Cast(object);
     if (!model || contains(kAllowedModels, model->getModelKind()))
         return records;
-    const Records ofExtents = checkModelExtents(roads, *object, rule);
+    const Records ofExtents = checkModelExtents(roads, *model, rule);
     records.insert(records.end(), ofExtents.begin(), ofExtents.end());
     return records;
 }

@@ -6,8 +6,6 @@
 
 class UdDbBlock;
 
-inline constexpr double kHeadroom = 4000.0; ///< millimetres above the ground plane
-
 /// Nothing but roads, washing pools, doors, vehicles and construction machines may reach into the headroom
 /// above a fire road. One record for each road and intruder: the road with the intruder as its related
 /// element.
