@@ -20,10 +20,6 @@ void setDriveRoot(const QString& directory) {
     drive().root = directory;
 }
 
-QString driveRoot() {
-    return drive().root;
-}
-
 void mapRootedFileName(const QString& rootedName, const QString& file) {
     drive().mapped[rootedName] = file;
 }

@@ -8,7 +8,6 @@
 /// The drive root is the installed data directory until the application sets another one, which it does
 /// before the first rooted name is opened.
 void setDriveRoot(const QString& directory);
-QString driveRoot();
 
 /// Lets one rooted name stand for a file of any name and place, whatever the drive root says.
 void mapRootedFileName(const QString& rootedName, const QString& file);

@@ -2,7 +2,7 @@
 
 namespace UdDb {
 
-enum OpenMode { kForRead = 0, kForWrite = 1 };
+enum OpenMode { kForRead = 0 };
 
 } // namespace UdDb
 
