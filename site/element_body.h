@@ -18,6 +18,6 @@ BodyPtr buildHouseWithStairBody(const NUXPrefabHouseObject& house, double height
 
 /// The footprint raised by `height`: a rectangle from z = 0, a circle from its centre's z, a polyline from
 /// the element's elevation. A door without one of these gets its leaf and posts, always 1.0 high. Answers
-/// whether there is a body fit for measuring, and sets `body` to it or to null; an element without footprint
-/// leaves `body` as it is and answers false.
+/// whether there is a body fit for measuring, and sets `body` to it or to null; an element of a class without
+/// footprints leaves `body` as it is and answers false.
 bool buildElementBody(const NUXElementObject* element, double height, BodyPtr& body);
