@@ -12,8 +12,6 @@ struct CBox2d {
     CVec2<double> low{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
     CVec2<double> high{-std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
 
-    bool isEmpty() const { return !(low.x <= high.x && low.y <= high.y); }
-
     void add(const CVec2<double>& point) {
         low = {std::min(low.x, point.x), std::min(low.y, point.y)};
         high = {std::max(high.x, point.x), std::max(high.y, point.y)};

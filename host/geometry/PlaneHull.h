@@ -10,7 +10,6 @@ namespace hrx {
 class PlaneHull {
 public:
     void add(const Edge2d& edge);
-    bool isEmpty() const { return m_corners.empty(); }
     /// The point furthest in a direction, which need not be a unit vector. The hull must not be empty.
     CVec2<double> support(const CVec2<double>& direction) const;
 
