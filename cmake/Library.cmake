@@ -33,6 +33,7 @@ set(library_sources
     rules_config/NUXRuleConfigFile.cpp
     rules_config/NuxStandardCheckRule.cpp
     rules_config/rule_document.cpp
+    rules_config/rule_file_bounds.cpp
     site/CheckObserver.cpp
     site/IdentifierField.cpp
     site/element_body.cpp

@@ -1,0 +1,203 @@
+#include "base/rooted_file_name.h"
+#include "rules_config/NUXRuleConfigFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextCodec>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+struct RuleStoreAccess {
+    static NUXRuleConfigFile load() { return NUXRuleConfigFile(); }
+};
+
+namespace {
+
+using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
+
+QByteArray contentOf(const QString& fileName) {
+    QFile file(fileName);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+/// A directory with a rule file that each test case writes anew.
+class RuleFile : public testing::Test {
+protected:
+    RuleFile() { setDriveRoot(m_root.path()); }
+
+    QString fileName() const { return m_root.filePath("FireStandardCheck.xml"); }
+
+    RuleMap rulesOf(const QByteArray& text) const {
+        QFile file(fileName());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        return RuleStoreAccess::load().getAllRuleMap();
+    }
+
+    const QByteArray m_shipped = contentOf(SOURCE_DIRECTORY "/data/FireStandardCheck.xml");
+
+private:
+    QTemporaryDir m_root;
+};
+
+QByteArray inGroup(const QByteArray& content, const QByteArray& prolog = QByteArray()) {
+    return prolog + "<a><g>" + content + "</g></a>";
+}
+
+QByteArray nested(int levels) {
+    return QByteArray("<x>").repeated(levels) + QByteArray("</x>").repeated(levels);
+}
+
+/// A document type that declares entities, the first of `text` and each other one of ten of the one before.
+QByteArray tenfold(const QByteArray& text, int entities) {
+    QByteArray type = "<!DOCTYPE a [<!ENTITY e0 \"" + text + "\">";
+    for (int i = 1; i < entities; ++i) {
+        const QByteArray former = "&e" + QByteArray::number(i - 1) + ";";
+        type += "<!ENTITY e" + QByteArray::number(i) + " \"" + former.repeated(10) + "\">";
+    }
+    return type + "]>";
+}
+
+QByteArray manyEntities(int entities) {
+    QByteArray type = "<!DOCTYPE a [";
+    for (int i = 0; i < entities; ++i)
+        type += "<!ENTITY e" + QByteArray::number(i) + " \"x\">";
+    return type + "]>";
+}
+
+QByteArray manyAttributes(int attributes) {
+    QByteArray text;
+    for (int i = 0; i < attributes; ++i)
+        text += "a" + QByteArray::number(i) + "='' ";
+    return text;
+}
+
+int countOf(const RuleMap& rules) {
+    int count = 0;
+    for (const auto& sharingKey : rules)
+        count += static_cast<int>(sharingKey.size());
+    return count;
+}
+
+TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
+    const QByteArray rule = "<R Type='self'/>";
+    const QByteArray openTags = QByteArray("<x>").repeated(1000);
+    struct Row {
+        const char* what;
+        QByteArray text;
+        int rules;
+    };
+    const Row rows[] = {
+        {"nested as far as is read", inGroup(nested(254)), 1},
+        {"nested deeper", inGroup(nested(255) + rule), 0},
+        {"nested very deep", inGroup(nested(100000)), 0},
+        {"nested very deep and never closed", "<a><g>" + QByteArray("<x>").repeated(100000), 0},
+        {"nested by an entity that opens and one that closes",
+         inGroup("&o;&o;&c;&c;", "<!DOCTYPE a [<!ENTITY o \"" + openTags + "\"><!ENTITY c \"" +
+                                     QByteArray(openTags).replace("<", "</") + "\">]>"),
+         0},
+        {"nested by many references to one entity",
+         inGroup(QByteArray("&o;").repeated(100000), "<!DOCTYPE a [<!ENTITY o \"<x>\">]>"), 0},
+        {"groups in an element declaration",
+         "<!DOCTYPE a [<!ELEMENT a " + QByteArray("(").repeated(100000) + "b" +
+             QByteArray(")").repeated(100000) + ">]><a><g>" + rule + "</g></a>",
+         0},
+        {"entities that multiply", inGroup("<R Type='&e9;'>&e9;</R>", tenfold("many words", 10)), 0},
+        {"a long entity that is used often",
+         inGroup("<R><ObjName>" + QByteArray("&e;").repeated(100000) + "</ObjName></R>",
+                 "<!DOCTYPE a [<!ENTITY e \"" + QByteArray("y").repeated(4000) + "\">]>"),
+         0},
+        {"more entities than any rule file needs", inGroup(rule, manyEntities(20000)), 0},
+        {"an entity that contains itself", inGroup("&e;" + rule, "<!DOCTYPE a [<!ENTITY e \"&e;\">]>"), 0},
+        {"very many rules", inGroup(rule.repeated(50000)), 50000},
+        {"a hundred thousand attributes", inGroup("<R " + manyAttributes(100000) + "/>"), 1},
+        {"an element name of a million letters", inGroup("<" + QByteArray("R").repeated(1000000) + "/>"), 1},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(countOf(rulesOf(row.text)), row.rules) << row.what;
+}
+
+TEST_F(RuleFile, WithSoberEntitiesIsReadAsItStands) {
+    const RuleMap rules = rulesOf(inGroup("<R Standard='&code;, 3.3.2'><ObjName>&road;</ObjName></R>",
+                                          "<!DOCTYPE a [<!ELEMENT a (g|(h,i))><!ENTITY code \"GB "
+                                          "50720\"><!ENTITY road \"fire <b>road</b>\">]>"));
+    ASSERT_EQ(rules.value("R").size(), 1u);
+    EXPECT_EQ(rules["R"][0].standard, "GB 50720, 3.3.2");
+    EXPECT_EQ(rules["R"][0].objName, "fire road");
+}
+
+TEST_F(RuleFile, NeverReachesForAnotherFile) {
+    QFile other(fileName() + ".secret");
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("<R Type='secret'/>");
+    other.close();
+    const QByteArray type = "<!DOCTYPE a [<!ENTITY e SYSTEM \"" + other.fileName().toUtf8() + "\">]>";
+    const RuleMap rules = rulesOf(inGroup("<Q><ObjName>[&e;]</ObjName></Q>&e;", type));
+    EXPECT_FALSE(rules.contains("R"));
+    ASSERT_TRUE(rules.contains("Q"));
+    EXPECT_EQ(rules["Q"][0].objName, "[]");
+}
+
+TEST_F(RuleFile, ThatIsNoFileGivesNoRules) {
+    ASSERT_TRUE(QDir().mkdir(fileName()));
+    EXPECT_EQ(countOf(RuleStoreAccess::load().getAllRuleMap()), 0) << "a directory";
+    ASSERT_TRUE(QDir().rmdir(fileName()));
+
+    ASSERT_EQ(mkfifo(fileName().toLocal8Bit().constData(), 0600), 0);
+    EXPECT_EQ(countOf(RuleStoreAccess::load().getAllRuleMap()), 0) << "a pipe that nobody writes to";
+    ASSERT_TRUE(QFile::remove(fileName()));
+
+    ASSERT_TRUE(QFile::link("/dev/zero", fileName()));
+    EXPECT_EQ(countOf(RuleStoreAccess::load().getAllRuleMap()), 0) << "an endless device";
+    ASSERT_TRUE(QFile::remove(fileName()));
+}
+
+TEST_F(RuleFile, IsReadInTheEncodingThatItDeclares) {
+    const QString text = QString::fromUtf8("<a><g><R><ObjName>食堂</ObjName></R></g></a>");
+    const auto inCodec = [&](const char* codec, const char* declared) {
+        const QString declaration = QString("<?xml version='1.0' encoding='%1'?>").arg(declared);
+        return QTextCodec::codecForName(codec)->fromUnicode(declaration + text);
+    };
+    const auto objectName = [](const RuleMap& rules) { return rules.value("R").at(0).objName; };
+    EXPECT_EQ(objectName(rulesOf(inCodec("UTF-8", "UTF-8"))), QString::fromUtf8("食堂"));
+    EXPECT_EQ(objectName(rulesOf(inCodec("GB18030", "GB18030"))), QString::fromUtf8("食堂"));
+    EXPECT_EQ(objectName(rulesOf(inCodec("UTF-16", "UTF-16"))), QString::fromUtf8("食堂"));
+    // Wrongly declared texts are garbled, but the rules are there.
+    EXPECT_EQ(countOf(rulesOf(inCodec("GB18030", "UTF-8"))), 1);
+    EXPECT_EQ(countOf(rulesOf(inCodec("UTF-8", "no-such-encoding"))), 1);
+}
+
+// How many rules a broken file yields is the parser's business; it must survive, and invent nothing.
+TEST_F(RuleFile, CutOffAnywhereYieldsNoRuleThatWasNotThere) {
+    const RuleMap all = rulesOf(m_shipped);
+    for (int length = 0; length <= m_shipped.size(); length += length < 300 ? 1 : 397) {
+        const RuleMap rules = rulesOf(m_shipped.left(length));
+        int incomplete = 0;
+        for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
+            const bool wasThere = all.contains(entry.key()) || entry.key() == "#text";
+            incomplete += wasThere ? 0 : 1;
+        }
+        // The last rule may have lost the attributes that make its key.
+        ASSERT_LE(incomplete, 1) << length;
+        ASSERT_LE(countOf(rules), countOf(all) + 1) << length;
+    }
+}
+
+TEST_F(RuleFile, SurvivesAWrongBitAnywhere) {
+    const int all = countOf(rulesOf(m_shipped));
+    int complete = 0;
+    for (int at = 0; at < m_shipped.size(); at += 211) {
+        QByteArray flipped = m_shipped;
+        flipped[at] = static_cast<char>(flipped[at] ^ (1 << at % 8));
+        const int count = countOf(rulesOf(flipped));
+        ASSERT_LE(count, all + 1) << at; // a comment between the groups may become text, and so a rule
+        complete += count == all;
+    }
+    EXPECT_GT(complete, 0) << "most bits are in texts, where a wrong one costs no rule";
+}
+
+} // namespace
