@@ -16,6 +16,10 @@ constexpr const char* kHelp =
       Checks each site file and reports what breaks a rule.
   firecheck show-rules [FILE] [--format text|json] [--output FILE]
       Shows the rules of a rule file as the checker holds them.
+  firecheck list-rules [--format text|json|markdown] [--output FILE]
+      Lists the rule names that mean something, and what each of them judges.
+  firecheck lint-rules [FILE] [--format text|json] [--output FILE]
+      Finds what the checker passes over in silence in a rule file.
   firecheck site-schema [--format json|markdown] [--output FILE]
       Writes the JSON Schema of site files, or the list of their classes and keys.
   firecheck --help | --version
@@ -24,7 +28,7 @@ Results go to standard output or the file named by --output, which is replaced o
 when every input could be used; everything else goes to standard error. Without
 --rules (or FILE) the rule file that comes with the checker is used.
 
-Exit status: 0 nothing found, 1 violations found, 2 wrong usage or input.
+Exit status: 0 nothing found, 1 violations or findings, 2 wrong usage or input.
 )";
 
 int run(const QStringList& words) {
@@ -40,6 +44,10 @@ int run(const QStringList& words) {
     }
     if (command == "check")
         return checkCommand(rest);
+    if (command == "lint-rules")
+        return lintRulesCommand(rest);
+    if (command == "list-rules")
+        return listRulesCommand(rest);
     if (command == "show-rules")
         return showRulesCommand(rest);
     if (command == "site-schema")

@@ -3,6 +3,8 @@
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
+#include "lint/lint_report.h"
+#include "lint/lint_rule_file.h"
 #include "report/ReportWriter.h"
 #include "rules/rule_file.h"
 #include "site_file/site_reader.h"
@@ -28,6 +30,18 @@ std::optional<Site> tryLoadSite(const std::string& fileName) {
     }
 }
 
+/// What the linter cannot read is no reason not to check.
+void mentionLint(const std::string& ruleFile) {
+    try {
+        const std::size_t count = lintRuleFile(ruleFile).size();
+        if (count > 0)
+            complain(ruleFile + ": " + countedFindings(count) +
+                     " in the rule file, see \"firecheck lint-rules\"");
+    } catch (const InputError& error) {
+        complain(error.what());
+    }
+}
+
 } // namespace
 
 int checkCommand(const QStringList& words) {
@@ -36,7 +50,9 @@ int checkCommand(const QStringList& words) {
         throw InputError("No site file is given. Try \"firecheck --help\".");
     const QString format = options.format({"text", "json"});
     const auto givenRules = options.value("rules");
-    const RuleMap& rules = loadRules(givenRules ? givenRules->toStdString() : defaultRuleFile());
+    const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
+    const RuleMap& rules = loadRules(ruleFile);
+    mentionLint(ruleFile);
 
     Output output(options.value("output").value_or(QString()));
     const auto writer = writerFor(format, output);

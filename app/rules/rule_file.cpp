@@ -9,9 +9,15 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace {
+std::string defaultRuleFile() {
+    const QString fileName = "FireStandardCheck.xml";
+    const QString installed =
+        QCoreApplication::applicationDirPath() + "/../share/firestandardcheck/" + fileName;
+    if (QFileInfo(installed).isFile())
+        return QFileInfo(installed).canonicalFilePath().toStdString();
+    return (QStringLiteral(FIRECHECK_SOURCE_DATA_DIRECTORY) + "/" + fileName).toStdString();
+}
 
-/// The library reads past whatever is wrong with its rule file, so the file is looked at beforehand.
 void requireWellFormed(const std::string& fileName) {
     const QString name = QString::fromStdString(fileName);
     if (QFileInfo(name).isDir())
@@ -26,17 +32,6 @@ void requireWellFormed(const std::string& fileName) {
     if (!document.setContent(&file, &reason, &line, &column))
         throw InputError(fileName + ":" + std::to_string(line) + ":" + std::to_string(column) +
                          ": expected a well-formed XML document: " + reason.toStdString());
-}
-
-} // namespace
-
-std::string defaultRuleFile() {
-    const QString fileName = "FireStandardCheck.xml";
-    const QString installed =
-        QCoreApplication::applicationDirPath() + "/../share/firestandardcheck/" + fileName;
-    if (QFileInfo(installed).isFile())
-        return QFileInfo(installed).canonicalFilePath().toStdString();
-    return (QStringLiteral(FIRECHECK_SOURCE_DATA_DIRECTORY) + "/" + fileName).toStdString();
 }
 
 const RuleMap& loadRules(const std::string& fileName) {

@@ -14,6 +14,10 @@ using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
 /// that was never installed, the one of that tree.
 std::string defaultRuleFile();
 
+/// Throws InputError for a file that cannot be read or is not well-formed XML. The library reads past
+/// whatever is wrong with its rule file, so the file is looked at beforehand.
+void requireWellFormed(const std::string& fileName);
+
 /// Has the rule store read `fileName`, and answers its rules. The store reads one file in the life of the
 /// process, so this is called once. Throws InputError for a file that cannot be read, is not well-formed XML,
 /// or holds no rule.

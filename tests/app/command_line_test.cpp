@@ -76,6 +76,9 @@ Not judged
   rule #comment: no evaluator is of type ""
 )";
 
+const std::string kMention =
+    "firecheck: rules.xml: 1 finding in the rule file, see \"firecheck lint-rules\"\n";
+
 TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
     const struct {
         std::string command;
@@ -83,20 +86,19 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         std::string messages;
         int status;
     } cases[] = {
-        {"firecheck check narrow.json --rules rules.xml", kNarrowReport, "", 1},
-        {"firecheck check fine.json --rules=rules.xml", kFineReport, "", 0},
-        {"firecheck check --rules rules.xml fine.json narrow.json", kFineReport + "\n" + kNarrowReport, "",
-         1},
+        {"firecheck check narrow.json --rules rules.xml", kNarrowReport, kMention, 1},
+        {"firecheck check fine.json --rules=rules.xml", kFineReport, kMention, 0},
+        {"firecheck check --rules rules.xml fine.json narrow.json", kFineReport + "\n" + kNarrowReport,
+         kMention, 1},
         {"firecheck check --rules rules.xml truncated.json fine.json", kFineReport,
-         "firecheck: truncated.json:1:14: expected JSON in UTF-8: unexpected end of input; expected '[', "
-         "'{', or a "
-         "literal\n",
+         kMention + "firecheck: truncated.json:1:14: expected JSON in UTF-8: unexpected end of input; "
+                    "expected '[', '{', or a literal\n",
          2},
         {"firecheck check --rules rules.xml --format json truncated.json 2>&-", "{\n  \"sites\": []\n}\n", "",
          2},
         {"firecheck check --rules rules.xml . missing.json", "",
-         "firecheck: .: expected a site file, found a directory\n"
-         "firecheck: missing.json: cannot be read: No such file or directory\n",
+         kMention + "firecheck: .: expected a site file, found a directory\n"
+                    "firecheck: missing.json: cannot be read: No such file or directory\n",
          2},
         {"firecheck check fine.json --rules no_rules.xml", "",
          "firecheck: no_rules.xml: expected at least one rule\n", 2},
@@ -114,7 +116,7 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         {"firecheck chekc fine.json", "",
          "firecheck: No such command: \"chekc\". Try \"firecheck --help\".\n", 2},
         {"firecheck check fine.json --rules rules.xml > /dev/full", "",
-         "firecheck: standard output: cannot be written: No space left on device\n", 2},
+         kMention + "firecheck: standard output: cannot be written: No space left on device\n", 2},
         {"firecheck show-rules rules.xml",
          "\"#comment\"\n  - name: \"#comment\"\n\"Self_RoadMinWidth\"\n  - name: \"Self_RoadMinWidth\"\n"
          "    type: \"self\"\n    elementType: \"NUX_EDO_TYPE_ROAD\"\n    standard: \"clause 1\"\n"
@@ -138,7 +140,7 @@ TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenAllIsWell) {
 
     const Outcome outcome = run("LC_ALL=C firecheck check narrow.json --rules rules.xml --output 食堂.txt");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output + outcome.messages, "");
+    EXPECT_EQ(outcome.output + outcome.messages, kMention);
     EXPECT_EQ(read("食堂.txt"), kNarrowReport);
     EXPECT_EQ(run("firecheck check narrow.json --rules rules.xml --output gone/report.txt").status, 2);
 }

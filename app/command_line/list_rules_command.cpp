@@ -1,0 +1,26 @@
+#include "InputError.h"
+#include "command_line/Options.h"
+#include "command_line/Output.h"
+#include "command_line/commands.h"
+#include "rules/vocabulary_report.h"
+
+namespace {
+
+std::string vocabularyAs(const QString& format) {
+    if (format == "json")
+        return vocabularyJson().dump(2) + "\n";
+    return format == "text" ? vocabularyText() : vocabularyMarkdown();
+}
+
+} // namespace
+
+int listRulesCommand(const QStringList& words) {
+    const Options options(words, {"format", "output"});
+    if (!options.arguments().isEmpty())
+        throw InputError("The list of rules takes no file. Try \"firecheck show-rules\".");
+    const QString format = options.format({"text", "json", "markdown"});
+    Output output(options.value("output").value_or(QString()));
+    output.write(vocabularyAs(format));
+    output.commit();
+    return kNothingFound;
+}

@@ -1,0 +1,125 @@
+#include "lint/RuleFileNode.h"
+
+#include "InputError.h"
+#include "lint/XmlPlaces.h"
+
+#include <QFile>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kLevelsBelowRoot = 3; // groups, rules, texts
+
+QByteArray bytesOf(const std::string& fileName) {
+    QFile file(QString::fromStdString(fileName));
+    if (!file.open(QIODevice::ReadOnly))
+        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+    return file.readAll();
+}
+
+/// The characters of a document, in the encoding that it declares, so that they can be counted.
+QString textOf(const QByteArray& bytes) {
+    QXmlStreamReader reader(bytes);
+    reader.readNext();
+    QTextCodec* codec = QTextCodec::codecForName(reader.documentEncoding().toString().toLatin1());
+    return QTextCodec::codecForUtfText(bytes, codec ? codec : QTextCodec::codecForName("UTF-8"))
+        ->toUnicode(bytes);
+}
+
+class NodeReader {
+public:
+    explicit NodeReader(const std::string& fileName)
+        : m_fileName(fileName), m_text(textOf(bytesOf(fileName))), m_places(m_text), m_reader(m_text) {
+        m_reader.setNamespaceProcessing(false);
+    }
+
+    RuleFileNode document() {
+        while (next() != QXmlStreamReader::StartElement) {
+        }
+        RuleFileNode root = element(kLevelsBelowRoot);
+        while (next() != QXmlStreamReader::EndDocument) {
+        }
+        return root;
+    }
+
+private:
+    QXmlStreamReader::TokenType next() {
+        m_tokenStart = m_reader.characterOffset();
+        const auto token = m_reader.readNext();
+        if (token == QXmlStreamReader::Invalid)
+            throw InputError(
+                m_fileName + ":" + std::to_string(m_reader.lineNumber()) + ":" +
+                std::to_string(m_reader.columnNumber() + 1) +
+                ": expected a well-formed XML document: " + m_reader.errorString().toStdString());
+        return token;
+    }
+
+    RuleFileNode nodeAtToken(RuleFileNode::Kind kind, const QString& name) const {
+        return {kind, name.toStdString(), m_places.placeOfToken(m_tokenStart), {}, {}};
+    }
+
+    RuleFileNode element(int levelsBelow) {
+        RuleFileNode node = nodeAtToken(RuleFileNode::Kind::Element, m_reader.qualifiedName().toString());
+        const auto places = m_places.attributePlaces(m_tokenStart, m_reader.characterOffset());
+        for (const QXmlStreamAttribute& attribute : m_reader.attributes()) {
+            const auto place = places.find(attribute.qualifiedName().toString());
+            node.attributes.push_back({attribute.qualifiedName().toString().toStdString(),
+                                       attribute.value().toString().toStdString(),
+                                       place == places.end() ? node.place : place->second});
+        }
+        if (levelsBelow == 0)
+            skipToEnd();
+        else
+            readChildren(node, levelsBelow - 1);
+        return node;
+    }
+
+    void readChildren(RuleFileNode& node, int levelsBelow) {
+        for (auto token = next(); token != QXmlStreamReader::EndElement; token = next()) {
+            if (token == QXmlStreamReader::StartElement)
+                node.children.push_back(element(levelsBelow));
+            else if (token == QXmlStreamReader::Comment)
+                node.children.push_back(nodeAtToken(RuleFileNode::Kind::Comment, {}));
+            else if (token == QXmlStreamReader::ProcessingInstruction)
+                node.children.push_back(nodeAtToken(RuleFileNode::Kind::Instruction,
+                                                    m_reader.processingInstructionTarget().toString()));
+            else if (m_reader.isCDATA() || !m_reader.isWhitespace())
+                node.children.push_back(nodeAtToken(RuleFileNode::Kind::Text, {}));
+        }
+    }
+
+    void skipToEnd() {
+        for (int depth = 1; depth > 0;) {
+            const auto token = next();
+            depth += token == QXmlStreamReader::StartElement ? 1
+                     : token == QXmlStreamReader::EndElement ? -1
+                                                             : 0;
+        }
+    }
+
+    const std::string m_fileName;
+    const QString m_text;
+    const XmlPlaces m_places;
+    QXmlStreamReader m_reader;
+    qint64 m_tokenStart = 0;
+};
+
+} // namespace
+
+const RuleFileAttribute* RuleFileNode::attribute(const std::string& wanted) const {
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [&](const RuleFileAttribute& a) { return a.name == wanted; });
+    return found == attributes.end() ? nullptr : &*found;
+}
+
+std::string RuleFileNode::value(const std::string& wanted) const {
+    const RuleFileAttribute* found = attribute(wanted);
+    return found ? found->value : std::string();
+}
+
+RuleFileNode readRuleFileNodes(const std::string& fileName) {
+    return NodeReader(fileName).document();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// Where something stands in a file; both count from 1, columns in characters.
+struct Place {
+    int line = 1;
+    int column = 1;
+};
+
+struct RuleFileAttribute {
+    std::string name;
+    std::string value;
+    Place place; ///< of its name
+};
+
+/// A node of a rule file. Blank text is none, as for the rule store.
+struct RuleFileNode {
+    enum class Kind { Element, Comment, Text, Instruction };
+
+    Kind kind;
+    std::string name; ///< of an element or instruction
+    Place place;
+    std::vector<RuleFileAttribute> attributes;
+    std::vector<RuleFileNode> children;
+
+    /// Nullptr when there is none of that name.
+    const RuleFileAttribute* attribute(const std::string& wanted) const;
+    /// Empty when there is none, as the rule store reads it.
+    std::string value(const std::string& wanted) const;
+};
+
+/// The document element of a rule file, with as many levels below it as the rule store looks at: groups,
+/// rules and their texts. Throws InputError for a file that cannot be read or is not well-formed XML.
+RuleFileNode readRuleFileNodes(const std::string& fileName);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "lint/RuleFileNode.h"
+
+#include <QString>
+
+#include <map>
+#include <vector>
+
+/// Finds lines and columns in the text of an XML document. Tokens are given by where a QXmlStreamReader stood
+/// before it read them; it may already have taken the "<" of a tag by then.
+class XmlPlaces {
+public:
+    explicit XmlPlaces(const QString& text);
+
+    Place placeOfToken(qint64 offset) const;
+
+    /// The places of the names of the attributes in a start tag.
+    std::map<QString, Place> attributePlaces(qint64 tagOffset, qint64 tagEnd) const;
+
+private:
+    Place placeAt(int offset) const;
+    int tokenStart(qint64 offset) const;
+
+    QString m_text;
+    std::vector<int> m_lineStarts;
+};

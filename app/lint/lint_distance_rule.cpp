@@ -1,0 +1,146 @@
+#include "lint/lint_distance_rule.h"
+
+#include "lint/lint_attributes.h"
+#include "rules/vocabulary.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+const std::string kLess = "less";
+const std::string kLessOrMore = "less or more";
+const std::string kOpenShed = "NUX_ELEMENT_TYPE_OPENHOUSE";
+
+struct Limits {
+    double minimum;
+    std::optional<double> maximum;
+};
+
+class DistanceRuleLinter {
+public:
+    DistanceRuleLinter(const RuleFileNode& rule, LintFindings& findings)
+        : m_rule(rule), m_findings(findings), m_elementType(rule.value("ElementType")),
+          m_referenceType(rule.value("ReferenceElementType")), m_condition(rule.value("ConstraintCondition")),
+          m_value(rule.value("DistantValue")) {}
+
+    void lint(bool areTypesRight) {
+        lintCondition();
+        const std::optional<Limits> limits = lintValue();
+        if (limits)
+            lintLimits(*limits);
+        if (!areTypesRight)
+            return;
+        if (const DistanceMeasure* measure = findDistanceMeasure(m_elementType))
+            lintPair(*measure, limits);
+        else if (limits && limits->minimum > 0.0)
+            m_findings.add(
+                valuePlace(), "always-finds",
+                m_elementType +
+                    " is not measured and counts as 0 m away: every pair offends against a minimum.");
+    }
+
+private:
+    Place placeOf(const char* attribute) const {
+        const RuleFileAttribute* found = m_rule.attribute(attribute);
+        return found ? found->place : m_rule.place;
+    }
+    Place valuePlace() const { return placeOf("DistantValue"); }
+
+    void lintCondition() {
+        if (m_condition == kLess || m_condition == kLessOrMore)
+            return;
+        m_findings.add(placeOf("ConstraintCondition"), "unknown-condition",
+                       "The condition \"" + m_condition + "\" never judges: no distance offends.",
+                       nearestOf(m_condition, {kLess, kLessOrMore}));
+    }
+
+    std::optional<double> number(const QString& part) {
+        bool isNumber = false;
+        const double value = part.toDouble(&isNumber);
+        if (isNumber && std::isfinite(value) && value >= 0.0)
+            return value;
+        const std::string shown = "\"" + part.toStdString() + "\"";
+        m_findings.add(valuePlace(), "bad-distance",
+                       isNumber ? shown + " is no distance: a finite number of metres, 0 or more, is."
+                                : shown + " is not a number and counts as 0 m.");
+        return std::nullopt;
+    }
+
+    std::optional<Limits> lintValue() {
+        const QStringList parts = QString::fromStdString(m_value).split(':');
+        if (parts.size() > 2)
+            m_findings.add(valuePlace(), "bad-distance",
+                           "Only a minimum and a maximum are read; what follows the second \":\" is not.");
+        const auto minimum = number(parts[0]);
+        if (parts.size() == 1)
+            return minimum ? std::optional<Limits>({*minimum, std::nullopt}) : std::nullopt;
+        if (m_condition == kLess) {
+            m_findings.add(valuePlace(), "bad-distance",
+                           "Under \"less\" the maximum is not read; it is under \"less or more\".");
+            return std::nullopt;
+        }
+        const auto maximum = number(parts[1]);
+        return minimum && maximum ? std::optional<Limits>({*minimum, maximum}) : std::nullopt;
+    }
+
+    void lintLimits(const Limits& limits) {
+        if (limits.maximum && limits.minimum > *limits.maximum)
+            m_findings.add(valuePlace(), "bad-distance",
+                           "The minimum is above the maximum: every distance offends.");
+    }
+
+    void lintPair(const DistanceMeasure& measure, const std::optional<Limits>& limits) {
+        const auto& references = measure.referenceElementTypes;
+        if (std::find(references.begin(), references.end(), m_referenceType) == references.end()) {
+            neverFinds(placeOf("ReferenceElementType"),
+                       "Distances from " + m_elementType + " to " + m_referenceType + " are not measured.",
+                       isMeasuredTheOtherWay() ? m_referenceType + " to " + m_elementType : std::string());
+            return;
+        }
+        if (m_referenceType == kOpenShed)
+            lintShedName();
+        if (limits && limits->minimum == 0.0 && !limits->maximum)
+            neverFinds(valuePlace(), "No distance is below a minimum of 0 m.");
+    }
+
+    bool isMeasuredTheOtherWay() const {
+        const DistanceMeasure* other = findDistanceMeasure(m_referenceType);
+        if (!other || m_elementType == kOpenShed)
+            return false;
+        const auto& references = other->referenceElementTypes;
+        return std::find(references.begin(), references.end(), m_elementType) != references.end();
+    }
+
+    /// A name of another first type has its finding already, with the element types.
+    void lintShedName() {
+        std::vector<std::string> names;
+        for (const RuleName& name : ruleNames())
+            if (name.type == "distant" && name.elementType == m_elementType)
+                names.push_back(name.name);
+        if (std::find(names.begin(), names.end(), m_rule.name) == names.end())
+            m_findings.add(m_rule.place, "unknown-name",
+                           "Under this name no open shed counts: which ones do, the rule's name decides.",
+                           nearestOf(m_rule.name, names));
+    }
+
+    void neverFinds(const Place& place, const std::string& why, const std::string& suggestion = {}) {
+        m_findings.add(place, "never-finds", why + " The rule can never find anything.", suggestion);
+    }
+
+    const RuleFileNode& m_rule;
+    LintFindings& m_findings;
+    const std::string m_elementType;
+    const std::string m_referenceType;
+    const std::string m_condition;
+    const std::string m_value;
+};
+
+} // namespace
+
+void lintDistanceRule(const RuleFileNode& rule, bool areTypesRight, LintFindings& findings) {
+    DistanceRuleLinter(rule, findings).lint(areTypesRight);
+}

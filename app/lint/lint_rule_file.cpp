@@ -1,0 +1,90 @@
+#include "lint/lint_rule_file.h"
+
+#include "InputError.h"
+#include "lint/lint_attributes.h"
+#include "lint/lint_rule.h"
+#include "rules/vocabulary.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+namespace {
+
+using Kind = RuleFileNode::Kind;
+
+class FileLinter {
+public:
+    std::vector<LintFinding> findingsOn(const RuleFileNode& root) {
+        lintUnknownAttributes(root, {}, m_outside);
+        for (const RuleFileNode& node : root.children)
+            lintGroup(node);
+        std::stable_sort(
+            m_findings.begin(), m_findings.end(), [](const LintFinding& a, const LintFinding& b) {
+                return std::tie(a.place.line, a.place.column) < std::tie(b.place.line, b.place.column);
+            });
+        return std::move(m_findings);
+    }
+
+    /// As many as the rule store makes of the file.
+    std::size_t recordCount() const { return m_recordCount; }
+
+private:
+    void lintGroup(const RuleFileNode& group) {
+        if (group.kind == Kind::Text)
+            m_outside.add(group.place, "unread-text", "Text between the groups is not read.");
+        if (group.kind != Kind::Element)
+            return;
+        m_recordCount += group.children.size();
+        if (group.attribute("Type") || findRuleName(group.name)) {
+            m_outside.add(
+                group.place, "rule-outside-group",
+                "\"" + group.name +
+                    "\" stands directly in the document element and is taken for a group: put it into one.");
+            return;
+        }
+        lintUnknownAttributes(group, {}, m_outside);
+        for (const RuleFileNode& node : group.children) {
+            if (node.kind == Kind::Element)
+                lintRuleElement(node);
+            else
+                lintEmptyRecord(node);
+        }
+    }
+
+    void lintEmptyRecord(const RuleFileNode& node) {
+        const char* what = node.kind == Kind::Comment ? "A comment"
+                           : node.kind == Kind::Text  ? "Text"
+                                                      : "A processing instruction";
+        m_outside.add(node.place, "empty-record",
+                      std::string(what) + " in a group becomes an empty rule: put it between the groups.");
+    }
+
+    void lintRuleElement(const RuleFileNode& rule) {
+        LintFindings findings(m_findings, rule.name);
+        lintRule(rule, findings);
+        const bool isAbsenceRule = rule.value("Type") == "without";
+        const std::string key =
+            isAbsenceRule ? rule.value("ElementType") + rule.value("PropertyType") : rule.name;
+        const auto [first, isNew] = m_keys.emplace(key, rule.place.line);
+        if (!isNew)
+            findings.add(rule.place, "colliding-key",
+                         "The rule is filed under the key \"" + key + "\", like the one in line " +
+                             std::to_string(first->second) + ".");
+    }
+
+    std::vector<LintFinding> m_findings;
+    LintFindings m_outside{m_findings};
+    std::map<std::string, int> m_keys;
+    std::size_t m_recordCount = 0;
+};
+
+} // namespace
+
+std::vector<LintFinding> lintRuleFile(const std::string& fileName) {
+    FileLinter linter;
+    std::vector<LintFinding> findings = linter.findingsOn(readRuleFileNodes(fileName));
+    if (linter.recordCount() == 0)
+        throw InputError(fileName + ": expected at least one rule");
+    return findings;
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "lint/LintFindings.h"
+
+/// What the library would pass over in silence in a rule file, in the order of the file. Throws InputError
+/// for a file that cannot be read, is not well-formed XML, or holds no rule.
+std::vector<LintFinding> lintRuleFile(const std::string& fileName);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "site_file/Json.h"
+
+#include <string>
+
+// The rule names and the distances that are measured, in three forms of the same content.
+
+std::string vocabularyText();
+Json vocabularyJson();
+/// The page of the documentation.
+std::string vocabularyMarkdown();
