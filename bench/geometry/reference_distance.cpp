@@ -19,10 +19,12 @@ std::vector<double> stroked(const outlines::Loop& loop) {
             continue;
         const double step = 2 * std::acos(1 - kStrokeError / edge.radius());
         const int count = static_cast<int>(std::ceil(std::abs(edge.sweep()) / step));
+        const hrx::CVec2<double> centre = edge.centre();
+        const double startAngle = std::atan2(from.y - centre.y, from.x - centre.x);
         for (int k = 1; k < count; ++k) {
-            const double angle = edge.startAngle() + edge.sweep() * k / count;
-            coordinates.insert(coordinates.end(), {edge.centre().x + edge.radius() * std::cos(angle),
-                                                   edge.centre().y + edge.radius() * std::sin(angle)});
+            const double angle = startAngle + edge.sweep() * k / count;
+            coordinates.insert(coordinates.end(), {centre.x + edge.radius() * std::cos(angle),
+                                                   centre.y + edge.radius() * std::sin(angle)});
         }
     }
     coordinates.insert(coordinates.end(), {loop[0].x, loop[0].y});

@@ -94,11 +94,6 @@ double Edge2d::sweep() const {
     return 4.0 * std::atan(bulge);
 }
 
-double Edge2d::startAngle() const {
-    const CVec2<double> arm = start - centre();
-    return std::atan2(arm.y, arm.x);
-}
-
 bool isLeftOf(const Edge2d& edge, const CVec2<double>& p) {
     const CVec2<double> along = edge.end - edge.start;
     const double side = cross(along, p - edge.start);

@@ -45,8 +45,6 @@ struct Edge2d {
     double radius() const;
     /// Angle swept from start to end, radians, positive counter-clockwise, within (-2 pi, 2 pi).
     double sweep() const;
-    /// Angle of the start seen from the centre, radians, within [-pi, pi].
-    double startAngle() const;
 };
 
 /// True when p is left of the line from start to end. A point on the line is judged as if it lay a trace

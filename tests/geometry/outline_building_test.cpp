@@ -20,92 +20,42 @@ namespace {
 const double kNaN = std::numeric_limits<double>::quiet_NaN();
 const double kInfinity = std::numeric_limits<double>::infinity();
 
-struct Case {
-    const char* name;
-    std::vector<std::vector<hrx::Edge2d>> loops;
-    int failingCheck; ///< -1: passes all five
-    bool strictlyValid;
-};
-
-std::vector<hrx::Edge2d> loop(const Loop& points) {
-    const hrx::CCoedgeList list(points);
-    return {list.edges().begin(), list.edges().end()};
-}
-
-const std::vector<Case>& cases() {
-    static const std::vector<Case> table = {
-        {"rectangle", {loop(rectangle(400, 200))}, -1, true},
-        {"clockwise", {loop({{0, 0, 0}, {0, 10, 0}, {10, 0, 0}})}, -1, true},
-        {"circle", {loop(circle(5))}, -1, true},
-        {"ring", {loop(circle(5)), loop({{-3, 0, -1}, {3, 0, -1}})}, -1, true},
-        {"there and back", {loop({{0, 0, 0}, {3000, 4000, 0}})}, -1, false},
-        {"spike along an edge", {loop({{0, 0, 0}, {10, 0, 0}, {5, 0, 0}, {5, 8, 0}})}, -1, true},
-        {"corner on an edge", {loop({{0, 0, 0}, {10, 0, 0}, {10, 9, 0}, {5, 0, 0}, {0, 9, 0}})}, -1, true},
-        {"no loop", {}, 0, false},
-        {"loop without edges", {loop(rectangle(400, 200)), {}}, 0, false},
-        {"one edge", {{{{0, 0}, {0, 0}, 0}}}, 0, false},
-        {"not a number", {loop({{0, 0, 0}, {kNaN, 0, 0}, {0, 9, 0}})}, 1, false},
-        {"endless bulge", {loop({{0, 0, 0}, {9, 0, kInfinity}, {0, 9, 0}})}, 1, false},
-        {"open", {{{{0, 0}, {9, 0}, 0}, {{9, 0}, {9, 9}, 0}, {{9, 9}, {0, 1}, 0}}}, 2, false},
-        {"backwards edge", {{{{0, 0}, {9, 0}, 0}, {{9, 9}, {9, 0}, 0}, {{9, 9}, {0, 0}, 0}}}, 2, false},
-        {"point twice", {loop({{0, 0, 0}, {9, 0, 0}, {9, 0, 0.5}, {0, 9, 0}})}, 3, false},
-        {"bow tie", {loop({{0, 0, 0}, {9, 9, 0}, {9, 0, 0}, {0, 9, 0}})}, 4, false},
-        {"arc through an edge", {loop({{0, 0, 0}, {20, 0, 0}, {20, 3, 1}, {0, 3, 0}})}, -1, true},
-        {"arc bulging inwards through an edge",
-         {loop({{0, 0, 0}, {20, 0, 0}, {20, 3, -1}, {0, 3, 0}})},
-         4,
-         false},
-        {"three-quarter arc through an edge", {loop({{0, 0, 2.5}, {4, 0, 0}, {2, -9, 0}})}, 4, false},
-        {"hole across the boundary", {loop(rectangle(400, 200)), loop(circle(150))}, 4, false},
-    };
-    return table;
-}
-
-PolygonRef built(const std::vector<std::vector<hrx::Edge2d>>& loops, double angle, double away) {
-    PolygonRef outline(new CPolygon);
-    const auto moved = [&](const CVec2<double>& p) {
-        return CVec2<double>(p.x * std::cos(angle) - p.y * std::sin(angle) + away,
-                             p.x * std::sin(angle) + p.y * std::cos(angle));
-    };
-    for (const auto& edges : loops) {
-        std::vector<hrx::Edge2d> movedEdges;
-        for (const hrx::Edge2d& edge : edges)
-            movedEdges.push_back({moved(edge.start), moved(edge.end), edge.bulge});
-        outline->addLoop(hrx::CCoedgeList(movedEdges));
-    }
-    return outline;
-}
-
 } // namespace
 
-TEST(OutlineValidity, failsTheOneCheckThatIsViolated) {
-    for (const Case& outline : cases())
+TEST(StrictValidity, asksForSoundLoopsAndAnArea) {
+    struct Case {
+        const char* name;
+        Outline outline;
+        bool valid;
+    };
+    const Loop hole = {{-3, 0, -1}, {3, 0, -1}};
+    for (const Case& row :
+         {Case{"rectangle", {rectangle(400, 200)}, true},
+          Case{"clockwise", {{{0, 0, 0}, {0, 10, 0}, {10, 0, 0}}}, true},
+          Case{"ring", {circle(5), hole}, true},
+          Case{"hole as large as the outline", {circle(3), hole}, false},
+          Case{"there and back", {{{0, 0, 0}, {3000, 4000, 0}}}, false},
+          Case{"bow tie with area left", {{{0, 0, 0}, {9, 9, 0}, {9, 0, 0}, {0, 5, 0}}}, false},
+          Case{"three-quarter arc beside an edge", {{{0, 0, 2.5}, {4, 0, 0}, {2, -3, 0}}}, true},
+          Case{"three-quarter arc through an edge", {{{0, 0, 2.5}, {4, 0, 0}, {2, -9, 0}}}, false}})
         for (const double angle : {0.0, 36.87 * kPi / 180, 4.0}) {
-            SCOPED_TRACE(outline.name);
-            const PolygonRef polygon = built(outline.loops, angle, angle * 1e5);
-            for (int check = 0; check < 5; ++check) {
-                std::ostringstream log;
-                const bool passes = polygon->IsValid(1u << check, &log);
-                if (check <= outline.failingCheck || outline.failingCheck < 0) {
-                    EXPECT_EQ(passes, check != outline.failingCheck) << "check " << check;
-                    EXPECT_EQ(log.str().empty(), passes);
-                }
-            }
-            EXPECT_EQ(NUXCalcFunc::IsNuxStrictlyValid(polygon.get(), true), outline.strictlyValid);
-            EXPECT_EQ(
-                NUXCalcFunc::IsNuxStrictlyBodyValid(
-                    std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), -2.0, polygon.get(), true)
-                        .get()),
-                outline.strictlyValid);
+            SCOPED_TRACE(row.name);
+            const PolygonRef outline(polygon(moved(row.outline, angle, angle * 1e5, 0)));
+            EXPECT_EQ(NUXCalcFunc::IsNuxStrictlyValid(outline.get(), true), row.valid);
+            const Body sunk =
+                std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), -2.0, outline.get(), true);
+            EXPECT_EQ(NUXCalcFunc::IsNuxStrictlyBodyValid(sunk.get()), row.valid);
         }
     EXPECT_FALSE(NUXCalcFunc::IsNuxStrictlyValid(nullptr, true));
     EXPECT_FALSE(NUXCalcFunc::IsNuxStrictlyBodyValid(nullptr));
 }
 
-TEST(BodyValidity, needsAPositiveHeightAndRadius) {
+TEST(StrictValidity, asksForAHeightAndARadius) {
     EXPECT_FALSE(raised({rectangle(400, 200)}, 0.0)->isStrictlyValid());
     EXPECT_FALSE(raised({rectangle(400, 200)}, kNaN)->isStrictlyValid());
-    EXPECT_FALSE(hrx::CExtrudedBody(hrx::CCoord3<double>(), 1.0, nullptr, true).IsValid(0x1f, nullptr));
+    std::ostringstream log;
+    EXPECT_FALSE(hrx::CExtrudedBody(hrx::CCoord3<double>(), 1.0, nullptr, true).IsValid(0x1f, &log));
+    EXPECT_EQ(log.str(), "extrusion: no outline\n");
     hrx::GBodyBuilder builder(true, true);
     for (const double radius : {0.0, -5.0, kNaN, kInfinity})
         EXPECT_EQ(builder.CylinderBody({0, 0, 0}, {0, 0, 9}, radius), nullptr);
