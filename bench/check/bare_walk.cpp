@@ -3,11 +3,11 @@
 #include "elements/NUX3dsBaseObject.h"
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXElementObject.h"
-#include "elements/NUXOpenHouseObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXServiceCableObject.h"
 #include "elements/NUXTotalStepDownSubstationObject.h"
 #include "elements/NUXYardObject.h"
+#include "evaluators/without/required_use.h"
 #include "site/model_space_walk.h"
 
 namespace {
@@ -23,8 +23,10 @@ public:
             isSpacing() ? walkByClass() : walkPairs();
         else if (m_rule.type == QLatin1String("without"))
             walkUntilFound();
+        else if (m_rule.type == QLatin1String("self"))
+            walkElements();
         else
-            walkOnceForEachKind();
+            walkPositions();
         return m_visits;
     }
 
@@ -71,20 +73,34 @@ private:
             if (const auto* model = NUX3dsBaseObject::Cast(object))
                 isFound = model->getModelKind() == m_firstType;
             else if (const auto* element = NUXElementObject::Cast(object))
-                isFound = element->getElementType() == m_firstType;
+                isFound = element->getElementType() == m_firstType &&
+                          (m_rule.propertyType.isEmpty() || hasRequiredUse(element, m_rule.name));
             return isFound ? WalkStep::Stop : WalkStep::Continue;
         });
     }
 
-    /// Rules on single elements, on the road network and on positions walk once to collect one kind of
-    /// objects and once for the other.
-    void walkOnceForEachKind() {
+    void walkElements() {
         visitAll([&](const UdDbObject* object) {
-            m_matches += NUXDoorObject::Cast(object) || NUXServiceCableObject::Cast(object) ||
-                         NUXOpenHouseObject::Cast(object) || NUXYardObject::Cast(object);
-            const auto* model = NUX3dsBaseObject::Cast(object);
-            m_matches += model && model->getModelKind() == m_firstType;
+            m_matches += NUXElementObject::Cast(object) && NUXDoorObject::Cast(object);
         });
+        if (m_rule.name.endsWith(QLatin1String("RoadLoop")))
+            walkIdentifiers();
+    }
+
+    /// One walk collects what an object stands to: boxes by their model kind, cables, walls and roads by
+    /// class. Boxes and roads take a second one over the objects that stand to them.
+    void walkPositions() {
+        const bool isAboutBoxes = m_rule.name.contains(QLatin1String("FireExtinguisherBox"));
+        visitAll([&](const UdDbObject* object) {
+            const auto* model = isAboutBoxes ? NUX3dsBaseObject::Cast(object) : nullptr;
+            m_matches += model && model->getModelKind() == m_firstType;
+            m_matches += NUXServiceCableObject::Cast(object) || NUXYardObject::Cast(object);
+        });
+        if (isAboutBoxes || m_rule.name == QLatin1String("Position_FireRoad"))
+            walkIdentifiers();
+    }
+
+    void walkIdentifiers() {
         visitAll([&](const UdDbObject* object) {
             const auto* element = NUXElementObject::Cast(object);
             m_matches += element && element->getElementType() == m_firstType;
