@@ -41,9 +41,10 @@ std::int64_t readInteger(const Json& value, const JsonPlace& place, std::int64_t
                          std::int64_t highest);
 Json integerSchema(std::int64_t lowest, std::int64_t highest);
 
-template <class Int> Codec<Int> integer(Int lowest = std::numeric_limits<Int>::min()) {
-    constexpr Int highest = std::numeric_limits<Int>::max();
-    return {integerSchema(lowest, highest), [lowest](const Json& value, const JsonPlace& place) {
+template <class Int>
+Codec<Int> integer(Int lowest = std::numeric_limits<Int>::min(),
+                   Int highest = std::numeric_limits<Int>::max()) {
+    return {integerSchema(lowest, highest), [lowest, highest](const Json& value, const JsonPlace& place) {
                 return static_cast<Int>(readInteger(value, place, lowest, highest));
             }};
 }

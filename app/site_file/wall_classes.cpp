@@ -8,13 +8,15 @@ namespace {
 
 SiteClass door() {
     using Params = NUXDoorParams;
+    // Hosts add these up as integers.
+    const Codec<int> partOfDoor = integer<int>(0, 100'000'000);
     Fields<Params> fields = {
         requiredField("position", &Params::position, point(), "middle of the door"),
         defaultedField("angle", &Params::angle, number(), 0, "angle of the closed door in degrees"),
-        defaultedField("leafWidth", &Params::plankWidth, integer<int>(0), 1000, "width between the posts"),
-        defaultedField("postWidth", &Params::postSectionWidth, integer<int>(0), 100,
+        defaultedField("leafWidth", &Params::plankWidth, partOfDoor, 1000, "width between the posts"),
+        defaultedField("postWidth", &Params::postSectionWidth, partOfDoor, 100,
                        "width of each post, along the wall"),
-        defaultedField("postDepth", &Params::postSectionHeight, integer<int>(0), 100,
+        defaultedField("postDepth", &Params::postSectionHeight, partOfDoor, 100,
                        "depth of each post, across the wall"),
     };
     return siteClass<NUXDoorObject, Params>("door", "NUX_EDO_TYPE_DOOR", "a door or gate",
