@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -57,64 +56,81 @@ struct ShedUse {
     int use;
 };
 
+/// Rows that stand in the program itself, so that they are there before any code runs.
+template <class Row> class Table {
+public:
+    constexpr Table() = default;
+    template <std::size_t count>
+    constexpr Table(const Row (&rows)[count]) : m_begin(rows), m_end(rows + count) {}
+
+    const Row* begin() const { return m_begin; }
+    const Row* end() const { return m_end; }
+    bool empty() const { return m_begin == m_end; }
+
+private:
+    const Row* m_begin = nullptr;
+    const Row* m_end = nullptr;
+};
+
 /// How the first elements of one type are measured.
 struct PairMeasure {
     std::wstring_view firstType;
     Side (*firstSide)(const NUXElementObject* first);
-    std::vector<std::wstring_view> referenceTypes; ///< those measured by their element body
-    std::vector<ShedUse> shedUses;                 ///< no rows: open sheds do not count
-    const char* otherShedsRule; ///< counts the open sheds that are no workshop; may be null
+    bool firstMayMeasureZero;                ///< whatever the reference: what only claims to be a road
+    Table<std::wstring_view> referenceTypes; ///< those measured by their element body
+    Table<ShedUse> shedUses;                 ///< no rows: open sheds do not count
+    const char* otherShedsRule;              ///< counts the open sheds that are no workshop; may be null
     bool countsFireRoads;
     bool countsPrefabHouses;
 };
 
 // Each name as rule files write it; "Eletrical" and "Futureouse" are deliberate. The codes of uses are those
 // of the position rules and not those of the absence rules.
-const PairMeasure prefabHouseDistance{NUX_ELEMENT_TYPE_PREFABHOUSE,
-                                      houseWithStairSide,
-                                      {NUX_ELEMENT_TYPE_FUTUREHOUSE, NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
-                                       NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,
-                                       NUX_EDO_TYPE_ELECTRICALMECHANICALYARD},
-                                      {{"Distant_PrefabHouseToWoodFactory", 2},
-                                       {"Distant_PrefabHouseToWoodWorkingFactory", 3},
-                                       {"Distant_PrefabHouseToEletricalMechanicalFactory", 4}},
-                                      nullptr,
-                                      true,
-                                      true};
+constexpr ShedUse kPrefabHouseSheds[] = {{"Distant_PrefabHouseToWoodFactory", 2},
+                                         {"Distant_PrefabHouseToWoodWorkingFactory", 3},
+                                         {"Distant_PrefabHouseToEletricalMechanicalFactory", 4}};
+constexpr ShedUse kFutureHouseSheds[] = {{"Distant_FutureouseToWoodFactory", 2},
+                                         {"Distant_FutureHouseToWoodWorkingFactory", 3},
+                                         {"Distant_FutureHouseToEletricalMechanicalFactory", 4}};
+constexpr ShedUse kSubstationSheds[] = {{"Distant_TransformerSubstationToWoodFactory", 2},
+                                        {"Distant_TransformerSubstationToWoodWorkingFactory", 3},
+                                        {"Distant_TransformerSubstationToEletricalMechanicalFactory", 4}};
 
-const PairMeasure futureHouseDistance{
-    NUX_ELEMENT_TYPE_FUTUREHOUSE,
-    elementSide,
-    {NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD,
-     NUX_ELEMENT_TYPE_BOXHOUSE, NUX_ELEMENT_TYPE_CLOSEHOUSE, NUX_ELEMENT_TYPE_CHAYANTING,
-     NUX_EDO_TYPE_ANQUANJT, NUX_ELEMENT_TYPE_OPENHALFHOUSE, NUX_ELEMENT_TYPE_MIXSITE},
-    {{"Distant_FutureouseToWoodFactory", 2},
-     {"Distant_FutureHouseToWoodWorkingFactory", 3},
-     {"Distant_FutureHouseToEletricalMechanicalFactory", 4}},
-    "Distant_FutureHouseToOpenHouse",
-    false,
-    false};
+constexpr std::wstring_view kPrefabHouseReferences[] = {
+    NUX_ELEMENT_TYPE_FUTUREHOUSE, NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION, NUX_EDO_TYPE_TEMPLATEYARD,
+    NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD};
+constexpr std::wstring_view kFutureHouseReferences[] = {
+    NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,          NUX_EDO_TYPE_ELECTRICALMECHANICALYARD,
+    NUX_ELEMENT_TYPE_BOXHOUSE, NUX_ELEMENT_TYPE_CLOSEHOUSE,    NUX_ELEMENT_TYPE_CHAYANTING,
+    NUX_EDO_TYPE_ANQUANJT,     NUX_ELEMENT_TYPE_OPENHALFHOUSE, NUX_ELEMENT_TYPE_MIXSITE};
+constexpr std::wstring_view kSubstationReferences[] = {
+    NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION, NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION,
+    NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD};
+constexpr std::wstring_view kFireRoadReferences[] = {NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,
+                                                     NUX_EDO_TYPE_ELECTRICALMECHANICALYARD,
+                                                     NUX_ELEMENT_TYPE_FUTUREHOUSE};
 
-const PairMeasure substationDistance{NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
-                                     elementSide,
-                                     {NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
-                                      NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION, NUX_EDO_TYPE_TEMPLATEYARD,
-                                      NUX_EDO_TYPE_WOODYARD, NUX_EDO_TYPE_ELECTRICALMECHANICALYARD},
-                                     {{"Distant_TransformerSubstationToWoodFactory", 2},
-                                      {"Distant_TransformerSubstationToWoodWorkingFactory", 3},
-                                      {"Distant_TransformerSubstationToEletricalMechanicalFactory", 4}},
-                                     nullptr,
-                                     false,
-                                     false};
-
-const PairMeasure fireRoadDistance{NUX_EDO_TYPE_ROAD,
-                                   fireRoadSide,
-                                   {NUX_EDO_TYPE_TEMPLATEYARD, NUX_EDO_TYPE_WOODYARD,
-                                    NUX_EDO_TYPE_ELECTRICALMECHANICALYARD, NUX_ELEMENT_TYPE_FUTUREHOUSE},
-                                   {},
-                                   nullptr,
-                                   false,
-                                   false};
+constexpr PairMeasure prefabHouseDistance{NUX_ELEMENT_TYPE_PREFABHOUSE,
+                                          houseWithStairSide,
+                                          false,
+                                          kPrefabHouseReferences,
+                                          kPrefabHouseSheds,
+                                          nullptr,
+                                          true,
+                                          true};
+constexpr PairMeasure futureHouseDistance{
+    NUX_ELEMENT_TYPE_FUTUREHOUSE,     elementSide, false, kFutureHouseReferences, kFutureHouseSheds,
+    "Distant_FutureHouseToOpenHouse", false,       false};
+constexpr PairMeasure substationDistance{NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
+                                         elementSide,
+                                         false,
+                                         kSubstationReferences,
+                                         kSubstationSheds,
+                                         nullptr,
+                                         false,
+                                         false};
+constexpr PairMeasure fireRoadDistance{NUX_EDO_TYPE_ROAD, fireRoadSide, true,  kFireRoadReferences,
+                                       Table<ShedUse>(),  nullptr,      false, false};
 
 const PairMeasure* measureOf(std::wstring_view firstType) {
     for (const PairMeasure* measure :
@@ -176,8 +192,7 @@ double pairDistance(const IdentifiedElement& first, const IdentifiedElement& ref
     if (!measure)
         return 0.0;
     Side otherSide = referenceSide(*measure, first.element, reference, rule.name);
-    // Only a road as first element has an answer of its own for a reference that does not count.
-    if (otherSide && otherSide->empty() && measure->firstSide != fireRoadSide)
+    if (otherSide && otherSide->empty() && !measure->firstMayMeasureZero)
         return kNoBodyDistance;
     Side firstSide = measure->firstSide(first.element);
     if (!firstSide || !otherSide)

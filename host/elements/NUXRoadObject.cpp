@@ -6,9 +6,8 @@
 namespace {
 
 hrx::PolygonRef roadOutline(const NUXRoadParams& params) {
-    hrx::PolygonRef outline;
     if (params.outline == NUXRoadOutline::None)
-        return outline;
+        return {};
 
     hrx::CPolygon* polygon = nullptr;
     if (params.outline == NUXRoadOutline::Given) {
@@ -21,12 +20,9 @@ hrx::PolygonRef roadOutline(const NUXRoadParams& params) {
             NUXBuildPolygon::buildArcPolygon(polygon, params.start, params.end, params.reference,
                                              params.width, 0.0);
     }
-    outline = hrx::PolygonRef(polygon);
-    if (polygon->LoopCount() == 0)
-        return {};
-    if (polygon->GetLoop(0)->ClockSign() == -1)
+    if (polygon->LoopCount() > 0 && polygon->GetLoop(0)->ClockSign() == -1)
         polygon->Reverse();
-    return outline;
+    return hrx::PolygonRef(polygon);
 }
 
 } // namespace
@@ -37,7 +33,7 @@ NUXRoadObject::NUXRoadObject(const NUXRoadParams& params, std::wstring typeIdent
       m_outline(roadOutline(params)) {}
 
 std::optional<hrx::CExtents3> NUXRoadObject::geometryExtents() const {
-    if (!m_outline.get())
+    if (!m_outline || m_outline->LoopCount() == 0)
         return std::nullopt;
     return hrx::CExtrudedBody(hrx::CCoord3<double>(), 0.0, m_outline.get(), true).GetExtents();
 }

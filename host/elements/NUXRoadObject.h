@@ -32,8 +32,8 @@ public:
     hrx::CVec2<double> getOriginalEndPt() const { return m_end; }
     hrx::CVec2<double> getOriginalRefPt() const { return m_reference; }
 
-    /// The road's outline, counter-clockwise; null when it has none. The road keeps it: bodies made of it
-    /// share it.
+    /// The road's outline, counter-clockwise; null when it has none, without loops when its centre line fixes
+    /// none. The road keeps it: bodies made of it share it.
     hrx::CPolygon* getRoadPoly() const { return m_outline.get(); }
 
 protected:
