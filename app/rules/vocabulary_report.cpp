@@ -32,9 +32,8 @@ std::string cell(const std::string& content) {
 
 const char* const kOtherDistances =
     "A distance rule may have any other name, as long as its reference is no open shed. These distances are\n"
-    "measured; any other of these element types are passed over, and elements of any other type count as 0 "
-    "m\n"
-    "from everything.\n";
+    "measured; other pairs that start from one of these types are passed over, and whatever starts from any\n"
+    "other type counts as 0 m from everything.\n";
 
 } // namespace
 

@@ -1,0 +1,114 @@
+#include "InputError.h"
+#include "elements/NUXElementObject.h"
+#include "evaluators/distant/pair_distance.h"
+#include "lint/RuleFileNode.h"
+#include "rules/element_type_names.h"
+#include "rules/vocabulary.h"
+#include "rules/vocabulary_report.h"
+#include "site/min_body_distance.h"
+#include "site_file/site_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <set>
+
+// Holds the table of rule names against the shipped rule file and the distances against what is measured.
+
+namespace {
+
+Json objectAt(long long handle, const std::string& siteClass, int x) {
+    return {{"class", siteClass}, {"handle", handle}, {"center", {x, 0}}, {"length", 1000}, {"depth", 1000}};
+}
+
+/// An element that reports `identifier`. Roads, sheds and prefab houses are what they say, all else is a
+/// plain element with a footprint.
+Json elementJson(long long handle, const std::string& identifier, int x, int shedUse = 0) {
+    if (identifier == "NUX_EDO_TYPE_ROAD")
+        return {{"class", "road"}, {"handle", handle}, {"fireRoad", true},
+                {"start", {x, 0}}, {"end", {x, 9000}}, {"width", 4000}};
+    if (identifier == "NUX_ELEMENT_TYPE_PREFABHOUSE") {
+        Json house = objectAt(handle, "prefabHouse", x);
+        house["use"] = "office";
+        return house;
+    }
+    if (identifier == "NUX_ELEMENT_TYPE_OPENHOUSE") {
+        Json shed = objectAt(handle, "openShed", x);
+        shed["use"] = shedUse;
+        return shed;
+    }
+    Json element = objectAt(handle, "futureHouse", x);
+    element["identifier"] = identifier;
+    return element;
+}
+
+double distanceBetween(const std::string& first, const std::string& reference,
+                       const std::string& ruleName = {}, int shedUse = 0) {
+    const Site site = readSite(Json{
+        {"objects", {elementJson(1, first, 50000, shedUse), elementJson(2, reference, 100000, shedUse)}}});
+    const auto* firstElement = NUXElementObject::Cast(site.document->GetItem(1, UdDb::kForRead));
+    const auto* otherElement = NUXElementObject::Cast(site.document->GetItem(2, UdDb::kForRead));
+    const std::wstring firstType = firstElement->getElementType();
+    const std::wstring otherType = otherElement->getElementType();
+    NuxStandardCheckRule rule;
+    rule.name = QString::fromStdString(ruleName);
+    return pairDistance({firstElement, firstType}, {otherElement, otherType}, rule);
+}
+
+TEST(RuleVocabulary, HoldsTheNamesOfTheShippedRuleFileWithTheirTypes) {
+    std::set<std::string> shipped;
+    for (const RuleFileNode& group :
+         readRuleFileNodes(SOURCE_DIRECTORY "/data/FireStandardCheck.xml").children) {
+        for (const RuleFileNode& rule : group.children) {
+            const RuleName* known = findRuleName(rule.name);
+            if (!known)
+                continue;
+            shipped.insert(known->name);
+            EXPECT_EQ(known->type, rule.value("Type")) << rule.name;
+            EXPECT_EQ(known->elementType, rule.value("ElementType")) << rule.name;
+            EXPECT_EQ(known->referenceElementType, rule.value("ReferenceElementType")) << rule.name;
+        }
+    }
+    EXPECT_EQ(shipped.size(), 57u);
+    EXPECT_EQ(ruleNames().size(), 57u);
+}
+
+TEST(RuleVocabulary, KnowsTheDistancesThatAreMeasured) {
+    const std::string shed = "NUX_ELEMENT_TYPE_OPENHOUSE";
+    for (const DistanceMeasure& measure : distanceMeasures()) {
+        const auto& references = measure.referenceElementTypes;
+        for (const std::string& reference : elementTypeNames()) {
+            const bool isListed =
+                std::find(references.begin(), references.end(), reference) != references.end();
+            if (reference == shed)
+                continue;
+            EXPECT_EQ(distanceBetween(measure.elementType, reference) < kNoBodyDistance, isListed)
+                << measure.elementType << " to " << reference;
+        }
+    }
+    for (const std::string& first : elementTypeNames())
+        EXPECT_EQ(distanceBetween(first, "NUX_EDO_TYPE_WOODYARD") > 0.0,
+                  findDistanceMeasure(first) != nullptr)
+            << first;
+}
+
+TEST(RuleVocabulary, KnowsTheNamesUnderWhichShedsCount) {
+    for (const DistanceMeasure& measure : distanceMeasures()) {
+        for (const RuleName& rule : ruleNames()) {
+            bool isCounted = false;
+            for (int use = 0; use <= 4; ++use)
+                isCounted = isCounted || distanceBetween(measure.elementType, "NUX_ELEMENT_TYPE_OPENHOUSE",
+                                                         rule.name, use) < kNoBodyDistance;
+            EXPECT_EQ(isCounted, rule.type == "distant" && rule.elementType == measure.elementType)
+                << rule.name << " from " << measure.elementType;
+        }
+    }
+}
+
+TEST(RuleVocabulary, IsPublishedAsItIs) {
+    std::ifstream stream(SOURCE_DIRECTORY "/docs/rule-names.md", std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), vocabularyMarkdown());
+}
+
+} // namespace
