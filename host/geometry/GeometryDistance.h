@@ -10,9 +10,9 @@ class CBody;
 /// inside the other included.
 ///
 /// Reported to the nearest 1e-5 mm, so that solids which touch measure 0.0 and solids laid out 6 m apart
-/// 6000.0 at any angle and place of a site. Two upright solids are exact to that rounding, at coordinates up
-/// to 1e10 mm; others are within 1e-5 mm (arcs in tilted outlines 5e-4) at coordinates up to 1e7 mm. Beyond,
-/// the spacing of doubles limits both.
+/// 6000.0 at any angle and place of a site. Two upright solids are exact to that rounding at coordinates up
+/// to 4e9 mm; all others, arcs in tilted outlines included, are within 1e-5 mm of it at coordinates up to 1e7
+/// mm. Beyond, the spacing of doubles (5e-7 mm at 4e9) limits both.
 ///
 /// The tolerance is the precision a caller needs; the result is as stated whatever it says. A null body, one
 /// without points, not finite, or reaching beyond 1e12 mm measures 1e100, and the closest points stay as
