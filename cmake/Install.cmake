@@ -19,6 +19,7 @@ endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/include/firestandardcheck_export.h DESTINATION ${header_directory})
 install(DIRECTORY host/ DESTINATION ${header_directory}/host FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/firestandardcheck)
+install(FILES docs/firecheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 
 configure_package_config_file(cmake/FireStandardCheckConfig.cmake.in
