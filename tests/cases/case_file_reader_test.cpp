@@ -1,5 +1,5 @@
-#include "CaseFile.h"
 #include "InputError.h"
+#include "case_file/CaseFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Judges every case of every case file, as it stands and placed elsewhere.
 
-#include "CaseFile.h"
+#include "case_file/CaseFile.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"

@@ -1,7 +1,7 @@
-#include "CaseFile.h"
+#include "case_file/CaseFile.h"
 
 #include "InputError.h"
-#include "placeholders.h"
+#include "case_file/placeholders.h"
 #include "rules/rule_fields.h"
 #include "site_file/Field.h"
 #include "site_file/parse_json.h"
@@ -48,9 +48,13 @@ NuxStandardCheckRule ruleRecord(const Json& rule) {
     return record;
 }
 
-ExplainedRule explainedRule(const Json& rule) {
+ExplainedRule explainedRule(const Json& rule, const std::string& pattern) {
     checkKeys(rule, {}, keys({"name", "meaning", "fields"}, {"limits", "peculiarities"}));
-    return {ruleRecord(rule), rule.at("meaning").get<std::string>(), rule.value("limits", std::string()),
+    return {ruleRecord(rule),
+            pattern,
+            rule.at("fields"),
+            rule.at("meaning").get<std::string>(),
+            rule.value("limits", std::string()),
             rule.value("peculiarities", std::vector<std::string>())};
 }
 
@@ -120,7 +124,9 @@ public:
         Case result;
         result.sentence = value.at("case").get<std::string>();
         try {
-            result.rule = rule(value);
+            result.explained = explainedBy(value);
+            result.rule = m_rules[result.explained].record;
+            setFields(result.rule, value.value("fields", Json::object()));
             result.site = site(value);
             readSite(result.site);
             result.violations = expectedViolations(value.at("violations"));
@@ -132,7 +138,7 @@ public:
     }
 
 private:
-    NuxStandardCheckRule rule(const Json& value) const {
+    std::size_t explainedBy(const Json& value) const {
         const Json name = value.value("rule", Json());
         if (name.is_null() && m_rules.size() != 1)
             throw InputError("expected the key \"rule\"");
@@ -141,9 +147,7 @@ private:
         });
         if (found == m_rules.end())
             throw InputError("no rule is named " + name.dump());
-        NuxStandardCheckRule record = found->record;
-        setFields(record, value.value("fields", Json::object()));
-        return record;
+        return static_cast<std::size_t>(found - m_rules.begin());
     }
 
     Json site(const Json& value) const {
@@ -170,14 +174,19 @@ CaseFile caseFile(const Json& file) {
     result.reports = file.at("reports").get<std::string>();
     for (const Json& pattern : file.at("rules")) {
         for (const Json& rule : expanded(pattern))
-            result.rules.push_back(explainedRule(rule));
+            result.rules.push_back(explainedRule(rule, pattern.value("name", std::string())));
     }
+
+    result.site = {{"objects", file.at("site")}};
 
     const CaseReader reader(file, result.rules);
     std::set<std::string> sentences;
     for (const Json& pattern : file.at("cases")) {
-        for (const Json& one : expanded(pattern)) {
-            result.cases.push_back(reader.read(one));
+        const std::vector<Json> copies = expanded(pattern);
+        for (std::size_t i = 0; i < copies.size(); ++i) {
+            result.cases.push_back(reader.read(copies[i]));
+            result.cases.back().pattern = pattern.at("case").get<std::string>();
+            result.cases.back().replaced = copies.size() > 1 ? pattern.at("each").at(i) : Json::object();
             if (!sentences.insert(result.cases.back().sentence).second)
                 throw InputError("\"" + result.cases.back().sentence + "\" is said twice");
         }

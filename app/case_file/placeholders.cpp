@@ -1,4 +1,4 @@
-#include "placeholders.h"
+#include "case_file/placeholders.h"
 
 #include "InputError.h"
 

@@ -9,6 +9,8 @@
 /// A rule as a case file explains it to people.
 struct ExplainedRule {
     NuxStandardCheckRule record;
+    std::string pattern; ///< its name before placeholders were replaced
+    Json fields;         ///< those of the record that the file gives
     std::string meaning;
     std::string limits; ///< empty for rules without any
     std::vector<std::string> peculiarities;
@@ -23,6 +25,9 @@ struct ExpectedViolation {
 /// One rule judged on one site.
 struct Case {
     std::string sentence;
+    std::string pattern;       ///< the sentence before placeholders were replaced
+    Json replaced;             ///< what each placeholder was replaced by
+    std::size_t explained = 0; ///< which of the file's rules explains it
     NuxStandardCheckRule rule;
     Json site; ///< as a site file gives it
     std::vector<ExpectedViolation> violations;
@@ -48,6 +53,7 @@ struct CaseFile {
     std::string about;
     std::string reports;
     std::vector<ExplainedRule> rules;
+    Json site; ///< the base site, as a site file gives it
     std::vector<Case> cases;
 };
 
