@@ -12,8 +12,13 @@ namespace {
 constexpr const char* kHelp =
     R"(firecheck - checks construction-site layouts against fire-safety rules
 
-  firecheck check SITE... [--rules FILE] [--format text|json] [--output FILE]
-      Checks each site file and reports what breaks a rule.
+  firecheck check SITE... [--rules FILE] [--format text|json|csv|html] [--output FILE]
+        [--accept FILE] [--write-accept FILE] [--profile]
+      Checks each site file and reports what breaks a rule. Violations that the file of
+      --accept lists with a reason count apart; --write-accept writes such a file for what
+      is present. --profile tells the time of each rule, to standard error.
+  firecheck plan SITE [--rules FILE] [--output FILE]
+      Draws the site with what breaks a rule, as SVG.
   firecheck show-rules [FILE] [--format text|json] [--output FILE]
       Shows the rules of a rule file as the checker holds them.
   firecheck list-rules [--format text|json|markdown] [--output FILE]
@@ -48,6 +53,8 @@ int run(const QStringList& words) {
         return lintRulesCommand(rest);
     if (command == "list-rules")
         return listRulesCommand(rest);
+    if (command == "plan")
+        return planCommand(rest);
     if (command == "show-rules")
         return showRulesCommand(rest);
     if (command == "site-schema")

@@ -1,17 +1,25 @@
 #include "check/check_site.h"
 
 #include "cad/UdApDocManager.h"
+#include "check/CheckRecorder.h"
+#include "check/element_noun.h"
+#include "check/judged_rules.h"
+#include "check/record_measures.h"
 #include "elements/NUX3dsBaseObject.h"
-#include "elements/NUXElementObject.h"
 #include "engine/NUXCheck.h"
 #include "engine/NuxFireStandardCheck.h"
+#include "report/sentence.h"
+#include "rules/vocabulary.h"
+#include "site/element_type_identifiers.h"
+#include "site_plan/plan_shapes.h"
 
-#include <QSet>
-
+#include <algorithm>
 #include <map>
 #include <set>
 
 namespace {
+
+constexpr double kMetresPerMillimetre = 1e-3;
 
 /// A document that is open and current as long as this lives.
 class CurrentDocument {
@@ -39,13 +47,36 @@ std::vector<std::pair<QString, std::vector<Value>>> entries(const QMap<QString, 
     return result;
 }
 
-std::string identifierOf(const UdDbObject* object) {
-    std::wstring identifier;
-    if (const auto* element = NUXElementObject::Cast(object))
-        identifier = element->getElementType();
-    else if (const auto* model = NUX3dsBaseObject::Cast(object))
-        identifier = model->getModelKind();
-    return QString::fromStdWString(identifier).toStdString();
+/// The rules in the order in which the engine runs them.
+std::vector<NuxStandardCheckRule> inOrder(const RuleMap& rules) {
+    std::vector<NuxStandardCheckRule> result;
+    for (const auto& sharingKey : rules)
+        result.insert(result.end(), sharingKey.begin(), sharingKey.end());
+    return result;
+}
+
+std::optional<PlanPoint> middleOf(const hrx::CBox2d& box) {
+    if (!(box.low.x <= box.high.x))
+        return std::nullopt;
+    return PlanPoint{(box.low.x + box.high.x) * 0.5 * kMetresPerMillimetre,
+                     (box.low.y + box.high.y) * 0.5 * kMetresPerMillimetre};
+}
+
+ElementLabel labelOf(long long handle, const UdDbObject* object,
+                     const std::map<long long, ObjectLabel>& siteLabels) {
+    ElementLabel label;
+    label.handle = handle;
+    if (object) {
+        label.identifier = elementIdentifier(*object);
+        label.noun = elementNoun(*object);
+        label.place = middleOf(planShapeOf(*object).box);
+    }
+    const auto known = siteLabels.find(handle);
+    if (known != siteLabels.end()) {
+        label.className = known->second.className;
+        label.name = known->second.name;
+    }
+    return label;
 }
 
 std::vector<ElementLabel> labels(const SiteReport& report, const CurrentDocument& document,
@@ -60,58 +91,118 @@ std::vector<ElementLabel> labels(const SiteReport& report, const CurrentDocument
     handles.erase(0);
 
     std::vector<ElementLabel> result;
-    for (const long long handle : handles) {
-        ElementLabel label{handle, {}, identifierOf(document.object(handle)), {}};
-        const auto known = siteLabels.find(handle);
-        if (known != siteLabels.end()) {
-            label.className = known->second.className;
-            label.name = known->second.name;
-        }
-        result.push_back(std::move(label));
-    }
+    for (const long long handle : handles)
+        result.push_back(labelOf(handle, document.object(handle), siteLabels));
     return result;
 }
 
-/// Rules may share a name or a key; each name is counted once, where the rule map has it first.
-std::vector<RuleCount> countsByRule(const SiteReport& report, const RuleMap& rules) {
+/// Rules may share a name or a key; each name is counted once, where the rules have it first.
+std::vector<RuleCount> countsByRule(const SiteReport& report,
+                                    const std::vector<NuxStandardCheckRule>& rules) {
     std::map<QString, std::size_t> violations;
     for (const auto& filed : report.results)
         for (const NuxStandardCheckRule& record : filed.second)
             ++violations[record.name];
 
     std::vector<RuleCount> counts;
-    for (const auto& sharingKey : rules) {
-        for (const NuxStandardCheckRule& rule : sharingKey) {
-            const auto found = violations.find(rule.name);
-            if (found == violations.end())
-                continue;
-            counts.push_back({rule.name, found->second});
-            violations.erase(found);
-        }
+    for (const NuxStandardCheckRule& rule : rules) {
+        const auto found = violations.find(rule.name);
+        if (found == violations.end())
+            continue;
+        counts.push_back({rule.name, found->second});
+        violations.erase(found);
     }
     return counts;
 }
 
-std::vector<NotJudged> notJudged(const CurrentDocument& document, const RuleMap& rules) {
-    const QSet<QString> knownTypes = {"self", "without", "distant", "position"};
+std::vector<Finding> findings(const SiteReport& report, const RuleRuns& runs) {
+    std::map<QString, std::size_t> rankOfRule;
+    for (std::size_t i = 0; i < report.counts.size(); ++i)
+        rankOfRule[report.counts[i].ruleName] = i;
+
+    std::vector<Finding> result;
+    for (std::size_t entry = 0; entry < report.results.size(); ++entry) {
+        const auto& filed = report.results[entry].second;
+        for (std::size_t index = 0; index < filed.size(); ++index) {
+            const NuxStandardCheckRule& record = filed[index];
+            Finding finding;
+            finding.entry = entry;
+            finding.index = index;
+            if (const RuleRun* run = runs.of(record))
+                finding.measures = recordMeasures(record, *run);
+            finding.sentence = sentenceOf(report, record, finding.measures);
+            result.push_back(std::move(finding));
+        }
+    }
+    std::stable_sort(result.begin(), result.end(), [&](const Finding& a, const Finding& b) {
+        return rankOfRule[report.record(a).name] < rankOfRule[report.record(b).name];
+    });
+    return result;
+}
+
+bool isKnownType(const NuxStandardCheckRule& rule) {
+    const auto& types = ruleTypes();
+    return std::find(types.begin(), types.end(), rule.type.toStdString()) != types.end();
+}
+
+std::vector<NotJudged> notJudged(const CurrentDocument& document, const std::vector<JudgedRule>& judged) {
     std::vector<NotJudged> result;
-    for (const auto& sharingKey : rules)
-        for (const NuxStandardCheckRule& rule : sharingKey)
-            if (!knownTypes.contains(rule.type))
-                result.push_back({"rule " + rule.name.toStdString(),
-                                  "no evaluator is of type \"" + rule.type.toStdString() + "\""});
+    for (const JudgedRule& entry : judged) {
+        const NuxStandardCheckRule& rule = entry.rule;
+        const std::string what = "rule " + rule.name.toStdString();
+        if (!isKnownType(rule))
+            result.push_back({what, "no evaluator is of type \"" + rule.type.toStdString() + "\""});
+        else if (entry.verdict == JudgedRule::Verdict::NoEvaluator)
+            result.push_back({what, "no evaluator knows this rule"});
+    }
     for (const auto& object : document.objects())
         if (!object->opens())
             result.push_back({"object #" + std::to_string(object->Handle().GetID()), "it does not open"});
     return result;
 }
 
+bool hasBoxes(const CurrentDocument& document) {
+    const auto& objects = document.objects();
+    return std::any_of(objects.begin(), objects.end(), [](const std::unique_ptr<UdDbObject>& object) {
+        const auto* model = object->opens() ? NUX3dsBaseObject::Cast(object.get()) : nullptr;
+        return model && model->getModelKind() == NUX_EDO_TYPE_FIREEXTINGUISHERBOX;
+    });
+}
+
+/// What stands in the plan: the name without its remarks in brackets, else noun and handle.
+std::string planLabel(const ElementLabel& label, PlanKind kind) {
+    const std::string handle = std::to_string(label.handle);
+    if (kind == PlanKind::Model || kind == PlanKind::Other)
+        return handle;
+    const QString name = QString::fromStdString(label.name).section('(', 0, 0).trimmed();
+    return name.isEmpty() ? label.noun + " " + handle : name.toStdString();
+}
+
+std::vector<PlanShape> plan(const CurrentDocument& document,
+                            const std::map<long long, ObjectLabel>& siteLabels) {
+    std::vector<PlanShape> shapes;
+    for (const auto& object : document.objects()) {
+        PlanShape shape = planShapeOf(*object);
+        if (shape.paths.empty())
+            continue;
+        const ElementLabel label = labelOf(shape.handle, object.get(), siteLabels);
+        shape.title = label.noun + " " + std::to_string(shape.handle) +
+                      (label.name.empty() ? "" : " \"" + label.name + "\"");
+        shape.label = planLabel(label, shape.kind);
+        shapes.push_back(std::move(shape));
+    }
+    return shapes;
+}
+
 } // namespace
 
-SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& rules) {
+SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& ruleMap) {
     const CurrentDocument document(std::move(site.document));
     NuxFireStandardCheck& engine = *NUXCheck::instance();
+    CheckRecorder recorder;
     engine.DoCheck();
+    const RuleRuns runs(recorder.takeRuns());
+    const std::vector<NuxStandardCheckRule> rules = inOrder(ruleMap);
 
     SiteReport report;
     report.fileName = fileName;
@@ -121,6 +212,9 @@ SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& rule
     report.checkState = entries(engine.getMapRulesCheckState());
     report.counts = countsByRule(report, rules);
     report.elements = labels(report, document, site.labels);
-    report.notJudged = notJudged(document, rules);
+    report.findings = findings(report, runs);
+    report.judged = judgedRules(report, runs, rules, hasBoxes(document));
+    report.notJudged = notJudged(document, report.judged);
+    report.plan = plan(document, site.labels);
     return report;
 }

@@ -2,9 +2,11 @@
 
 #include "InputError.h"
 
-Options::Options(const QStringList& words, const QStringList& valueOptions) {
+Options::Options(const QStringList& words, const QStringList& valueOptions, const QStringList& flags) {
     for (const QString& option : valueOptions)
         m_parser.addOption({option, {}, "value"});
+    for (const QString& flag : flags)
+        m_parser.addOption(QCommandLineOption(flag));
     // The parser expects the program's name first.
     if (!m_parser.parse(QStringList("firecheck") + words))
         throw InputError(m_parser.errorText().toStdString() + " Try \"firecheck --help\".");

@@ -9,10 +9,11 @@
 /// The options and arguments of one command. Throws InputError for options that it does not have.
 class Options {
 public:
-    Options(const QStringList& words, const QStringList& valueOptions);
+    Options(const QStringList& words, const QStringList& valueOptions, const QStringList& flags = {});
 
     /// Nothing when it is not given; the last one when it is given again.
     std::optional<QString> value(const QString& option) const;
+    bool isSet(const QString& flag) const { return m_parser.isSet(flag); }
     QStringList arguments() const { return m_parser.positionalArguments(); }
 
     /// The value of --format; the first of `allowed` unless given.

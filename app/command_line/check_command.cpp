@@ -1,5 +1,6 @@
 #include "InputError.h"
 #include "check/check_site.h"
+#include "command_line/AcceptOptions.h"
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
@@ -8,8 +9,12 @@
 #include "report/ReportWriter.h"
 #include "rules/rule_file.h"
 #include "site_file/site_reader.h"
+#include "text/printable.h"
 
 #include <QtGlobal>
+
+#include <algorithm>
+#include <cstdio>
 
 namespace {
 
@@ -17,6 +22,10 @@ std::unique_ptr<ReportWriter> writerFor(const QString& format, Output& output) {
     const auto sink = [&output](const std::string& piece) { output.write(piece); };
     if (format == "json")
         return jsonReportWriter(sink);
+    if (format == "csv")
+        return csvReportWriter(sink);
+    if (format == "html")
+        return htmlReportWriter(sink);
     return textReportWriter(sink, output.isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"));
 }
 
@@ -42,17 +51,32 @@ void mentionLint(const std::string& ruleFile) {
     }
 }
 
+/// How long each rule took, the slowest first.
+void writeProfile(const SiteReport& report) {
+    std::vector<const JudgedRule*> rules;
+    for (const JudgedRule& judged : report.judged)
+        rules.push_back(&judged);
+    std::stable_sort(rules.begin(), rules.end(),
+                     [](const JudgedRule* a, const JudgedRule* b) { return a->time > b->time; });
+    std::fprintf(stderr, "%s: time by rule\n", printable(report.fileName).c_str());
+    for (const JudgedRule* judged : rules)
+        std::fprintf(stderr, "%10.3f ms  %s\n",
+                     std::chrono::duration<double, std::milli>(judged->time).count(),
+                     printable(judged->rule.name.toStdString()).c_str());
+}
+
 } // namespace
 
 int checkCommand(const QStringList& words) {
-    const Options options(words, {"rules", "format", "output"});
+    const Options options(words, {"rules", "format", "output", "accept", "write-accept"}, {"profile"});
     if (options.arguments().isEmpty())
         throw InputError("No site file is given. Try \"firecheck --help\".");
-    const QString format = options.format({"text", "json"});
+    const QString format = options.format({"text", "json", "csv", "html"});
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     const RuleMap& rules = loadRules(ruleFile);
     mentionLint(ruleFile);
+    const AcceptOptions accept(options);
 
     Output output(options.value("output").value_or(QString()));
     const auto writer = writerFor(format, output);
@@ -65,10 +89,13 @@ int checkCommand(const QStringList& words) {
             status = kWrongInput;
             continue;
         }
-        const SiteReport report = checkSite(std::move(*site), fileName, rules);
-        if (status == kNothingFound && report.violationCount() > 0)
+        SiteReport report = checkSite(std::move(*site), fileName, rules);
+        accept.applyTo(report);
+        if (status == kNothingFound && report.violationCount() > report.acceptedCount())
             status = kViolationsFound;
         writer->add(report);
+        if (options.isSet("profile"))
+            writeProfile(report);
     }
     writer->end();
     if (status != kWrongInput)

@@ -12,6 +12,7 @@ enum ExitStatus { kNothingFound = 0, kViolationsFound = 1, kWrongInput = 2 };
 int checkCommand(const QStringList& words);
 int lintRulesCommand(const QStringList& words);
 int listRulesCommand(const QStringList& words);
+int planCommand(const QStringList& words);
 int showRulesCommand(const QStringList& words);
 int siteSchemaCommand(const QStringList& words);
 

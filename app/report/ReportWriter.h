@@ -31,3 +31,10 @@ std::unique_ptr<ReportWriter> jsonReportWriter(ReportWriter::Sink sink);
 
 /// For people. With `coloured`, ANSI escape sequences set off what counts.
 std::unique_ptr<ReportWriter> textReportWriter(ReportWriter::Sink sink, bool coloured);
+
+/// A table for spreadsheets: UTF-8 with a byte order mark, one line for each violation and element related to
+/// it, one line also for a violation that relates to no element.
+std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink);
+
+/// One page for a browser, complete in itself: the plan of each site, and its violations linked with it.
+std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink);

@@ -1,11 +1,11 @@
 #include "report/SiteReport.h"
 
 #include <algorithm>
-#include <numeric>
 
-std::size_t SiteReport::violationCount() const {
-    return std::accumulate(counts.begin(), counts.end(), std::size_t{0},
-                           [](std::size_t sum, const RuleCount& count) { return sum + count.violations; });
+std::size_t SiteReport::acceptedCount() const {
+    return static_cast<std::size_t>(
+        std::count_if(findings.begin(), findings.end(),
+                      [](const Finding& finding) { return finding.acceptedBecause.has_value(); }));
 }
 
 const ElementLabel* SiteReport::element(long long handle) const {
@@ -13,4 +13,14 @@ const ElementLabel* SiteReport::element(long long handle) const {
         std::lower_bound(elements.begin(), elements.end(), handle,
                          [](const ElementLabel& label, long long wanted) { return label.handle < wanted; });
     return found != elements.end() && found->handle == handle ? &*found : nullptr;
+}
+
+std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStandardCheckRule& record) {
+    std::vector<long long> handles;
+    for (const Measure& measure : finding.measures)
+        if (measure.kind == Measure::Kind::Distance)
+            handles.push_back(measure.other);
+    if (handles.size() < record.relatedHandles.size())
+        handles.assign(record.relatedHandles.begin(), record.relatedHandles.end());
+    return handles;
 }

@@ -37,28 +37,117 @@ Json checkStateJson(const SiteReport& report) {
     return states;
 }
 
-Json siteJson(const SiteReport& report) {
+Json pointJson(const PlanPoint& point) {
+    return Json::array({point.x, point.y});
+}
+
+Json countsJson(const SiteReport& report) {
     Json counts = Json::array();
     for (const RuleCount& count : report.counts)
         counts.push_back({{"rule", count.ruleName.toStdString()}, {"violations", count.violations}});
+    return counts;
+}
+
+Json elementsJson(const SiteReport& report) {
     Json elements = Json::array();
     for (const ElementLabel& element : report.elements)
         elements.push_back({{"handle", decimal(element.handle)},
                             {"class", element.className},
                             {"identifier", element.identifier},
-                            {"name", element.name}});
+                            {"name", element.name},
+                            {"noun", element.noun},
+                            {"place", element.place ? pointJson(*element.place) : Json()}});
+    return elements;
+}
+
+Json measureJson(const Measure& measure) {
+    const bool isArea = measure.kind == Measure::Kind::Area;
+    Json json{{"kind", isArea                                    ? "area"
+                       : measure.kind == Measure::Kind::Distance ? "distance"
+                                                                 : "width"},
+              {"value", measure.value},
+              {"unit", isArea ? "m2" : "m"},
+              {"minimum", measure.minimum ? Json(*measure.minimum) : Json()},
+              {"maximum", measure.maximum ? Json(*measure.maximum) : Json()}};
+    if (measure.kind != Measure::Kind::Distance)
+        return json;
+    json["other"] = decimal(measure.other);
+    json["points"] = Json();
+    if (measure.points)
+        json["points"] =
+            Json::array({pointJson(measure.points->onElement), pointJson(measure.points->onOther)});
+    return json;
+}
+
+Json findingsJson(const SiteReport& report) {
+    Json findings = Json::array();
+    for (const Finding& finding : report.findings) {
+        const NuxStandardCheckRule& record = report.record(finding);
+        Json related = Json::array();
+        for (const qint64 handle : record.relatedHandles)
+            related.push_back(decimal(handle));
+        Json measures = Json::array();
+        for (const Measure& measure : finding.measures)
+            measures.push_back(measureJson(measure));
+        findings.push_back({{"rule", record.name.toStdString()},
+                            {"key", report.results[finding.entry].first.toStdString()},
+                            {"index", finding.index},
+                            {"handle", decimal(record.handle)},
+                            {"relatedHandles", std::move(related)},
+                            {"sentence", finding.sentence},
+                            {"measures", std::move(measures)},
+                            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()}});
+    }
+    return findings;
+}
+
+const char* verdictName(JudgedRule::Verdict verdict) {
+    switch (verdict) {
+    case JudgedRule::Verdict::NothingToJudge:
+        return "nothingToJudge";
+    case JudgedRule::Verdict::NoEvaluator:
+        return "noEvaluator";
+    case JudgedRule::Verdict::Judged:
+        break;
+    }
+    return "judged";
+}
+
+Json judgedJson(const SiteReport& report) {
+    Json judged = Json::array();
+    for (const JudgedRule& rule : report.judged)
+        judged.push_back({{"rule", rule.rule.name.toStdString()},
+                          {"type", rule.rule.type.toStdString()},
+                          {"verdict", verdictName(rule.verdict)},
+                          {"found", rule.found},
+                          {"pairs", rule.pairs},
+                          {"offending", rule.offending},
+                          {"violations", rule.violations},
+                          {"note", rule.note}});
+    return judged;
+}
+
+Json notJudgedJson(const SiteReport& report) {
     Json notJudged = Json::array();
     for (const NotJudged& passedOver : report.notJudged)
         notJudged.push_back({{"what", passedOver.what}, {"reason", passedOver.reason}});
+    return notJudged;
+}
+
+Json siteJson(const SiteReport& report) {
     return {{"file", report.fileName},
             {"name", report.siteName},
             {"objects", report.objectCount},
             {"violations", report.violationCount()},
-            {"countsByRule", std::move(counts)},
+            {"accepted", report.acceptedCount()},
+            {"countsByRule", countsJson(report)},
+            {"findings", findingsJson(report)},
             {"results", resultsJson(report)},
             {"checkState", checkStateJson(report)},
-            {"elements", std::move(elements)},
-            {"notJudged", std::move(notJudged)}};
+            {"elements", elementsJson(report)},
+            {"judged", judgedJson(report)},
+            {"notJudged", notJudgedJson(report)},
+            {"staleAcceptances", report.staleAcceptances}};
 }
 
 class JsonReportWriter : public ReportWriter {

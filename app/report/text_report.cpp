@@ -1,7 +1,14 @@
 #include "report/ReportWriter.h"
+#include "report/judgement_text.h"
+#include "report/measure_text.h"
+#include "report/sentence.h"
 #include "text/printable.h"
 
+#include <algorithm>
+
 namespace {
+
+constexpr std::size_t kMostPlaced = 4; ///< elements whose place is told, the offending one included
 
 std::string shown(const QString& text) {
     return printable(text.toStdString());
@@ -11,22 +18,20 @@ std::string counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-/// Class, identifier, name and handle, as far as they are known.
-std::string elementText(const SiteReport& report, long long handle) {
-    const ElementLabel* element = report.element(handle);
-    std::string text;
-    if (element) {
-        for (const std::string& part : {element->className, element->identifier})
-            text += part.empty() ? "" : printable(part) + " ";
-        text += element->name.empty() ? "" : "\"" + printable(element->name) + "\" ";
-    }
-    return text + "#" + std::to_string(handle);
+std::string coordinate(double metres) {
+    return QString::number(metres, 'f', 2).toStdString();
 }
 
-std::string recordText(const SiteReport& report, const NuxStandardCheckRule& record) {
-    std::string text = record.handle == 0 ? "the site" : elementText(report, record.handle);
-    for (std::size_t i = 0; i < record.relatedHandles.size(); ++i)
-        text += (i == 0 ? " <-> " : ", ") + elementText(report, record.relatedHandles[i]);
+/// Handle, class, identifier and place, as far as they are known.
+std::string placeText(const SiteReport& report, long long handle) {
+    std::string text = "#" + std::to_string(handle);
+    const ElementLabel* element = report.element(handle);
+    if (!element)
+        return text;
+    for (const std::string& part : {element->className, element->identifier})
+        text += part.empty() ? "" : " " + printable(part);
+    if (element->place)
+        text += " at (" + coordinate(element->place->x) + ", " + coordinate(element->place->y) + ") m";
     return text;
 }
 
@@ -38,8 +43,9 @@ public:
         write(m_isFirst ? "" : "\n");
         m_isFirst = false;
         writeHead(report);
-        for (const RuleCount& count : report.counts)
-            writeRule(report, count);
+        writeFindings(report);
+        writeStale(report);
+        writeJudged(report);
         if (!report.notJudged.empty())
             write("\nNot judged\n");
         for (const NotJudged& passedOver : report.notJudged)
@@ -59,8 +65,10 @@ private:
             write(emphasised("no violations", "32") + "\n");
             return;
         }
+        const std::size_t accepted = report.acceptedCount();
         write(emphasised(counted(report.violationCount(), "violation"), "31") + " of " +
-              counted(report.counts.size(), "rule") + "\n");
+              counted(report.counts.size(), "rule") +
+              (accepted > 0 ? ", " + std::to_string(accepted) + " accepted" : "") + "\n");
         for (const RuleCount& count : report.counts) {
             const std::string number = std::to_string(count.violations);
             const std::string padding(number.size() < 5 ? 5 - number.size() : 0, ' ');
@@ -68,17 +76,15 @@ private:
         }
     }
 
-    void writeRule(const SiteReport& report, const RuleCount& count) const {
-        bool isFirst = true;
-        for (const auto& filed : report.results) {
-            for (const NuxStandardCheckRule& record : filed.second) {
-                if (record.name != count.ruleName)
-                    continue;
-                if (isFirst)
-                    writeRuleHead(record, count.violations);
-                isFirst = false;
-                write("  " + recordText(report, record) + "\n");
-            }
+    void writeFindings(const SiteReport& report) const {
+        auto count = report.counts.begin();
+        const NuxStandardCheckRule* previous = nullptr;
+        for (const Finding& finding : report.findings) {
+            const NuxStandardCheckRule& record = report.record(finding);
+            if (!previous || previous->name != record.name)
+                writeRuleHead(record, (count++)->violations);
+            previous = &record;
+            writeFinding(report, finding, record);
         }
     }
 
@@ -88,6 +94,38 @@ private:
         const std::string standard = rule.standard.isEmpty() ? "" : " [" + shown(rule.standard) + "]";
         write("\n" + emphasised(shown(rule.name), "1") + " (" + std::to_string(violations) + ")" +
               description + standard + "\n");
+    }
+
+    void writeFinding(const SiteReport& report, const Finding& finding,
+                      const NuxStandardCheckRule& record) const {
+        write("  " + printable(finding.sentence) + "\n");
+        if (finding.acceptedBecause)
+            write("    accepted: " + printable(*finding.acceptedBecause) + "\n");
+
+        std::vector<long long> handles = relatedFromNearest(finding, record);
+        if (record.handle != 0)
+            handles.insert(handles.begin(), record.handle);
+        const std::size_t placed = std::min(handles.size(), kMostPlaced);
+        std::string places;
+        for (std::size_t i = 0; i < placed; ++i)
+            places += (i == 0 ? "" : ", ") + placeText(report, handles[i]);
+        if (placed < handles.size())
+            places += " and " + std::to_string(handles.size() - placed) + " others";
+        if (!places.empty())
+            write("    " + places + "\n");
+    }
+
+    void writeStale(const SiteReport& report) const {
+        if (!report.staleAcceptances.empty())
+            write("\nAccepted before, but no longer there\n");
+        for (const std::string& entry : report.staleAcceptances)
+            write("  " + printable(entry) + "\n");
+    }
+
+    void writeJudged(const SiteReport& report) const {
+        write("\nWhat was judged\n");
+        for (const JudgedRule& judged : report.judged)
+            write("  " + shown(judged.rule.name) + ": " + printable(judgementText(judged)) + "\n");
     }
 
     bool m_coloured;

@@ -1,0 +1,113 @@
+#include "report/ReportWriter.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace {
+
+const char* const kByteOrderMark = "\xEF\xBB\xBF"; // tells spreadsheets that the text is UTF-8
+const char* const kLineEnd = "\r\n";
+
+QString quoted(QString text) {
+    return '"' + text.replace('"', "\"\"") + '"';
+}
+
+/// A text that came from a file: a spreadsheet must not take it for a formula.
+QString cell(const QString& text) {
+    const bool looksLikeFormula = !text.isEmpty() && QStringLiteral("=+-@\t\r\n").contains(text[0]);
+    return quoted(looksLikeFormula ? "'" + text : text);
+}
+
+QString cell(const std::string& utf8) {
+    return cell(QString::fromStdString(utf8));
+}
+
+QString cell(long long number) {
+    return QString::number(number);
+}
+
+/// Six decimals tell a micrometre; the zeros at the end say nothing.
+QString cell(std::optional<double> number) {
+    if (!number)
+        return {};
+    QString text = QString::number(*number, 'f', 6);
+    while (text.endsWith('0'))
+        text.chop(1);
+    if (text.endsWith('.'))
+        text.chop(1);
+    return text == "-0" ? "0" : text;
+}
+
+/// Handle, class, identifier, name and place: empty where there is no element or nothing is known of it.
+QStringList elementCells(const SiteReport& report, long long handle) {
+    const ElementLabel* element = report.element(handle);
+    if (!element)
+        return {handle == 0 ? QString() : cell(handle), {}, {}, {}, {}, {}};
+    const auto& place = element->place;
+    return {cell(handle),
+            cell(element->className),
+            cell(element->identifier),
+            cell(element->name),
+            place ? cell(std::optional(place->x)) : QString(),
+            place ? cell(std::optional(place->y)) : QString()};
+}
+
+const Measure* measureOf(const Finding& finding, long long related) {
+    for (const Measure& measure : finding.measures)
+        if (measure.other == related)
+            return &measure;
+    return nullptr;
+}
+
+QStringList measureCells(const Measure* measure) {
+    if (!measure)
+        return {{}, {}, {}, {}};
+    return {cell(std::optional(measure->value)), measure->kind == Measure::Kind::Area ? "m2" : "m",
+            cell(measure->minimum), cell(measure->maximum)};
+}
+
+const char* const kHead = "file,site,violation,rule,description,standard,sentence,accepted because,"
+                          "handle,class,identifier,name,x (m),y (m),"
+                          "related handle,related class,related identifier,related name,related x (m),"
+                          "related y (m),value,unit,at least,at most";
+
+class CsvReportWriter : public ReportWriter {
+public:
+    using ReportWriter::ReportWriter;
+
+    void begin() override { write(std::string(kByteOrderMark) + kHead + kLineEnd); }
+
+    void add(const SiteReport& report) override {
+        long long number = 0;
+        for (const Finding& finding : report.findings)
+            writeFinding(report, finding, ++number);
+    }
+
+private:
+    void writeFinding(const SiteReport& report, const Finding& finding, long long number) const {
+        const NuxStandardCheckRule& record = report.record(finding);
+        const QStringList head = QStringList{cell(report.fileName),
+                                             cell(report.siteName),
+                                             cell(number),
+                                             cell(record.name),
+                                             cell(record.ruleDescription),
+                                             cell(record.standard),
+                                             cell(finding.sentence),
+                                             cell(finding.acceptedBecause.value_or(""))} +
+                                 elementCells(report, record.handle);
+        std::vector<qint64> related = record.relatedHandles;
+        if (related.empty())
+            related.push_back(0);
+        for (const qint64 handle : related) {
+            const QStringList line =
+                head + elementCells(report, handle) + measureCells(measureOf(finding, handle));
+            write((line.join(',') + kLineEnd).toStdString());
+        }
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink) {
+    return std::make_unique<CsvReportWriter>(std::move(sink));
+}

@@ -1,0 +1,253 @@
+#include "report/html/site_section.h"
+
+#include "report/html/escape.h"
+#include "report/html/plan_svg.h"
+#include "report/judgement_text.h"
+#include "report/sentence.h"
+
+#include <QStringList>
+
+#include <map>
+
+namespace {
+
+constexpr std::size_t kMostPlaced = 4; ///< elements of a finding whose place is shown at once
+
+QString counted(std::size_t count, const QString& noun) {
+    return QString::number(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+QString element(const char* name, const QString& attributes, const QString& content) {
+    return QStringLiteral("<") + name + attributes + ">" + content + "</" + name + ">\n";
+}
+
+QString ofClass(const QString& classes) {
+    return " class=\"" + classes + "\"";
+}
+
+/// Begins with a capital letter and ends with a full stop.
+QString asSentence(const std::string& text) {
+    QString sentence = QString::fromStdString(text);
+    if (!sentence.isEmpty())
+        sentence[0] = sentence[0].toUpper();
+    return escaped(sentence) + ".";
+}
+
+class SiteSection {
+public:
+    SiteSection(const SiteReport& report, std::size_t number)
+        : m_report(report), m_id("s" + QString::number(number)), m_ids{m_id + "-"} {}
+
+    QString text() const {
+        return "<section class=\"site\" id=\"" + m_id + "\">\n" + header() +
+               element("div", ofClass("panes"), "\n" + planPane() + listPane()) +
+               element("div", ofClass("tables"), "\n" + judgedTable() + notJudgedTable()) + "</section>\n";
+    }
+
+private:
+    QString header() const {
+        const std::size_t accepted = m_report.acceptedCount();
+        const QString title =
+            m_report.siteName.empty() ? escaped(m_report.fileName) : escaped(m_report.siteName);
+        QString verdict = m_report.findings.empty() ? "No violations"
+                                                    : counted(m_report.violationCount(), "violation") +
+                                                          " of " + counted(m_report.counts.size(), "rule");
+        if (accepted > 0)
+            verdict += ", " + QString::number(accepted) + " accepted";
+        const QString state = m_report.findings.empty() ? "verdict clean" : "verdict offending";
+        return element(
+            "header", {},
+            element("h1", {}, title) + element("p", ofClass(state), verdict) +
+                element("p", {},
+                        escaped(m_report.fileName) + " · " + counted(m_report.objectCount, "object")));
+    }
+
+    QString planPane() const {
+        const QString svg = planSvg(m_report, m_ids);
+        if (svg.isEmpty())
+            return element("p", ofClass("plan-pane"), "Nothing of this site can be drawn.");
+        const QString tools =
+            "<div class=\"tools\"><button type=\"button\" class=\"zoom-in\" aria-label=\"Zoom in\">+</button>"
+            "<button type=\"button\" class=\"zoom-out\" aria-label=\"Zoom out\">−</button>"
+            "<button type=\"button\" class=\"zoom-all\">All</button></div>\n";
+        return element(
+            "figure", ofClass("plan-pane"),
+            "\n" + svg + tools +
+                element("figcaption", {},
+                        "Numbers are those of the list. Lines are drawn between the closest points. "
+                        "Houses are drawn with their stairs."));
+    }
+
+    QString listPane() const {
+        QString text =
+            m_report.findings.empty() ? element("p", ofClass("rule"), "Nothing breaks a rule.") : filters();
+        std::size_t number = 0;
+        for (std::size_t rule = 0; rule < m_report.counts.size(); ++rule)
+            text += ruleGroup(rule, number);
+        return element("div", ofClass("list-pane"), "\n" + text + staleList());
+    }
+
+    QString filters() const {
+        QString rules = "<option value=\"\">All rules</option>";
+        for (std::size_t i = 0; i < m_report.counts.size(); ++i)
+            rules += "<option value=\"" + QString::number(i) + "\">" + escaped(m_report.counts[i].ruleName) +
+                     " (" + QString::number(m_report.counts[i].violations) + ")</option>";
+        QString elements = "<option value=\"\">All elements</option>";
+        for (const auto& [handle, violations] : violationsByElement())
+            elements += "<option value=\"" + QString::number(handle) + "\">" +
+                        escaped(elementPhrase(m_report, handle)) + " (" + QString::number(violations) +
+                        ")</option>";
+        return element("form", ofClass("filters"),
+                       "<label>Rule<select name=\"rule\">" + rules + "</select></label>\n" +
+                           "<label>Element<select name=\"element\">" + elements + "</select></label>\n" +
+                           "<button type=\"reset\">Show all</button>\n<output></output>");
+    }
+
+    std::map<long long, std::size_t> violationsByElement() const {
+        std::map<long long, std::size_t> violations;
+        for (const Finding& finding : m_report.findings)
+            for (const long long handle : concerned(finding))
+                ++violations[handle];
+        return violations;
+    }
+
+    /// The offending element, then the others from the nearest on.
+    std::vector<long long> concerned(const Finding& finding) const {
+        const NuxStandardCheckRule& record = m_report.record(finding);
+        std::vector<long long> handles = relatedFromNearest(finding, record);
+        if (record.handle != 0)
+            handles.insert(handles.begin(), record.handle);
+        return handles;
+    }
+
+    QString ruleGroup(std::size_t rule, std::size_t& number) const {
+        const RuleCount& count = m_report.counts[rule];
+        const NuxStandardCheckRule& first = m_report.record(m_report.findings[number]);
+        const QString title = first.ruleDescription.isEmpty() ? first.name : first.ruleDescription;
+        QString source = escaped(first.name);
+        if (!first.standard.isEmpty())
+            source += " · " + escaped(first.standard);
+        QString findings;
+        for (std::size_t i = 0; i < count.violations; ++i)
+            findings += findingItem(rule, ++number);
+        return element("section", ofClass("rule " + colourClass(rule)),
+                       "\n" +
+                           element("h2", {},
+                                   "<span>" + escaped(title) + "</span>" + "<span class=\"count\">" +
+                                       QString::number(count.violations) + "</span>") +
+                           element("p", ofClass("source"), source) +
+                           (first.ruleDetailDescription.isEmpty()
+                                ? QString()
+                                : element("p", ofClass("detail"), escaped(first.ruleDetailDescription))) +
+                           element("ol", ofClass("findings"), "\n" + findings));
+    }
+
+    QString findingItem(std::size_t rule, std::size_t number) const {
+        const Finding& finding = m_report.findings[number - 1];
+        const std::vector<long long> handles = concerned(finding);
+        QStringList all;
+        for (const long long handle : handles)
+            all << QString::number(handle);
+        const long long offender = m_report.record(finding).handle;
+        const QString attributes = ofClass(finding.acceptedBecause ? "finding accepted" : "finding") +
+                                   " id=\"" + m_ids.finding(number) + "\" data-number=\"" +
+                                   QString::number(number) + "\" data-rule=\"" + QString::number(rule) +
+                                   "\" data-handle=\"" + QString::number(offender) + "\" data-elements=\"" +
+                                   all.join(' ') + "\" data-focus=\"" + focus(finding, all).join(' ') + "\"";
+        const QString target = handles.empty() ? m_id : m_ids.element(handles.front());
+        QString content = "<span class=\"number\">" + QString::number(number) + "</span>" +
+                          "<a class=\"sentence\" href=\"#" + target + "\">" + asSentence(finding.sentence) +
+                          "</a>\n";
+        if (finding.acceptedBecause)
+            content += element("p", ofClass("reason"), "Accepted: " + escaped(*finding.acceptedBecause));
+        return element("li", attributes, content + places(handles));
+    }
+
+    /// What the plan turns to: the whole group, or of a long one the offender and what is nearest to it.
+    static QStringList focus(const Finding& finding, const QStringList& all) {
+        const bool isLong = finding.measures.size() > 1 && all.size() > int(kMostPlaced);
+        return isLong ? QStringList(all.mid(0, 2)) : all;
+    }
+
+    QString places(const std::vector<long long>& handles) const {
+        QString shown;
+        QString others;
+        for (std::size_t i = 0; i < handles.size(); ++i)
+            (i < kMostPlaced ? shown : others) += element("li", {}, placeText(handles[i]));
+        if (shown.isEmpty())
+            return {};
+        QString text = element("ul", ofClass("places"), "\n" + shown);
+        if (!others.isEmpty())
+            text += element("details", {},
+                            "<summary>and " + counted(handles.size() - kMostPlaced, "other") + "</summary>" +
+                                element("ul", ofClass("places"), "\n" + others));
+        return text;
+    }
+
+    QString placeText(long long handle) const {
+        const ElementLabel* label = m_report.element(handle);
+        QString text = "#" + QString::number(handle);
+        if (!label)
+            return text;
+        for (const std::string& part : {label->name, label->className, label->identifier})
+            if (!part.empty())
+                text += " · " + escaped(part);
+        if (label->place)
+            text += " · at (" + QString::number(label->place->x, 'f', 2) + ", " +
+                    QString::number(label->place->y, 'f', 2) + ") m";
+        return text;
+    }
+
+    QString staleList() const {
+        if (m_report.staleAcceptances.empty())
+            return {};
+        QString items;
+        for (const std::string& entry : m_report.staleAcceptances)
+            items += element("li", {}, escaped(entry));
+        return element("section", ofClass("rule"),
+                       element("h2", {}, "Accepted before, but no longer there") + element("ul", {}, items));
+    }
+
+    QString judgedTable() const {
+        std::size_t looked = 0;
+        QString rows;
+        for (const JudgedRule& judged : m_report.judged) {
+            looked += judged.verdict == JudgedRule::Verdict::Judged ? 1 : 0;
+            rows += element("tr", {},
+                            "<td>" + escaped(judged.rule.name) + "</td><td>" +
+                                escaped(judged.rule.ruleDescription) + "</td><td>" +
+                                escaped(judgementText(judged)) + "</td>");
+        }
+        return element(
+            "details", {},
+            "<summary>What was judged: " + QString::number(looked) + " of " +
+                counted(m_report.judged.size(), "rule") + "</summary>\n" +
+                element("div", ofClass("scroll"),
+                        "<table><thead><tr><th>Rule</th><th>Finds</th><th>Outcome</th></tr></thead>"
+                        "<tbody>\n" +
+                            rows + "</tbody></table>"));
+    }
+
+    QString notJudgedTable() const {
+        if (m_report.notJudged.empty())
+            return {};
+        QString rows;
+        for (const NotJudged& passedOver : m_report.notJudged)
+            rows += element("tr", {},
+                            "<td>" + escaped(passedOver.what) + "</td><td>" + escaped(passedOver.reason) +
+                                "</td>");
+        return element("details", {},
+                       "<summary>Not judged: " + QString::number(m_report.notJudged.size()) + "</summary>\n" +
+                           element("div", ofClass("scroll"), "<table><tbody>\n" + rows + "</tbody></table>"));
+    }
+
+    const SiteReport& m_report;
+    const QString m_id;
+    const PlanIds m_ids;
+};
+
+} // namespace
+
+QString siteSection(const SiteReport& report, std::size_t number) {
+    return SiteSection(report, number).text();
+}

@@ -1,0 +1,42 @@
+#include "report/measure_text.h"
+
+#include <QString>
+
+namespace {
+
+constexpr int kFewestDecimals = 2;
+constexpr int kMostDecimals = 8; // a distance is known to 1e-8 m
+
+QString rounded(double value, int decimals) {
+    return QString::number(value, 'f', decimals);
+}
+
+/// Both limits and the value are written alike.
+int decimalsOf(const Measure& measure) {
+    int decimals = kFewestDecimals;
+    for (const auto& limit : {measure.minimum, measure.maximum})
+        while (limit && *limit != measure.value && decimals < kMostDecimals &&
+               rounded(*limit, decimals) == rounded(measure.value, decimals))
+            ++decimals;
+    return decimals;
+}
+
+std::string withUnit(double value, const Measure& measure) {
+    const char* unit = measure.kind == Measure::Kind::Area ? " m²" : " m";
+    return rounded(value, decimalsOf(measure)).toStdString() + unit;
+}
+
+} // namespace
+
+std::string valueText(const Measure& measure) {
+    return withUnit(measure.value, measure);
+}
+
+std::string limitText(const Measure& measure) {
+    std::string text;
+    if (measure.minimum)
+        text = "at least " + withUnit(*measure.minimum, measure);
+    if (measure.maximum)
+        text += (text.empty() ? "at most " : " and at most ") + withUnit(*measure.maximum, measure);
+    return text;
+}

@@ -1,0 +1,206 @@
+#include "site_plan/plan_shapes.h"
+
+#include "elements/NUX3dsBaseObject.h"
+#include "elements/NUXCloseHouseObject.h"
+#include "elements/NUXDoorObject.h"
+#include "elements/NUXOpenHouseObject.h"
+#include "elements/NUXPosterObject.h"
+#include "elements/NUXPrefabHouseObject.h"
+#include "elements/NUXRoadObject.h"
+#include "elements/NUXServiceCableObject.h"
+#include "elements/NUXTowerCraneObject.h"
+#include "elements/NUXWallObject.h"
+#include "elements/NUXYardObject.h"
+#include "geometry/CArc2d.h"
+#include "geometry/CBody.h"
+#include "geometry/CPolygon.h"
+#include "site/element_type_identifiers.h"
+#include "site/house_footprint.h"
+#include "site/polyline_outline.h"
+#include "site/rectangle_outline.h"
+#include "site/yard_or_3ds_body.h"
+
+#include <cmath>
+
+namespace {
+
+using Paths = std::vector<PlanPath>;
+
+void appendOutline(const hrx::CPolygon* outline, Paths& paths) {
+    if (!outline)
+        return;
+    for (const hrx::CCoedgeList& loop : outline->loops())
+        paths.push_back({{loop.edges().begin(), loop.edges().end()}, true});
+}
+
+void appendRectangle(const NUXRectParam& rectangle, Paths& paths) {
+    appendOutline(buildRectParamPolygon(rectangle).get(), paths);
+}
+
+void appendBox(const hrx::CExtents3& extents, Paths& paths) {
+    if (extents.isEmpty())
+        return;
+    const auto& [low, high] = extents;
+    const std::vector<hrx::CVec2<double>> corners{
+        {low.x, low.y}, {high.x, low.y}, {high.x, high.y}, {low.x, high.y}};
+    const hrx::CCoedgeList loop(corners);
+    paths.push_back({{loop.edges().begin(), loop.edges().end()}, true});
+}
+
+void appendLine(const hrx::CVec2<double>& start, const hrx::CVec2<double>& end, Paths& paths) {
+    paths.push_back({{{start, end, 0.0}}, false});
+}
+
+void appendHouseWithStairs(const NUXPrefabHouseObject& house, Paths& paths) {
+    double length = 0.0;
+    double depth = 0.0;
+    hrx::CVec2<double> centre;
+    getHouseRectWithStair(house, length, depth, centre);
+    appendRectangle(NUXRectParam(centre, length, depth, house.getRectAngle()), paths);
+}
+
+void appendFootprint(const NUXBaseObject& element, Paths& paths) {
+    const auto centre = element.getPtRectCenter();
+    const auto circle = element.getPtCircleCenter();
+    const double radius = element.getCircleRad();
+    switch (element.m_shapeKind) {
+    case kRectangleShape:
+        appendRectangle(NUXRectParam({centre.x, centre.y}, element.getRectWidthL(), element.getRectHigh(),
+                                     element.getRectAngle()),
+                        paths);
+        break;
+    case kCircleShape: {
+        const hrx::CVec2<double> west{circle.x - radius, circle.y};
+        const hrx::CVec2<double> east{circle.x + radius, circle.y};
+        paths.push_back({{{west, east, 1.0}, {east, west, 1.0}}, true});
+        break;
+    }
+    case kPolylineShape:
+        appendOutline(buildPolylinePolygon(element).get(), paths);
+        break;
+    default:
+        break;
+    }
+}
+
+void appendDoor(const NUXDoorObject& door, Paths& paths) {
+    appendRectangle(NUXRectParam({door.getPosition().x, door.getPosition().y},
+                                 door.getPlankWidth() + 2 * door.getDoorPostSectionWidth(),
+                                 door.getDoorPostSectionHeight(), door.getAngle()),
+                    paths);
+}
+
+void appendCable(const NUXServiceCableObject& cable, Paths& paths) {
+    if (!cable.getIsStraight()) {
+        const hrx::CArc2d arc(cable.getStartPt(), cable.getEndPt(), cable.getMiddlePt());
+        if (!arc.edges().empty()) {
+            paths.push_back({arc.edges(), false});
+            return;
+        }
+    }
+    appendLine(cable.getStartPt(), cable.getEndPt(), paths);
+}
+
+void appendCrane(const NUXTowerCraneObject& crane, Paths& paths) {
+    for (const auto& part :
+         {crane.getTowerQianBiBody(), crane.getTowerHouBiBody(), crane.getTowerBaseBody()}) {
+        if (!part)
+            continue;
+        hrx::UprightSolid solid;
+        if (part->describeUpright(solid))
+            appendOutline(solid.outline, paths);
+        else
+            appendBox(part->GetExtents(), paths);
+    }
+}
+
+void appendModel(const UdDbObject& object, Paths& paths) {
+    OutlinePtr outline;
+    buildYardOr3dsPolygon(&object, outline);
+    appendOutline(outline.get(), paths);
+}
+
+void appendExtents(const UdDbObject& object, Paths& paths) {
+    hrx::CExtents3 extents;
+    if (object.GetGeomExtents(extents.low, extents.high) == Udad::eOk)
+        appendBox(extents, paths);
+}
+
+PlanKind kindOfBase(const NUXBaseObject& element) {
+    const std::wstring type = element.getElementType();
+    if (NUXYardObject::Cast(&element) || type.find(L"YARD") != std::wstring::npos)
+        return PlanKind::Yard;
+    if (NUXOpenHouseObject::Cast(&element))
+        return PlanKind::Shed;
+    if (type == NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION || type == NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION)
+        return PlanKind::Station;
+    if (NUXPrefabHouseObject::Cast(&element) || NUXCloseHouseObject::Cast(&element) ||
+        type.find(L"HOUSE") != std::wstring::npos)
+        return PlanKind::House;
+    return PlanKind::Other;
+}
+
+/// Appends the paths of an element of a class that has its own way to lie in plan, and answers its kind.
+PlanKind appendElement(const UdDbObject& object, Paths& paths) {
+    if (const auto* road = NUXRoadObject::Cast(&object)) {
+        appendOutline(road->getRoadPoly(), paths);
+        return road->getIsFireRoad() ? PlanKind::FireRoad : PlanKind::Road;
+    }
+    if (const auto* wall = NUXWallObject::Cast(&object)) {
+        appendLine(wall->getStartPosition(), wall->getEndPosition(), paths);
+        return PlanKind::Wall;
+    }
+    if (const auto* cable = NUXServiceCableObject::Cast(&object)) {
+        appendCable(*cable, paths);
+        return PlanKind::Cable;
+    }
+    if (const auto* poster = NUXPosterObject::Cast(&object)) {
+        appendLine(poster->getFirstPoint(), poster->getSecondPoint(), paths);
+        return PlanKind::Poster;
+    }
+    if (const auto* crane = NUXTowerCraneObject::Cast(&object)) {
+        appendCrane(*crane, paths);
+        return PlanKind::Crane;
+    }
+    if (const auto* base = NUXBaseObject::Cast(&object)) {
+        if (const auto* house = NUXPrefabHouseObject::Cast(base))
+            appendHouseWithStairs(*house, paths);
+        appendFootprint(*base, paths);
+        const auto* door = NUXDoorObject::Cast(base);
+        if (door && paths.empty())
+            appendDoor(*door, paths);
+        return door ? PlanKind::Door : kindOfBase(*base);
+    }
+    if (NUX3dsBaseObject::Cast(&object)) {
+        appendModel(object, paths);
+        return PlanKind::Model;
+    }
+    return PlanKind::Other;
+}
+
+bool isFinite(const PlanPath& path) {
+    for (const hrx::Edge2d& edge : path.edges)
+        for (const double number : {edge.start.x, edge.start.y, edge.end.x, edge.end.y, edge.bulge})
+            if (!std::isfinite(number))
+                return false;
+    return true;
+}
+
+} // namespace
+
+PlanShape planShapeOf(const UdDbObject& object) {
+    PlanShape shape;
+    shape.handle = object.Handle().GetID();
+    Paths paths;
+    shape.kind = appendElement(object, paths);
+    if (paths.empty())
+        appendExtents(object, paths);
+    for (PlanPath& path : paths) {
+        if (path.edges.empty() || !isFinite(path))
+            continue;
+        for (const hrx::Edge2d& edge : path.edges)
+            shape.box.add(edge.box());
+        shape.paths.push_back(std::move(path));
+    }
+    return shape;
+}
