@@ -62,7 +62,12 @@ const std::string kNarrowReport = R"(narrow.json: Plot 7
     1  Self_RoadMinWidth
 
 Self_RoadMinWidth (1):  太窄  [clause 1]
-  road NUX_EDO_TYPE_ROAD "Gate?[31m road" #3
+  fire road 3 "Gate?[31m road" is 3.999 m wide; the code asks for at least 4.000 m
+    #3 road NUX_EDO_TYPE_ROAD at (4.50, 0.00) m
+
+What was judged
+  #comment: no evaluator knows this rule
+  Self_RoadMinWidth: 1 found, 1 offends
 
 Not judged
   rule #comment: no evaluator is of type ""
@@ -71,6 +76,10 @@ Not judged
 
 const std::string kFineReport = R"(fine.json
 1 object, no violations
+
+What was judged
+  #comment: no evaluator knows this rule
+  Self_RoadMinWidth: nothing to judge
 
 Not judged
   rule #comment: no evaluator is of type ""
@@ -109,7 +118,7 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         {"firecheck check --rules rules.xml", "",
          "firecheck: No site file is given. Try \"firecheck --help\".\n", 2},
         {"firecheck check fine.json --format yaml", "",
-         "firecheck: No such format: \"yaml\". Choose one of text, json.\n", 2},
+         "firecheck: No such format: \"yaml\". Choose one of text, json, csv, html.\n", 2},
         {"firecheck check fine.json --fast", "",
          "firecheck: Unknown option 'fast'. Try \"firecheck --help\".\n", 2},
         {"firecheck", "", "firecheck: No command is given. Try \"firecheck --help\".\n", 2},
@@ -143,6 +152,28 @@ TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenAllIsWell) {
     EXPECT_EQ(outcome.output + outcome.messages, kMention);
     EXPECT_EQ(read("食堂.txt"), kNarrowReport);
     EXPECT_EQ(run("firecheck check narrow.json --rules rules.xml --output gone/report.txt").status, 2);
+}
+
+TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
+    const std::string check = "firecheck check narrow.json --rules rules.xml 2>&1 ";
+    EXPECT_EQ(run(check + "--write-accept accepted.json").status, 1);
+    EXPECT_EQ(run(check + "--accept accepted.json").output,
+              kMention +
+                  "firecheck: accepted.json: /accepted/0/reason: expected the reason why this violation "
+                  "is accepted\n");
+
+    const std::string fillIn = "sed -i 's/\"reason\": \"\"/\"reason\": \"old gate\"/' accepted.json; ";
+    const Outcome accepted = run(fillIn + check + "--accept accepted.json --write-accept again.json");
+    EXPECT_EQ(accepted.status, 0);
+    EXPECT_NE(accepted.output.find("1 violation of 1 rule, 1 accepted\n"), std::string::npos);
+    EXPECT_NE(accepted.output.find("    accepted: old gate\n"), std::string::npos);
+    EXPECT_EQ(read("again.json"), read("accepted.json"));
+
+    const Outcome stale = run("firecheck check fine.json --rules rules.xml --accept accepted.json");
+    EXPECT_EQ(stale.status, 0);
+    EXPECT_NE(stale.output.find("no longer there\n  Self_RoadMinWidth #3: old gate\n"), std::string::npos);
+    EXPECT_EQ(run("firecheck check fine.json narrow.json --rules rules.xml --accept accepted.json").status,
+              2);
 }
 
 TEST_F(CommandLine, FindsTheRulesItComesWith) {

@@ -1,0 +1,251 @@
+#include "accept/accept_file.h"
+#include "check/check_site.h"
+#include "report/ReportWriter.h"
+#include "report/html/plan_svg.h"
+#include "site_file/site_reader.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+#include <valijson/adapters/nlohmann_json_adapter.hpp>
+#include <valijson/schema.hpp>
+#include <valijson/schema_parser.hpp>
+#include <valijson/validator.hpp>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+const fs::path kSource = SOURCE_DIRECTORY;
+
+using MakeWriter = std::unique_ptr<ReportWriter> (*)(ReportWriter::Sink);
+
+std::unique_ptr<ReportWriter> plainTextWriter(ReportWriter::Sink sink) {
+    return textReportWriter(std::move(sink), false);
+}
+
+QString rendered(const SiteReport& report, MakeWriter makeWriter) {
+    std::string text;
+    const auto writer = makeWriter([&text](const std::string& piece) { text += piece; });
+    writer->begin();
+    writer->add(report);
+    writer->end();
+    return QString::fromStdString(text);
+}
+
+SiteReport check(Site site, const std::string& name) {
+    static const RuleMap& rules = loadRules((kSource / "data/FireStandardCheck.xml").string());
+    return checkSite(std::move(site), name, rules);
+}
+
+std::vector<fs::path> examples() {
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(kSource / "examples"))
+        if (entry.path().extension() == ".json")
+            files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+nlohmann::json jsonOf(const SiteReport& report) {
+    return nlohmann::json::parse(rendered(report, jsonReportWriter).toStdString());
+}
+
+/// The rows of a table as a spreadsheet reads them.
+std::vector<QStringList> csvRows(const QString& text) {
+    std::vector<QStringList> rows(1, QStringList(QString()));
+    bool isQuoted = false;
+    for (int i = 0; i < text.size(); ++i) {
+        QString& cell = rows.back().last();
+        if (isQuoted && text.mid(i, 2) == "\"\"")
+            cell += text[++i];
+        else if (text[i] == '"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && text[i] == ',')
+            rows.back() << QString();
+        else if (!isQuoted && text.mid(i, 2) == "\r\n" && ++i < text.size() - 1)
+            rows.emplace_back(QString());
+        else
+            cell += text[i];
+    }
+    return rows;
+}
+
+/// How many violations each rule has, as one rendering shows it.
+using Counts = std::map<QString, int>;
+
+Counts countsOfJson(const nlohmann::json& site) {
+    Counts counts;
+    for (const auto& count : site["countsByRule"])
+        counts[QString::fromStdString(count["rule"])] = count["violations"];
+    return counts;
+}
+
+Counts countsOfCsv(const QString& csv) {
+    Counts counts;
+    QString previous;
+    const auto rows = csvRows(csv);
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        if (rows[i][2] != previous)
+            ++counts[rows[i][3]];
+        previous = rows[i][2];
+    }
+    return counts;
+}
+
+/// From a head line "Rule (n): ..." and as many sentences, which are indented by two blanks.
+Counts countsOfText(const QString& text) {
+    Counts counts;
+    const QString findings = text.section("\nWhat was judged", 0, 0);
+    const QRegularExpression head("^(\\w+) \\((\\d+)\\)[^\\n]*\\n((?:  [^\\n]*\\n?)*)",
+                                  QRegularExpression::MultilineOption);
+    for (auto match = head.globalMatch(findings); match.hasNext();) {
+        const auto group = match.next();
+        const int sentences =
+            group.captured(3).count(QRegularExpression("^  \\S", QRegularExpression::MultilineOption));
+        EXPECT_EQ(group.captured(2).toInt(), sentences) << group.captured(1).toStdString();
+        counts[group.captured(1)] = sentences;
+    }
+    return counts;
+}
+
+Counts countsOfHtml(const QString& html) {
+    Counts counts;
+    for (const QString& group : html.split("<section class=\"rule ").mid(1)) {
+        const QString name =
+            group.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
+        counts[name] = group.count("<li class=\"finding");
+        EXPECT_EQ(group.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), counts[name]);
+    }
+    return counts;
+}
+
+TEST(Renderers, AgreeOnEveryExampleAndKeepToTheSchema) {
+    std::ifstream schemaFile(kSource / "data/report.schema.json");
+    const nlohmann::json schemaText = nlohmann::json::parse(schemaFile);
+    valijson::Schema schema;
+    valijson::SchemaParser().populateSchema(valijson::adapters::NlohmannJsonAdapter(schemaText), schema);
+
+    ASSERT_GE(examples().size(), 4u);
+    for (const fs::path& file : examples()) {
+        SCOPED_TRACE(file);
+        const SiteReport report = check(loadSite(file.string()), file.filename().string());
+        const nlohmann::json json = jsonOf(report);
+        EXPECT_TRUE(
+            valijson::Validator().validate(schema, valijson::adapters::NlohmannJsonAdapter(json), nullptr));
+        const nlohmann::json& site = json["sites"][0];
+        EXPECT_EQ(site["findings"].size(), site["violations"]);
+
+        const Counts counts = countsOfJson(site);
+        EXPECT_EQ(countsOfCsv(rendered(report, csvReportWriter)), counts);
+        EXPECT_EQ(countsOfText(rendered(report, plainTextWriter)), counts);
+        EXPECT_EQ(countsOfHtml(rendered(report, htmlReportWriter)), counts);
+
+        int judgedViolations = 0;
+        for (const auto& judged : site["judged"])
+            judgedViolations += judged["violations"].get<int>();
+        EXPECT_EQ(judgedViolations, site["violations"]);
+
+        const SiteReport again = check(loadSite(file.string()), file.filename().string());
+        for (const MakeWriter writer : {jsonReportWriter, csvReportWriter, htmlReportWriter})
+            EXPECT_EQ(rendered(again, writer), rendered(report, writer));
+    }
+}
+
+TEST(Renderers, SayWhatAPlannerWouldSay) {
+    const SiteReport report = check(loadSite((kSource / "examples/tower-site.json").string()), "tower");
+    std::map<std::string, std::string> sentences;
+    for (const Finding& finding : report.findings)
+        sentences[report.record(finding).name.toStdString()] =
+            QString::fromStdString(finding.sentence).remove(QRegularExpression(" \"[^\"]*\"")).toStdString();
+    const std::map<std::string, std::string> expected = {
+        {"Distant_PrefabHouseToPrefabHouse",
+         "dormitory 413 stands 3.50 m from dormitory 414; the code asks for at least 4.00 m"},
+        {"Distant_PrefabHouseToWoodWorkingFactory",
+         "office 404 stands 6.20 m from woodworking workshop 602; the code asks for at least 7.00 m"},
+        {"Self_RoadMinWidth", "fire road 207 is 3.80 m wide; the code asks for at least 4.00 m"},
+        {"Self_PrefabHouseRoomArea",
+         "office 402 has a room of 126.00 m²; the code asks for at most 100.00 m²"},
+        {"Without_SmookingRoom", "the site has no smoking room"},
+        {"Position_FireExtinguisherBoxToWoodFactory", "formwork workshop 601 is touched by extinguisher box "
+                                                      "1222; the code asks for one at most 3.00 m away "
+                                                      "that does not touch it"},
+    };
+    for (const auto& [rule, sentence] : expected)
+        EXPECT_EQ(sentences[rule], sentence);
+}
+
+/// A road, too narrow by a trifle, with a name out to become something else.
+SiteReport siteNamed(const std::string& name) {
+    const Json site = {{"name", name},
+                       {"objects",
+                        {{{"class", "road"},
+                          {"handle", 3},
+                          {"name", name},
+                          {"fireRoad", true},
+                          {"start", {0, 0}},
+                          {"end", {-9000, 0}},
+                          {"width", 3999}}}}};
+    return check(readSite(site), name);
+}
+
+/// The table's row about the road.
+QStringList roadRow(const std::string& name) {
+    for (const QStringList& row : csvRows(rendered(siteNamed(name), csvReportWriter)))
+        if (row.value(3) == "Self_RoadMinWidth")
+            return row;
+    return {};
+}
+
+TEST(Renderers, KeepNamesFromBecomingAnythingElse) {
+    const QString harmless = rendered(siteNamed("road"), htmlReportWriter);
+    for (const char* name :
+         {"</script><img src=x onerror=alert(1)>", "]]><svg onload=alert(1)>", "\" onclick=\"alert(1)",
+          "</title></style><script>alert(1)</script>", "<!--", "&lt;b&gt;", "'/><a href='javascript:x"}) {
+        SCOPED_TRACE(name);
+        const SiteReport report = siteNamed(name);
+        const QString html = rendered(report, htmlReportWriter);
+        EXPECT_EQ(html.count('<'), harmless.count('<'));
+        EXPECT_FALSE(html.contains(name));
+
+        QDomDocument plan;
+        ASSERT_TRUE(plan.setContent(planSvgFile(report)));
+        EXPECT_EQ(plan.elementsByTagName("title").at(0).toElement().text(),
+                  "fire road 3 \"" + QString(name) + "\"");
+    }
+    QDomDocument plan;
+    EXPECT_TRUE(plan.setContent(planSvgFile(siteNamed("a\x01\x7f b"))));
+
+    constexpr int nameColumn = 11;
+    for (const char* name : {"=1+1", "+1", "-1", "@SUM(A1)", "\tx"})
+        EXPECT_EQ(roadRow(name).value(nameColumn), "'" + QString(name));
+    const QStringList row = roadRow("a,\"b\"\r\nc");
+    EXPECT_EQ(row.value(nameColumn), "a,\"b\"\r\nc");
+    EXPECT_EQ(row.value(nameColumn + 1), "-4.5"); // a number stays one
+}
+
+TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStale) {
+    SiteReport report = check(loadSite((kSource / "examples/tower-site.json").string()), "tower");
+    const std::size_t all = report.violationCount();
+    acceptFindings({{"Distant_PrefabHouseToPrefabHouse", {413, 414}, "one group"},
+                    {"Self_RoadLoop", {}, "turning area"},
+                    {"Distant_PrefabHouseToPrefabHouse", {413}, "moved"},
+                    {"Self_RoadMinWidth", {413, 414}, "another rule"}},
+                   report);
+    EXPECT_EQ(report.violationCount(), all);
+    EXPECT_EQ(report.acceptedCount(), 2u);
+    ASSERT_EQ(report.staleAcceptances.size(), 2u);
+    EXPECT_EQ(report.staleAcceptances[0], "Distant_PrefabHouseToPrefabHouse #413: moved");
+
+    const nlohmann::json entries = nlohmann::json::parse(acceptFileText(report))["accepted"];
+    EXPECT_EQ(entries.size(), all);
+    int reasons = 0;
+    for (const auto& entry : entries)
+        reasons += entry["reason"] != "";
+    EXPECT_EQ(reasons, 2);
+}
+
+} // namespace
