@@ -101,7 +101,7 @@ class ReportTest(unittest.TestCase):
         before = page.one("svg.plan").attribute("viewBox")
         for _ in range(120):
             page.press(TAB)
-            if page.active().property("tagName") == "svg":
+            if page.active().value("tagName") == "svg":
                 break
         page.press("+")
         self.assertNotEqual(page.one("svg.plan").attribute("viewBox"), before)
@@ -119,7 +119,7 @@ class ReportTest(unittest.TestCase):
         for width in (390, 1280):
             page = self.page(width=width, height=800)
             document = page.one("html")
-            self.assertLessEqual(document.property("scrollWidth"), width)
+            self.assertLessEqual(document.value("scrollWidth"), width)
             boxes = page.run("""
                 const shown = [...document.querySelectorAll('.labels text')].filter(
                     (label) => getComputedStyle(label).display !== 'none');

@@ -119,7 +119,7 @@ class Element:
     def attribute(self, name):
         return self._get("attribute/" + name)
 
-    def property(self, name):
+    def value(self, name):
         return self._get("property/" + name)
 
     def css(self, name):

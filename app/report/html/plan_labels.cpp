@@ -22,6 +22,9 @@ struct Room {
     bool overlaps(const Room& other) const {
         return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
     }
+    bool isWithin(const Room& other) const {
+        return left >= other.left && right <= other.right && top >= other.top && bottom <= other.bottom;
+    }
 };
 
 double textWidth(const QString& text) {
@@ -95,17 +98,22 @@ private:
     std::map<long, std::vector<Room>> m_rooms;
 };
 
-/// True when the label found a place at this height.
-bool place(PlanLabel& label, double height, TakenRooms& taken) {
+bool fitsElement(const PlanLabel& label, double height) {
+    return textWidth(label.text) * height <= 2.0 * label.halfWidth;
+}
+
+/// True when the label found a place at this level.
+bool place(PlanLabel& label, int level, const Room& plan, double height, TakenRooms& taken) {
     for (const PlanLabel::Place candidate : kPlaces) {
+        const bool isBeside = candidate != PlanLabel::Place::Centre;
+        if (isBeside ? level < label.firstLevelBeside : label.mustFitElement && !fitsElement(label, height))
+            continue;
         label.place = candidate;
         const Room room = roomOf(label, height);
-        if (taken.hasRoomFor(room)) {
+        if (room.isWithin(plan) && taken.hasRoomFor(room)) {
             taken.take(room);
             return true;
         }
-        if (label.isCentredOnly)
-            break;
     }
     return false;
 }
@@ -132,7 +140,8 @@ DrawnPoint labelAnchor(const PlanLabel& label) {
     return label.middle;
 }
 
-void placeLabels(std::vector<PlanLabel>& labels, double planWidth) {
+void placeLabels(std::vector<PlanLabel>& labels, double planWidth, double planHeight) {
+    const Room plan{0.0, 0.0, planWidth, planHeight};
     for (int level = 0; level < kLabelLevels; ++level) {
         const double height = labelHeight(planWidth, level);
         TakenRooms taken(planWidth, height);
@@ -140,7 +149,7 @@ void placeLabels(std::vector<PlanLabel>& labels, double planWidth) {
             if (label.level >= 0)
                 taken.take(roomOf(label, height));
         for (PlanLabel& label : labels)
-            if (label.level < 0 && place(label, height, taken))
+            if (label.level < 0 && level >= label.firstLevel && place(label, level, plan, height, taken))
                 label.level = level;
     }
 }

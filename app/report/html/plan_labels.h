@@ -13,7 +13,9 @@ struct PlanLabel {
     DrawnPoint middle; ///< of what it names
     double halfWidth = 0.0;
     double halfHeight = 0.0;
-    bool isCentredOnly = false;
+    int firstLevel = 0;          ///< before this magnification it is not shown
+    int firstLevelBeside = 0;    ///< before this one it stands on its element or nowhere
+    bool mustFitElement = false; ///< on its element it must not reach beyond it
 
     // Where it stands, once placed.
     enum class Place { Centre, Above, Below, Right, Left };
@@ -30,8 +32,8 @@ constexpr double kLabelPixels = 11.0;
 /// Height of a label in the plan's own metres.
 double labelHeight(double planWidth, int level);
 
-/// Places the labels in their order, each as early as it finds room beside those placed before it.
-void placeLabels(std::vector<PlanLabel>& labels, double planWidth);
+/// Places the labels in their order, each as early as it finds room in the plan beside those placed before.
+void placeLabels(std::vector<PlanLabel>& labels, double planWidth, double planHeight);
 
 /// The point that a placed label hangs on, its middle or the middle of the side that faces the element.
 DrawnPoint labelAnchor(const PlanLabel& label);

@@ -16,6 +16,7 @@ namespace {
 constexpr std::size_t kColours = 10;
 constexpr int kLongestLabel = 26;
 constexpr int kLevelWithoutScripts = 1;
+constexpr int kFirstLevelOfMinor = 2;
 
 const char* kindClass(PlanKind kind) {
     switch (kind) {
@@ -72,6 +73,11 @@ QString pathData(const PlanShape& shape, const PlanFrame& frame) {
         data += path.isClosed ? "Z" : "";
     }
     return data;
+}
+
+/// Elements that there are many of, known by their handles.
+bool isMinor(PlanKind kind) {
+    return kind == PlanKind::Model || kind == PlanKind::Other;
 }
 
 QString numbersText(const std::vector<std::size_t>& numbers) {
@@ -169,7 +175,7 @@ private:
         std::vector<PlanLabel> labels = pins();
         appendMeasureTexts(labels);
         appendNames(labels);
-        placeLabels(labels, m_frame.width());
+        placeLabels(labels, m_frame.width(), m_frame.height());
         QString text = "<g class=\"labels\">\n";
         for (const PlanLabel& label : labels)
             text += labelText(label);
@@ -233,6 +239,9 @@ private:
             if (label.text.size() > kLongestLabel)
                 label.text = label.text.left(kLongestLabel - 1).trimmed() + QStringLiteral("…");
             label.classes = "name";
+            label.mustFitElement = true;
+            label.firstLevel = isMinor(shape->kind) ? kFirstLevelOfMinor : 0;
+            label.firstLevelBeside = std::max(label.firstLevel, 1);
             labels.push_back(label);
         }
     }
