@@ -13,6 +13,7 @@ int checkCommand(const QStringList& words);
 int lintRulesCommand(const QStringList& words);
 int listRulesCommand(const QStringList& words);
 int planCommand(const QStringList& words);
+int rulesPageCommand(const QStringList& words);
 int showRulesCommand(const QStringList& words);
 int siteSchemaCommand(const QStringList& words);
 
