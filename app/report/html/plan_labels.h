@@ -26,7 +26,7 @@ struct PlanLabel {
 /// Magnifications at which labels are shown. At level n the plan is kNarrowestPlan * 2^n pixels wide or
 /// wider, and labels are kLabelPixels high whatever the level.
 constexpr int kLabelLevels = 7;
-constexpr double kNarrowestPlan = 390.0;
+constexpr double kNarrowestPlan = 340.0;
 constexpr double kLabelPixels = 11.0;
 
 /// Height of a label in the plan's own metres.

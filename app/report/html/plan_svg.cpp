@@ -80,6 +80,10 @@ bool isMinor(PlanKind kind) {
     return kind == PlanKind::Model || kind == PlanKind::Other;
 }
 
+bool isRoad(PlanKind kind) {
+    return kind == PlanKind::Road || kind == PlanKind::FireRoad;
+}
+
 QString numbersText(const std::vector<std::size_t>& numbers) {
     constexpr std::size_t mostShown = 4;
     QStringList shown;
@@ -241,7 +245,7 @@ private:
             label.classes = "name";
             label.mustFitElement = true;
             label.firstLevel = isMinor(shape->kind) ? kFirstLevelOfMinor : 0;
-            label.firstLevelBeside = std::max(label.firstLevel, 1);
+            label.firstLevelBeside = isRoad(shape->kind) ? kLabelLevels : std::max(label.firstLevel, 1);
             labels.push_back(label);
         }
     }
@@ -300,7 +304,10 @@ std::vector<std::size_t> ruleIndices(const SiteReport& report) {
 }
 
 QString planSvg(const SiteReport& report, const PlanIds& ids) {
-    return PlanDrawing(report, ids, true).svg(" class=\"plan\"", {});
+    const QString labelling = " data-label-pixels=\"" + drawnNumber(kLabelPixels) + "\" data-narrowest=\"" +
+                              drawnNumber(kNarrowestPlan) + "\" data-levels=\"" +
+                              QString::number(kLabelLevels) + "\"";
+    return PlanDrawing(report, ids, true).svg(" class=\"plan\"" + labelling, {});
 }
 
 QString planSvgFile(const SiteReport& report) {

@@ -3,9 +3,6 @@
 // Everything the page says stands in its markup; this adds choosing, filtering, panning and zooming.
 document.documentElement.classList.add("scripted");
 
-const LABEL_PIXELS = 11;
-const NARROWEST_PLAN = 390;
-const LABEL_LEVELS = 7;
 const LARGEST_ZOOM = 200;
 
 /** The drawing of one site: which part of it is seen, and how large. */
@@ -15,6 +12,8 @@ class Plan {
     const box = svg.viewBox.baseVal;
     this.whole = { x: box.x, y: box.y, width: box.width, height: box.height };
     this.seen = { ...this.whole };
+    const { labelPixels, narrowest, levels } = svg.dataset;
+    this.labels = { pixels: Number(labelPixels), narrowest: Number(narrowest), levels: Number(levels) };
     this.pointers = new Map();
     this.listen();
     new ResizeObserver(() => this.show(this.seen)).observe(svg);
@@ -28,10 +27,10 @@ class Plan {
     this.seen = box;
     this.svg.setAttribute("viewBox", `${box.x} ${box.y} ${box.width} ${box.height}`);
     const scale = this.pixelsPerMetre();
-    const level = Math.floor(Math.log2((this.whole.width * scale) / NARROWEST_PLAN));
-    this.svg.dataset.level = Math.max(0, Math.min(LABEL_LEVELS - 1, level));
-    const largest = (this.whole.width * LABEL_PIXELS) / NARROWEST_PLAN;
-    this.svg.style.setProperty("--label-size", Math.min(LABEL_PIXELS / scale, largest));
+    const level = Math.floor(Math.log2((this.whole.width * scale) / this.labels.narrowest));
+    this.svg.dataset.level = Math.max(0, Math.min(this.labels.levels - 1, level));
+    const largest = (this.whole.width * this.labels.pixels) / this.labels.narrowest;
+    this.svg.style.setProperty("--label-size", Math.min(this.labels.pixels / scale, largest));
   }
 
   showAll() {

@@ -72,7 +72,7 @@ private:
             "<button type=\"button\" class=\"zoom-all\">All</button></div>\n";
         return element(
             "figure", ofClass("plan-pane"),
-            "\n" + svg + tools +
+            "\n" + element("div", ofClass("drawing"), "\n" + svg + tools) +
                 element("figcaption", {},
                         "Numbers are those of the list. Lines are drawn between the closest points. "
                         "Houses are drawn with their stairs."));
