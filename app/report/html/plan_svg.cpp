@@ -245,7 +245,10 @@ private:
             label.classes = "name";
             label.mustFitElement = true;
             label.firstLevel = isMinor(shape->kind) ? kFirstLevelOfMinor : 0;
-            label.firstLevelBeside = isRoad(shape->kind) ? kLabelLevels : std::max(label.firstLevel, 1);
+            const bool offends = m_numbersByHandle.count(shape->handle) != 0;
+            label.firstLevelBeside = isRoad(shape->kind) ? kLabelLevels
+                                     : offends           ? 0
+                                                         : std::max(label.firstLevel, 1);
             labels.push_back(label);
         }
     }
