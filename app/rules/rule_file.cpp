@@ -3,7 +3,9 @@
 #include "InputError.h"
 #include "base/rooted_file_name.h"
 #include "rules_config/NUXRuleConfigFile.h"
+#include "rules_config/rule_file_bounds.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QFile>
@@ -20,16 +22,23 @@ std::string defaultRuleFile() {
 
 void requireWellFormed(const std::string& fileName) {
     const QString name = QString::fromStdString(fileName);
-    if (QFileInfo(name).isDir())
-        throw InputError(fileName + ": expected a rule file, found a directory");
+    const QFileInfo info(name);
+    if (info.exists() && !info.isFile())
+        throw InputError(fileName + ": expected a rule file, found " +
+                         (info.isDir() ? "a directory" : "something else that is no file"));
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
         throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+    QBuffer content;
+    content.setData(file.read(kLargestRuleFile));
+    content.open(QIODevice::ReadOnly);
+    if (file.size() > kLargestRuleFile || !isWithinBounds(content.data()))
+        throw InputError(fileName + ": too large, too deeply nested or too many entities for a rule file");
     QDomDocument document;
     QString reason;
     int line = 0;
     int column = 0;
-    if (!document.setContent(&file, &reason, &line, &column))
+    if (!document.setContent(&content, &reason, &line, &column))
         throw InputError(fileName + ":" + std::to_string(line) + ":" + std::to_string(column) +
                          ": expected a well-formed XML document: " + reason.toStdString());
 }
