@@ -2,8 +2,10 @@
 #include "geometry/edge_crossing.h"
 #include "geometry/finite.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 #include <ostream>
 
 namespace hrx {
@@ -43,15 +45,47 @@ bool hasOnlyLongEdges(const CPolygon& polygon) {
     return true;
 }
 
+/// An edge and a box that holds it.
+struct Span {
+    CBox2d box;
+    const Edge2d* edge;
+};
+
+Span spanOf(const Edge2d& edge) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    const CBox2d box = edge.looseBox();
+    // The box of an edge at the end of the range of doubles is none; it may lie anywhere.
+    const bool isBox = box.low.x <= box.high.x && box.low.y <= box.high.y;
+    return {isBox ? box : CBox2d{{-kInfinity, -kInfinity}, {kInfinity, kInfinity}}, &edge};
+}
+
+bool overlapInY(const CBox2d& a, const CBox2d& b) {
+    return a.low.y <= b.high.y && b.low.y <= a.high.y;
+}
+
+/// Two straight edges from one corner meet there and nowhere else, or run along each other.
+bool areSidesOfCorner(const Edge2d& a, const Edge2d& b) {
+    return !a.isArc() && !b.isArc() && (a.end == b.start || b.end == a.start);
+}
+
+bool spansCross(const Span& a, const Span& b) {
+    return overlapInY(a.box, b.box) && !areSidesOfCorner(*a.edge, *b.edge) && edgesCross(*a.edge, *b.edge);
+}
+
+/// Sweeps along x, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
-    boost::container::small_vector<const Edge2d*, 16> seen;
+    if (!isFinite(polygon))
+        return true;
+    boost::container::small_vector<Span, 8> spans;
     for (const CCoedgeList& loop : polygon.loops())
-        for (const Edge2d& edge : loop.edges()) {
-            for (const Edge2d* other : seen)
-                if (edgesCross(edge, *other))
-                    return false;
-            seen.push_back(&edge);
-        }
+        for (const Edge2d& edge : loop.edges())
+            spans.push_back(spanOf(edge));
+    std::sort(spans.begin(), spans.end(),
+              [](const Span& a, const Span& b) { return a.box.low.x < b.box.low.x; });
+    for (auto span = spans.begin(); span != spans.end(); ++span)
+        for (auto next = span + 1; next != spans.end() && next->box.low.x <= span->box.high.x; ++next)
+            if (spansCross(*span, *next))
+                return false;
     return true;
 }
 

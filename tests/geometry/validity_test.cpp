@@ -1,5 +1,7 @@
 #include "Placing.h"
 #include "geometry/CPolygon.h"
+#include "geometry/edge_crossing.h"
+#include "random_outlines.h"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +27,25 @@ PolygonRef placed(const std::vector<Loop>& outline, const Placing& placing) {
         loops.emplace_back(loop);
     }
     return PolygonRef(new CPolygon(loops));
+}
+
+TEST(OutlineValidity, crossingEdgesAsFoundPairByPair) {
+    outlines::Random random(5);
+    int crossing = 0;
+    for (int i = 0; i < 2000; ++i) {
+        outlines::Loop loop = outlines::star(random, 3 + random.below(30), random.below(2) ? 0.4 : 0.0);
+        if (random.below(2))
+            std::swap(loop[0], loop[static_cast<std::size_t>(random.below(static_cast<int>(loop.size())))]);
+        const PolygonRef polygon(outlines::polygon({loop}));
+        bool expected = false;
+        for (const Edge2d& a : polygon->GetLoop(0)->edges())
+            for (const Edge2d& b : polygon->GetLoop(0)->edges())
+                expected |= &a < &b && edgesCross(a, b);
+        EXPECT_EQ(polygon->IsValid(0x10, nullptr), !expected) << "outline " << i;
+        crossing += expected;
+    }
+    EXPECT_GT(crossing, 200);
+    EXPECT_LT(crossing, 1800);
 }
 
 TEST(OutlineValidity, crossingEdgesHoweverPlaced) {
