@@ -133,7 +133,7 @@ TEST_F(Engine, FilesResultsAndFlags) {
     };
     for (const Row& row : rows) {
         useRules(row.rules);
-        NuxFireStandardCheck engine;
+        NuxFireStandardCheck& engine = *NUXCheck::instance();
         engine.DoCheck();
         EXPECT_EQ(results(engine), row.results) << row.what;
         EXPECT_EQ(states(engine), row.states) << row.what;
@@ -172,11 +172,13 @@ TEST_F(Engine, KeepsResultsAndFlagsWithoutADrawing) {
 
 TEST_F(Engine, CopiesHaveMapsOfTheirOwn) {
     useRules({{"K", {kNarrow}}});
-    NuxFireStandardCheck engine;
+    NuxFireStandardCheck& engine = *NUXCheck::instance();
     engine.DoCheck();
-    NuxFireStandardCheck copy(engine);
-    NuxFireStandardCheck assigned;
-    assigned = engine;
+    const NuxFireStandardCheck original(engine);
+    NuxFireStandardCheck copy(original);
+    NuxFireStandardCheck assigned(original);
+    assigned.getMapRules().clear();
+    assigned = original;
     engine.getMapRules().clear();
     for (NuxFireStandardCheck* other : {&copy, &assigned}) {
         EXPECT_EQ(results(*other), "17: Self_RoadMinWidth; 42: Self_RoadMinWidth");
