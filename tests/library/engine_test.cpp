@@ -6,13 +6,12 @@
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
+#include "rule_map_outline.h"
 #include "rules_config/NUXRuleConfigFile.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
 
 NuxStandardCheckRule rule(const QString& type, const QString& name, const QString& elementType = {}) {
     NuxStandardCheckRule result;
@@ -49,17 +48,7 @@ protected:
         const_cast<RuleMap&>(NUXRuleConfigFile::Single()->getAllRuleMap()) = rules;
     }
 
-    /// The results as "key: name name; key: name".
-    static std::string results(NuxFireStandardCheck& engine) {
-        QStringList entries;
-        for (auto entry = engine.getMapRules().cbegin(); entry != engine.getMapRules().cend(); ++entry) {
-            QStringList names;
-            for (const NuxStandardCheckRule& record : *entry)
-                names << record.name;
-            entries << entry.key() + ": " + names.join(' ');
-        }
-        return entries.join("; ").toStdString();
-    }
+    static std::string results(NuxFireStandardCheck& engine) { return outline(engine.getMapRules()); }
 
     /// The flags as "key: count; key: count"; a flag that is set counts 100.
     static std::string states(NuxFireStandardCheck& engine) {

@@ -1,4 +1,5 @@
 #include "base/rooted_file_name.h"
+#include "rule_map_outline.h"
 #include "rules_config/NUXRuleConfigFile.h"
 
 #include <QFile>
@@ -10,8 +11,6 @@ struct RuleStoreAccess {
 };
 
 namespace {
-
-using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
 
 NUXRuleConfigFile storeOf(const QByteArray& text) {
     const QTemporaryDir root;
@@ -25,18 +24,6 @@ NUXRuleConfigFile storeOf(const QByteArray& text) {
 
 RuleMap rulesOf(const QByteArray& text) {
     return storeOf(text).getAllRuleMap();
-}
-
-/// The rules of the map as "key: name name; key: name".
-std::string outline(const RuleMap& rules) {
-    QStringList entries;
-    for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
-        QStringList names;
-        for (const NuxStandardCheckRule& rule : *entry)
-            names << rule.name;
-        entries << entry.key() + ": " + names.join(' ');
-    }
-    return entries.join("; ").toStdString();
 }
 
 } // namespace

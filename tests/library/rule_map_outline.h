@@ -1,0 +1,22 @@
+#pragma once
+
+#include "rules_config/NuxStandardCheckRule.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <string>
+
+using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
+
+/// The records of a map as "key: name name; key: name".
+inline std::string outline(const RuleMap& rules) {
+    QStringList entries;
+    for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
+        QStringList names;
+        for (const NuxStandardCheckRule& rule : *entry)
+            names << rule.name;
+        entries << entry.key() + ": " + names.join(' ');
+    }
+    return entries.join("; ").toStdString();
+}
