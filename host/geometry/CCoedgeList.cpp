@@ -44,7 +44,7 @@ CCoedgeList::CCoedgeList(const std::vector<PolyPt2d>& points) {
 
 int CCoedgeList::ClockSign() const {
     const double area = signedArea();
-    if (!(std::abs(area) > g_DistEpsilon * perimeter()))
+    if (!(std::abs(area) > g_DistEpsilon * girth()))
         return 0;
     return area > 0.0 ? 1 : -1;
 }
@@ -62,10 +62,11 @@ double CCoedgeList::signedArea() const {
     return area;
 }
 
-double CCoedgeList::perimeter() const {
+double CCoedgeList::girth() const {
     double sum = 0.0;
     for (const Edge2d& edge : m_edges)
-        sum += edge.length();
+        sum += (std::abs(edge.end.x - edge.start.x) + std::abs(edge.end.y - edge.start.y)) *
+               (1.0 + std::abs(edge.bulge));
     return sum;
 }
 

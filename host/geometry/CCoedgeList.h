@@ -29,7 +29,8 @@ public:
     int ClockSign() const;
     /// Enclosed area, mm2, positive counter-clockwise; arcs counted exactly.
     double signedArea() const;
-    double perimeter() const;
+    /// The perimeter to within a factor of 2, quick to take: what widths are compared with.
+    double girth() const;
     void Reverse();
 
 private:

@@ -1,5 +1,6 @@
 #include "geometry/CPolygon.h"
 #include "geometry/edge_crossing.h"
+#include "geometry/edge_intersections.h"
 #include "geometry/finite.h"
 
 #include <algorithm>
@@ -63,18 +64,50 @@ bool overlapInY(const CBox2d& a, const CBox2d& b) {
     return a.low.y <= b.high.y && b.low.y <= a.high.y;
 }
 
-/// Two straight edges from one corner meet there and nowhere else, or run along each other.
+/// A line and an arc from one corner: true when the line ends before it could meet the arc's circle again.
+bool staysOffArc(const CVec2<double>& line, const Edge2d& arc) {
+    const CVec2<double> inward = leftNormal(arc.startDirection()) * std::copysign(1.0, arc.bulge);
+    return dot(line, line) < 2.0 * arc.radius() * dot(inward, line) - g_touchDistance * length(line) ||
+           dot(inward, line) < 0.0;
+}
+
+/// True for neighbours that surely meet in their common corner only, or run along each other.
 bool areSidesOfCorner(const Edge2d& a, const Edge2d& b) {
-    return !a.isArc() && !b.isArc() && (a.end == b.start || b.end == a.start);
+    if (b.end == a.start && a.end != b.start)
+        return areSidesOfCorner(b, a);
+    if (a.end != b.start)
+        return false;
+    if (!a.isArc())
+        return !b.isArc() || staysOffArc(a.start - a.end, b);
+    return !b.isArc() && staysOffArc(b.end - b.start, a.reversed());
 }
 
 bool spansCross(const Span& a, const Span& b) {
     return overlapInY(a.box, b.box) && !areSidesOfCorner(*a.edge, *b.edge) && edgesCross(*a.edge, *b.edge);
 }
 
+/// True when b turns off a to the left beyond all rounding.
+bool turnsLeft(const Edge2d& a, const Edge2d& b) {
+    const CVec2<double> u = a.end - a.start;
+    const CVec2<double> v = b.end - b.start;
+    return cross(u, v) > 1e-9 * (std::abs(u.x) + std::abs(u.y)) * (std::abs(v.x) + std::abs(v.y));
+}
+
+/// Most outlines are rectangles. Four left turns make one round, so no edge can cross another; five may make
+/// two.
+bool isConvexQuadrilateral(const CPolygon& polygon) {
+    if (polygon.LoopCount() != 1 || polygon.GetLoop(0)->edges().size() != 4)
+        return false;
+    const CCoedgeList::Edges& edges = polygon.GetLoop(0)->edges();
+    return isClosed(polygon) &&
+           std::all_of(edges.begin(), edges.end(), [](const Edge2d& edge) { return edge.bulge == 0.0; }) &&
+           turnsLeft(edges[0], edges[1]) && turnsLeft(edges[1], edges[2]) && turnsLeft(edges[2], edges[3]) &&
+           turnsLeft(edges[3], edges[0]);
+}
+
 /// Sweeps along x, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
-    if (!isFinite(polygon))
+    if (isConvexQuadrilateral(polygon) || !isFinite(polygon))
         return true;
     boost::container::small_vector<Span, 8> spans;
     for (const CCoedgeList& loop : polygon.loops())

@@ -19,10 +19,6 @@ CVec2<double> unit(const CVec2<double>& v) {
 
 } // namespace
 
-double Edge2d::length() const {
-    return isArc() ? radius() * std::abs(sweep()) : hrx::length(end - start);
-}
-
 CVec2<double> Edge2d::middle() const {
     const CVec2<double> chord = end - start;
     return start + chord * 0.5 - leftNormal(chord) * (0.5 * bulge);
@@ -51,6 +47,8 @@ CBox2d Edge2d::looseBox() const {
     CBox2d box;
     box.add(start);
     box.add(end);
+    if (bulge == 0.0)
+        return box;
     const CVec2<double> rise = leftNormal(end - start) * (-0.5 * bulge);
     box.add(start + rise);
     box.add(end + rise);
@@ -87,7 +85,7 @@ CVec2<double> Edge2d::centre() const {
 }
 
 double Edge2d::radius() const {
-    return hrx::length(end - start) * (1.0 + bulge * bulge) / (4.0 * std::abs(bulge));
+    return length(end - start) * (1.0 + bulge * bulge) / (4.0 * std::abs(bulge));
 }
 
 double Edge2d::sweep() const {

@@ -23,8 +23,6 @@ struct Edge2d {
         const CVec2<double> rise = (end - start) * (0.5 * bulge);
         return bulge != 0.0 && dot(rise, rise) > 1e-14;
     }
-    /// Length along the edge.
-    double length() const;
     /// The point half way along the edge; of an arc, its apex over the chord.
     CVec2<double> middle() const;
     /// Least box around the edge, arcs included.

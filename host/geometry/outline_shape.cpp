@@ -47,12 +47,12 @@ bool isStrictlyValid(const CPolygon& outline) {
     if (!outline.IsValid(kEveryCheck, nullptr))
         return false;
     double area = 0.0;
-    double perimeter = 0.0;
+    double girth = 0.0;
     for (const CCoedgeList& loop : outline.loops()) {
         area += loop.signedArea();
-        perimeter += loop.perimeter();
+        girth += loop.girth();
     }
-    return std::abs(area) > g_DistEpsilon * perimeter;
+    return std::abs(area) > g_DistEpsilon * girth;
 }
 
 bool isWithinReach(const CPolygon& outline) {

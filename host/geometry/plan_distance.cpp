@@ -8,30 +8,34 @@ namespace {
 
 /// An edge with a box that surely holds it.
 struct BoxedEdge {
-    explicit BoxedEdge(const Edge2d& outlineEdge) : edge(&outlineEdge), arc(outlineEdge.isArc()) {
-        if (arc) {
-            box = outlineEdge.looseBox();
-            return;
-        }
-        box.low = {std::min(outlineEdge.start.x, outlineEdge.end.x),
-                   std::min(outlineEdge.start.y, outlineEdge.end.y)};
-        box.high = {std::max(outlineEdge.start.x, outlineEdge.end.x),
-                    std::max(outlineEdge.start.y, outlineEdge.end.y)};
-    }
-
     const Edge2d* edge;
     bool arc;
     CBox2d box;
 };
 
+CBox2d chordBox(const Edge2d& edge) {
+    return {{std::min(edge.start.x, edge.end.x), std::min(edge.start.y, edge.end.y)},
+            {std::max(edge.start.x, edge.end.x), std::max(edge.start.y, edge.end.y)}};
+}
+
+BoxedEdge boxed(const Edge2d& edge) {
+    const bool arc = edge.isArc();
+    return {&edge, arc, arc ? edge.looseBox() : chordBox(edge)};
+}
+
 struct BoxedRegion {
     explicit BoxedRegion(const CPolygon& region) {
+        std::size_t count = 0;
+        for (const CCoedgeList& loop : region.loops())
+            count += loop.edges().size();
+        edges.resize(count, boost::container::default_init);
+        BoxedEdge* next = edges.data();
         CBox2d all; // a local one stays in registers
-        for (const CCoedgeList& loop : region.loops()) {
-            edges.reserve(edges.size() + loop.edges().size());
-            for (const Edge2d& edge : loop.edges())
-                all.add(edges.emplace_back(edge).box);
-        }
+        for (const CCoedgeList& loop : region.loops())
+            for (const Edge2d& edge : loop.edges()) {
+                *next = boxed(edge);
+                all.add((next++)->box);
+            }
         box = all;
     }
 
@@ -40,31 +44,51 @@ struct BoxedRegion {
 };
 
 double squaredDistance(const CVec2<double>& point, const CBox2d& box) {
-    const double dx = std::max(0.0, std::max(box.low.x - point.x, point.x - box.high.x));
-    const double dy = std::max(0.0, std::max(box.low.y - point.y, point.y - box.high.y));
+    const double dx = positivePart(std::max(box.low.x - point.x, point.x - box.high.x));
+    const double dy = positivePart(std::max(box.low.y - point.y, point.y - box.high.y));
     return dx * dx + dy * dy;
 }
 
-CVec2<double> cornerNearestTo(const CBox2d& box, const BoxedRegion& region) {
-    CVec2<double> corner;
+const CVec2<double>& cornerNearestTo(const CBox2d& box, const BoxedRegion& region) {
+    const Edge2d* nearest = region.edges.front().edge;
     double least = std::numeric_limits<double>::infinity();
+    // Selects, no branches: which corner it is cannot be predicted.
     for (const BoxedEdge& edge : region.edges) {
         const double squared = squaredDistance(edge.edge->start, box);
-        if (squared < least) {
-            least = squared;
-            corner = edge.edge->start;
-        }
+        nearest = squared < least ? edge.edge : nearest;
+        least = squared < least ? squared : least;
     }
-    return corner;
+    return nearest->start;
 }
+
+/// The edges that come nearer to the box than a bound.
+class NearEdges {
+public:
+    NearEdges(const BoxedRegion& region, const CBox2d& box, double squaredBound) {
+        m_edges.resize(region.edges.size(), boost::container::default_init);
+        const BoxedEdge** end = m_edges.data();
+        for (const BoxedEdge& edge : region.edges) {
+            *end = &edge;
+            end += squaredDistance(edge.box, box) < squaredBound ? 1 : 0;
+        }
+        m_end = end;
+    }
+
+    const BoxedEdge* const* begin() const { return m_edges.data(); }
+    const BoxedEdge* const* end() const { return m_end; }
+
+private:
+    boost::container::small_vector<const BoxedEdge*, 8> m_edges;
+    const BoxedEdge* const* m_end;
+};
 
 /// From a point to a straight edge: what to take off the point to come to the nearest point of the edge.
 CVec2<double> gapToSegment(const CVec2<double>& point, const Edge2d& segment) {
     const CVec2<double> along = segment.end - segment.start;
     const CVec2<double> arm = point - segment.start;
     const double size = dot(along, along);
-    // Without branches: which case it is cannot be predicted. 0 / 0 ends as 0.
-    const double t = std::min(1.0, std::max(0.0, dot(arm, along) / size));
+    // 0 / 0, of an edge without length, may end as any number.
+    const double t = std::min(1.0, positivePart(dot(arm, along) / size));
     return arm - along * t;
 }
 
@@ -83,17 +107,16 @@ void nearestOfBoundaries(const BoxedRegion& a, const BoxedRegion& b, PlanContact
     const CVec2<double> cornerB = cornerNearestTo(a.box, b);
     const CVec2<double> gap = cornerA - cornerB;
     best.keepNearer(dot(gap, gap), cornerA, cornerB);
-    for (const BoxedEdge& edgeA : a.edges) {
-        if (squaredDistance(edgeA.box, b.box) >= best.squared)
-            continue;
-        for (const BoxedEdge& edgeB : b.edges) {
-            const double bound = squaredDistance(edgeA.box, edgeB.box);
+    const NearEdges nearB(b, a.box, best.squared);
+    for (const BoxedEdge* edgeA : NearEdges(a, b.box, best.squared)) {
+        for (const BoxedEdge* edgeB : nearB) {
+            const double bound = squaredDistance(edgeA->box, edgeB->box);
             if (bound >= best.squared)
                 continue;
-            if (edgeA.arc || edgeB.arc || bound == 0.0)
-                nearestOfEdges(*edgeA.edge, *edgeB.edge, best);
+            if (edgeA->arc || edgeB->arc || bound == 0.0)
+                nearestOfEdges(*edgeA->edge, *edgeB->edge, best);
             else
-                nearestOfStarts(*edgeA.edge, *edgeB.edge, best);
+                nearestOfStarts(*edgeA->edge, *edgeB->edge, best);
         }
     }
 }
