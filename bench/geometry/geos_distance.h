@@ -3,4 +3,4 @@
 #include "random_outlines.h"
 
 /// The plan distance of two outlines by GEOS, arcs stroked to within 0.1 mm, building included.
-double referenceDistance(const outlines::Loop& a, const outlines::Loop& b);
+double geosDistance(const outlines::Loop& a, const outlines::Loop& b);

@@ -1,4 +1,4 @@
-#include "reference_distance.h"
+#include "geos_distance.h"
 
 #include "geometry/Edge2d.h"
 
@@ -40,7 +40,7 @@ GEOSGeometry* region(GEOSContextHandle_t context, const outlines::Loop& loop) {
 
 } // namespace
 
-double referenceDistance(const outlines::Loop& a, const outlines::Loop& b) {
+double geosDistance(const outlines::Loop& a, const outlines::Loop& b) {
     static const GEOSContextHandle_t context = GEOS_init_r();
     GEOSGeometry* const regionA = region(context, a);
     GEOSGeometry* const regionB = region(context, b);
