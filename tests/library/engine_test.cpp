@@ -190,5 +190,8 @@ TEST(Evaluators, CarryTheirLabelsAndKeepForeignMaps) {
     for (NUXRule* evaluator : std::initializer_list<NUXRule*>{&self, &distant, &position, &without}) {
         EXPECT_TRUE(evaluator->removeWithoutRules(nullptr, nullptr, rules));
         EXPECT_EQ(rules.size(), 1);
+        for (const char* name : {"Self_RoadLoop", "Distant_X", "Position_FireRoad", "Without_X"})
+            EXPECT_EQ(evaluator->check(nullptr, rule("", name)).size(), evaluator == &without ? 1u : 0u)
+                << name;
     }
 }
