@@ -42,7 +42,10 @@ void pointToFacingArc(Side side, const CVec2<double>& local, const ArcFrame& fra
         keepNearer(side, gap * gap, frame.toWorld(local), frame.toWorld(frame.footOf(local)), best);
 }
 
-void pointToArc(Side side, const CVec2<double>& point, const Edge2d& arc, const ArcFrame& frame,
+/// Which ends of the edges count.
+enum class Ends { Both, Starts };
+
+void pointToArc(Side side, const CVec2<double>& point, const Edge2d& arc, const ArcFrame& frame, Ends ends,
                 PlanContact& best) {
     const CVec2<double> local = frame.toLocal(point);
     if (frame.facesArc(local)) {
@@ -50,10 +53,11 @@ void pointToArc(Side side, const CVec2<double>& point, const Edge2d& arc, const 
         return;
     }
     pointToPoint(side, point, arc.start, best);
-    pointToPoint(side, point, arc.end, best);
+    if (ends == Ends::Both)
+        pointToPoint(side, point, arc.end, best);
 }
 
-void segmentToSegment(const Edge2d& a, const Edge2d& b, PlanContact& best) {
+void segmentToSegment(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
     const CVec2<double> alongA = a.end - a.start;
     const CVec2<double> alongB = b.end - b.start;
     const CVec2<double> between = b.start - a.start;
@@ -67,8 +71,10 @@ void segmentToSegment(const Edge2d& a, const Edge2d& b, PlanContact& best) {
         return;
     }
     pointToSegment(Side::A, a.start, b, best);
-    pointToSegment(Side::A, a.end, b, best);
     pointToSegment(Side::B, b.start, a, best);
+    if (ends == Ends::Starts)
+        return;
+    pointToSegment(Side::A, a.end, b, best);
     pointToSegment(Side::B, b.end, a, best);
 }
 
@@ -92,13 +98,15 @@ struct LineOnCircle {
     int count = 0;
 };
 
-void segmentToArc(Side side, const Edge2d& segment, const Edge2d& arc, PlanContact& best) {
+void segmentToArc(Side side, const Edge2d& segment, const Edge2d& arc, Ends ends, PlanContact& best) {
     const ArcFrame frame(arc);
-    pointToArc(side, segment.start, arc, frame, best);
-    pointToArc(side, segment.end, arc, frame, best);
     const Side arcSide = side == Side::A ? Side::B : Side::A;
+    pointToArc(side, segment.start, arc, frame, ends, best);
     pointToSegment(arcSide, arc.start, segment, best);
-    pointToSegment(arcSide, arc.end, segment, best);
+    if (ends == Ends::Both) {
+        pointToArc(side, segment.end, arc, frame, ends, best);
+        pointToSegment(arcSide, arc.end, segment, best);
+    }
 
     const CVec2<double> chord = segment.end - segment.start;
     const double size = length(chord);
@@ -115,13 +123,15 @@ void segmentToArc(Side side, const Edge2d& segment, const Edge2d& arc, PlanConta
     }
 }
 
-void arcToArc(const Edge2d& a, const Edge2d& b, PlanContact& best) {
+void arcToArc(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
     const ArcFrame frameA(a);
     const ArcFrame frameB(b);
-    pointToArc(Side::A, a.start, b, frameB, best);
-    pointToArc(Side::A, a.end, b, frameB, best);
-    pointToArc(Side::B, b.start, a, frameA, best);
-    pointToArc(Side::B, b.end, a, frameA, best);
+    pointToArc(Side::A, a.start, b, frameB, ends, best);
+    pointToArc(Side::B, b.start, a, frameA, ends, best);
+    if (ends == Ends::Both) {
+        pointToArc(Side::A, a.end, b, frameB, ends, best);
+        pointToArc(Side::B, b.end, a, frameA, ends, best);
+    }
 
     const auto consider = [&](const CVec2<double>& localToA) {
         if (!frameA.facesArc(localToA))
@@ -152,26 +162,34 @@ void arcToArc(const Edge2d& a, const Edge2d& b, PlanContact& best) {
         consider(start + direction * line.parameters[i]);
 }
 
+void nearest(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
+    const bool arcA = a.isArc();
+    const bool arcB = b.isArc();
+    if (arcA && arcB)
+        arcToArc(a, b, ends, best);
+    else if (arcA)
+        segmentToArc(Side::B, b, a, ends, best);
+    else if (arcB)
+        segmentToArc(Side::A, a, b, ends, best);
+    else
+        segmentToSegment(a, b, ends, best);
+}
+
 } // namespace
 
 void nearestOfPointAndEdge(const CVec2<double>& a, const Edge2d& b, PlanContact& best) {
     if (b.isArc())
-        pointToArc(Side::A, a, b, ArcFrame(b), best);
+        pointToArc(Side::A, a, b, ArcFrame(b), Ends::Both, best);
     else
         pointToSegment(Side::A, a, b, best);
 }
 
 void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best) {
-    const bool arcA = a.isArc();
-    const bool arcB = b.isArc();
-    if (arcA && arcB)
-        arcToArc(a, b, best);
-    else if (arcA)
-        segmentToArc(Side::B, b, a, best);
-    else if (arcB)
-        segmentToArc(Side::A, a, b, best);
-    else
-        segmentToSegment(a, b, best);
+    nearest(a, b, Ends::Both, best);
+}
+
+void nearestOfOutlineEdges(const Edge2d& a, const Edge2d& b, PlanContact& best) {
+    nearest(a, b, Ends::Starts, best);
 }
 
 } // namespace hrx

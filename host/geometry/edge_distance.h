@@ -27,5 +27,8 @@ struct PlanContact {
 
 void nearestOfPointAndEdge(const CVec2<double>& a, const Edge2d& b, PlanContact& best);
 void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best);
+/// The same without the end points, which are start points of the next edges where outlines are measured edge
+/// by edge.
+void nearestOfOutlineEdges(const Edge2d& a, const Edge2d& b, PlanContact& best);
 
 } // namespace hrx

@@ -114,7 +114,7 @@ void nearestOfBoundaries(const BoxedRegion& a, const BoxedRegion& b, PlanContact
             if (bound >= best.squared)
                 continue;
             if (edgeA->arc || edgeB->arc || bound == 0.0)
-                nearestOfEdges(*edgeA->edge, *edgeB->edge, best);
+                nearestOfOutlineEdges(*edgeA->edge, *edgeB->edge, best);
             else
                 nearestOfStarts(*edgeA->edge, *edgeB->edge, best);
         }
