@@ -13,7 +13,7 @@ QByteArray contentOf(const QString& fileName) {
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() || file.size() > kLargestRuleFile || !file.open(QIODevice::ReadOnly))
         return QByteArray();
-    return file.read(kLargestRuleFile);
+    return file.read(file.size()); // the room is taken before the first byte, so no more than needed
 }
 
 } // namespace
