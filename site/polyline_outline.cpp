@@ -44,8 +44,8 @@ public:
         });
         if (samePlace == last)
             m_squares.emplace(square, point);
-        else if (!(samePlace->second.bulge <= point.bulge))
-            samePlace->second.bulge = point.bulge;
+        else
+            samePlace->second.bulge = point.bulge; // the lesser, or it were a repeat
     }
 
 private:

@@ -8,6 +8,7 @@
 #include "placement.h"
 #include "rules/rule_fields.h"
 #include "rules/rule_file.h"
+#include "site/CheckObserver.h"
 #include "site_file/site_reader.h"
 
 #include <QDir>
@@ -19,6 +20,46 @@
 namespace {
 
 using Records = std::vector<NuxStandardCheckRule>;
+
+/// What a report that explains results is told while a rule is checked.
+class Watcher : public CheckObserver {
+public:
+    Watcher() { setCheckObserver(this); }
+    ~Watcher() override { setCheckObserver(nullptr); }
+    Watcher(const Watcher&) = delete;
+
+    void beginRule(const NuxStandardCheckRule&) override {}
+    void endRule() override {}
+    void found(const UdDbObject& element) override { m_found.insert(element.Handle().GetID()); }
+    void valued(const UdDbObject& element, double value, double limit) override {
+        if (value != limit)
+            m_valued.insert(element.Handle().GetID());
+    }
+    void measured(double distance, const hrx::CVec3<double>&, const hrx::CVec3<double>&) override {
+        m_measured = distance;
+    }
+    void judgedPair(const UdDbObject& element, const UdDbObject& other, double distance) override {
+        m_pairs.insert({element.Handle().GetID(), other.Handle().GetID()});
+        EXPECT_EQ(distance, m_measured) << "0 where nothing was measured";
+        m_measured = 0.0;
+    }
+
+    void expectToldOf(const NuxStandardCheckRule& record) const {
+        const bool isOfDoors = record.name == "Position_DoorToDoor"; // it finds walls and names their doors
+        EXPECT_EQ(m_found.count(record.handle), record.handle != 0 && !isOfDoors ? 1u : 0u);
+        const bool hasValue = record.name.endsWith("Area") || record.name.endsWith("Width");
+        EXPECT_EQ(m_valued.count(record.handle), hasValue ? 1u : 0u);
+        const bool hasPairs = record.type == "distant" || record.name.contains("Box");
+        for (const qint64 related : record.relatedHandles)
+            EXPECT_EQ(m_pairs.count({record.handle, related}), hasPairs ? 1u : 0u) << related;
+    }
+
+private:
+    std::set<qint64> m_found;
+    std::set<qint64> m_valued;
+    std::set<std::pair<qint64, qint64>> m_pairs;
+    double m_measured = 0.0;
+};
 
 Records check(const Json& siteJson, const NuxStandardCheckRule& rule) {
     static NUXElementTypeRule self;
@@ -65,11 +106,13 @@ public:
 
 private:
     void judge(const Json& site, const char* placement) const {
+        const Watcher watcher;
         const Records records = check(site, m_case.rule);
         EXPECT_EQ(foundText(records), expectedText(m_case)) << placement;
         for (const NuxStandardCheckRule& record : records) {
             EXPECT_EQ(ruleTexts(record), ruleTexts(m_case.rule));
             EXPECT_FALSE(record.flag);
+            watcher.expectToldOf(record);
         }
     }
 

@@ -1,6 +1,7 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/distant/DistanceCondition.h"
 #include "evaluators/distant/pair_distance.h"
+#include "site/min_body_distance.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,7 @@ TEST(DistanceCondition, TellsNoDistanceFromTheFarthest) {
 
 // Rules between prefab houses are spaced and never measure a pair.
 TEST(PairDistance, OfTwoPrefabHousesIsThatOfTheFirstFromTheOrigin) {
+    const NUXElementObject claimant(L"NUX_ELEMENT_TYPE_PREFABHOUSE");
     NUXPrefabHouseParams params;
     params.rectLength = 4000.0;
     params.rectDepth = 6000.0;
@@ -28,6 +30,7 @@ TEST(PairDistance, OfTwoPrefabHousesIsThatOfTheFirstFromTheOrigin) {
         const NUXPrefabHouseObject house(params);
         const NUXPrefabHouseObject other{NUXPrefabHouseParams()};
         const std::wstring type = house.getElementType();
+        EXPECT_EQ(pairDistance({&claimant, type}, {&house, type}, {}), kNoBodyDistance);
         const double gallery = side > 0.0 ? 500.0 : 0.0; // south of the house
         EXPECT_NEAR(pairDistance({&house, type}, {&other, type}, {}), std::hypot(18000.0, 7000.0 - gallery),
                     1e-4);
