@@ -1,5 +1,5 @@
-# The check library: a shared library that exports its five public types, and a static one of the same sources in which
-# tests and the checker see everything.
+# The check library: a shared library that exports its five public types, and one of the same sources, static unless
+# asked otherwise, in which tests and the checker see everything.
 include(GenerateExportHeader)
 
 set(library_sources
@@ -49,7 +49,7 @@ list(TRANSFORM library_sources PREPEND ${library_root}/)
 
 add_library(FireStandardCheck SHARED ${library_sources})
 add_library(FireStandardCheck::FireStandardCheck ALIAS FireStandardCheck)
-add_library(FireStandardCheckWhiteBox STATIC ${library_sources})
+add_library(FireStandardCheckWhiteBox ${FIRECHECK_WHITE_BOX_TYPE} ${library_sources})
 
 generate_export_header(FireStandardCheck BASE_NAME firestandardcheck
                        EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/firestandardcheck_export.h)
