@@ -58,28 +58,52 @@ std::string objection(const std::string& parserMessage) {
     return reason.substr(0, token) + tail;
 }
 
-/// Watches what the parser meets for what JSON as such allows.
-class Guard {
+/// Watches what the parser meets for what JSON as such allows. A pass of its own: a callback of the parser
+/// that builds values would make it look at all earlier siblings of every object.
+class Guard : public nlohmann::json_sax<Json> {
 public:
-    bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
-        if (event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start) {
-            if (depth >= kDeepestNesting)
-                throw InputError("nested deeper than " + std::to_string(kDeepestNesting) + " levels");
-            if (event == Json::parse_event_t::object_start)
-                m_keys.emplace_back();
-        } else if (event == Json::parse_event_t::object_end) {
-            m_keys.pop_back();
-        } else if (event == Json::parse_event_t::key) {
-            const auto& key = parsed.get_ref<const std::string&>();
-            if (!m_keys.back().insert(key).second)
-                throw InputError("the key \"" + key + "\" occurs twice in its object");
-            if (m_keys.back().size() > kMostKeys)
-                throw InputError("an object with more than " + std::to_string(kMostKeys) + " keys");
-        }
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t&) override { return true; }
+    bool string(string_t&) override { return true; }
+    bool binary(binary_t&) override { return true; }
+    bool start_object(std::size_t) override {
+        m_keys.emplace_back();
+        return descend();
+    }
+    bool key(string_t& key) override {
+        if (!m_keys.back().insert(key).second)
+            throw InputError("the key \"" + key + "\" occurs twice in its object");
+        if (m_keys.back().size() > kMostKeys)
+            throw InputError("an object with more than " + std::to_string(kMostKeys) + " keys");
         return true;
+    }
+    bool end_object() override {
+        m_keys.pop_back();
+        return ascend();
+    }
+    bool start_array(std::size_t) override { return descend(); }
+    bool end_array() override { return ascend(); }
+    bool parse_error(std::size_t, const std::string&, const Json::exception& error) override {
+        if (dynamic_cast<const Json::out_of_range*>(&error))
+            throw InputError("expected a finite number");
+        throw InputError("expected JSON in UTF-8: " + objection(error.what()));
     }
 
 private:
+    bool descend() {
+        if (++m_depth > kDeepestNesting)
+            throw InputError("nested deeper than " + std::to_string(kDeepestNesting) + " levels");
+        return true;
+    }
+    bool ascend() {
+        --m_depth;
+        return true;
+    }
+
+    int m_depth = 0;
     std::vector<std::unordered_set<std::string>> m_keys;
 };
 
@@ -95,14 +119,17 @@ Json parseJson(const std::string& text, const std::string& name) {
         return InputError(name + ":" + lineAndColumn(text, offset) + ": " + reason);
     };
 
+    // The parser takes it for the end.
+    const auto nul = text.find('\0');
+    if (nul != std::string::npos) {
+        position += nul + 1;
+        throw fail("expected JSON in UTF-8: found a NUL byte, as texts in UTF-16 have");
+    }
     Guard guard;
     try {
-        return Json::parse(CountingIterator(position), CountingIterator(end), std::ref(guard));
-    } catch (const Json::parse_error& error) {
-        throw fail("expected JSON in UTF-8: " + objection(error.what()));
-    } catch (const Json::out_of_range&) {
-        throw fail("expected a finite number");
+        Json::sax_parse(CountingIterator(position), CountingIterator(end), &guard);
     } catch (const InputError& error) {
         throw fail(error.what());
     }
+    return Json::parse(text);
 }
