@@ -3,8 +3,9 @@
 #include "InputError.h"
 #include "site_file/JsonPlace.h"
 #include "site_file/parse_json.h"
+#include "text/input_text.h"
 
-#include <QFile>
+#include <QString>
 
 #include <algorithm>
 #include <map>
@@ -19,13 +20,6 @@ const std::string kReason = "reason";
 
 /// Tells violations apart as far as acceptances do.
 using Identity = std::pair<std::string, std::vector<long long>>;
-
-std::string readFile(const std::string& fileName) {
-    QFile file(QString::fromStdString(fileName));
-    if (!file.open(QIODevice::ReadOnly))
-        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
-    return file.readAll().toStdString();
-}
 
 /// The object's value of that key. Refuses an object that has any key but the known ones.
 const Json& member(const Json& object, const std::string& key, const std::set<std::string>& known,
@@ -96,7 +90,7 @@ std::string described(const Acceptance& acceptance) {
 } // namespace
 
 std::vector<Acceptance> loadAcceptances(const std::string& fileName) {
-    const Json value = parseJson(readFile(fileName), fileName);
+    const Json value = parseJson(inputText(fileName, "a file of accepted violations"), fileName);
     try {
         const JsonPlace top;
         const Json& entries = member(value, kAccepted, {kAccepted}, top);

@@ -4,10 +4,10 @@
 #include "site_file/parse_json.h"
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
+#include "text/input_text.h"
 #include "text/nearest_name.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QString>
 
 namespace {
 
@@ -115,22 +115,6 @@ private:
     std::map<std::pair<const SiteClass*, ObjectRole>, ClassReader> m_readers;
 };
 
-std::string readFile(const std::string& fileName) {
-    constexpr qint64 largestSite = 256 * 1024 * 1024;
-    const QString name = QString::fromStdString(fileName);
-    if (QFileInfo(name).isDir())
-        throw InputError(fileName + ": expected a site file, found a directory");
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
-    const QByteArray bytes = file.read(largestSite + 1);
-    if (file.error() != QFileDevice::NoError)
-        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
-    if (bytes.size() > largestSite)
-        throw InputError(fileName + ": expected a site file, found more than 256 MiB");
-    return bytes.toStdString();
-}
-
 } // namespace
 
 Site readSite(const Json& value) {
@@ -147,5 +131,5 @@ Site parseSite(const std::string& text, const std::string& name) {
 }
 
 Site loadSite(const std::string& fileName) {
-    return parseSite(readFile(fileName), fileName);
+    return parseSite(inputText(fileName, "a site file"), fileName);
 }

@@ -1,0 +1,57 @@
+#include "text/input_text.h"
+
+#include "InputError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr qint64 kLargestInput = 256 * 1024 * 1024;
+constexpr int kPatience = 3000; // ms in which a named pipe has to find its writer
+
+[[noreturn]] void failToRead(const std::string& fileName, const QString& reason) {
+    throw InputError(fileName + ": cannot be read: " + reason.toStdString());
+}
+
+/// Opens the file without the wait for a writer that a named pipe asks for, which might be endless. Reading
+/// then waits for a writer that is there, and ends at once without one.
+void openPatiently(QFile& file, const std::string& fileName) {
+    const int handle = open(QFile::encodeName(QString::fromStdString(fileName)).constData(),
+                            O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0)
+        failToRead(fileName, qt_error_string(errno));
+    pollfd readable{handle, POLLIN, 0};
+    poll(&readable, 1, kPatience);
+    fcntl(handle, F_SETFL, 0);
+    if (!file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        failToRead(fileName, file.errorString());
+}
+
+bool isPipe(int handle) {
+    struct stat status {};
+    return fstat(handle, &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+} // namespace
+
+std::string inputText(const std::string& fileName, const std::string& what) {
+    const std::string refusal = fileName + ": expected " + what + ", found ";
+    if (QFileInfo(QString::fromStdString(fileName)).isDir())
+        throw InputError(refusal + "a directory");
+    QFile file;
+    openPatiently(file, fileName);
+    const QByteArray bytes = file.read(kLargestInput + 1);
+    if (file.error() != QFileDevice::NoError)
+        failToRead(fileName, file.errorString());
+    if (bytes.size() > kLargestInput)
+        throw InputError(refusal + "more than 256 MiB");
+    if (bytes.isEmpty() && isPipe(file.handle()))
+        throw InputError(refusal + "a pipe that nothing was written to");
+    return bytes.toStdString();
+}
