@@ -10,17 +10,25 @@
 
 namespace {
 
+/// Of every number, and of coordinates in mm more than twice around the Earth. Geometry stays exact and
+/// solids measurable up to here.
+constexpr double kGreatest = 1e11;
+
 double readNumber(const Json& value, const JsonPlace& place) {
     if (!value.is_number())
         refuseType(value, place, "a number");
     const double result = value.get<double>();
-    if (!std::isfinite(result))
-        refuse(place, "expected a finite number");
+    if (!(std::abs(result) <= kGreatest))
+        refuse(place, "expected a number from -1e11 to 1e11");
     return result;
 }
 
+Json numberSchema() {
+    return {{"type", "number"}, {"minimum", -kGreatest}, {"maximum", kGreatest}};
+}
+
 Json tupleSchema(std::size_t fewest, std::size_t most) {
-    return {{"type", "array"}, {"items", {{"type", "number"}}}, {"minItems", fewest}, {"maxItems", most}};
+    return {{"type", "array"}, {"items", numberSchema()}, {"minItems", fewest}, {"maxItems", most}};
 }
 
 /// The numbers of a list of `fewest` to `most` numbers; missing ones are 0.
@@ -81,11 +89,12 @@ Codec<bool> flag() {
 }
 
 Codec<double> number() {
-    return {{{"type", "number"}}, readNumber};
+    return {numberSchema(), readNumber};
 }
 
 Codec<double> extent() {
-    return {{{"type", "number"}, {"minimum", 0}}, [](const Json& value, const JsonPlace& place) {
+    return {{{"type", "number"}, {"minimum", 0}, {"maximum", kGreatest}},
+            [](const Json& value, const JsonPlace& place) {
                 const double result = readNumber(value, place);
                 if (result < 0.0)
                     refuse(place, "expected a number that is not negative");
@@ -126,7 +135,7 @@ Codec<std::vector<hrx::PolyPt2d>> polyline() {
 }
 
 Codec<std::vector<hrx::CVec2<double>>> axisPositions() {
-    const Json position = {{"anyOf", {{{"type", "number"}}, tupleSchema(2, 2)}}};
+    const Json position = {{"anyOf", {numberSchema(), tupleSchema(2, 2)}}};
     return {listSchema(position), [](const Json& value, const JsonPlace& place) {
                 return readList<hrx::CVec2<double>>(value, place, [](const Json& item, const JsonPlace& at) {
                     if (item.is_number())

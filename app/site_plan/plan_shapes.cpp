@@ -14,12 +14,14 @@
 #include "geometry/CArc2d.h"
 #include "geometry/CBody.h"
 #include "geometry/CPolygon.h"
+#include "geometry/finite.h"
 #include "site/element_type_identifiers.h"
 #include "site/house_footprint.h"
 #include "site/polyline_outline.h"
 #include "site/rectangle_outline.h"
 #include "site/yard_or_3ds_body.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -178,12 +180,14 @@ PlanKind appendElement(const UdDbObject& object, Paths& paths) {
     return PlanKind::Other;
 }
 
-bool isFinite(const PlanPath& path) {
-    for (const hrx::Edge2d& edge : path.edges)
-        for (const double number : {edge.start.x, edge.start.y, edge.end.x, edge.end.y, edge.bulge})
-            if (!std::isfinite(number))
-                return false;
-    return true;
+/// An arc through points that nearly lie in line may pass far off the site.
+bool isWithinReach(const hrx::Edge2d& edge) {
+    const hrx::CBox2d box = edge.box();
+    return std::isfinite(edge.bulge) && hrx::isWithinReach(box.low) && hrx::isWithinReach(box.high);
+}
+
+bool canBeDrawn(const PlanPath& path) {
+    return !path.edges.empty() && std::all_of(path.edges.begin(), path.edges.end(), isWithinReach);
 }
 
 } // namespace
@@ -196,7 +200,7 @@ PlanShape planShapeOf(const UdDbObject& object) {
     if (paths.empty())
         appendExtents(object, paths);
     for (PlanPath& path : paths) {
-        if (path.edges.empty() || !isFinite(path))
+        if (!canBeDrawn(path))
             continue;
         for (const hrx::Edge2d& edge : path.edges)
             shape.box.add(edge.box());

@@ -77,8 +77,9 @@ Json siteOf(Json object) {
 }
 
 std::vector<Json> probes() {
-    Json list = Json::parse(R"([null, true, 0, -1, 0.5, 3, 3000000000, 1e19, "none", "bothEnds",
-        [], [1], [1, 2], [1, 2, 3], [1, 2, 3, 4], [[1, 2]], [[1, 2, 3]], [["1", 2]], [{}], {}, {"low": [1, 2, 3]},
+    Json list =
+        Json::parse(R"([null, true, 0, -1, 0.5, 3, 3000000000, 100000000000, -100000000001, 1e19, "none", "bothEnds",
+        [], [1], [1, 2], [1, 2, 3], [1, 2, 3, 4], [100000000001, 0], [[1, 2]], [[1, 2, 3]], [["1", 2]], [{}], {}, {"low": [1, 2, 3]},
         {"low": [1, 2, 3], "high": [4, 5, 6]}, {"low": [1, 2, 3], "high": [4, 5, 6], "mid": [7, 8, 9]},
         {"center": [1, 2], "radius": 3}, {"center": [1, 2], "radius": -3}, {"center": [1, 2], "radius": 3, "x": 4},
         [{"distance": 1, "door": null}], [{"distance": 1}], [{"distance": 1, "door": "1"}],
