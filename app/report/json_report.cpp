@@ -1,8 +1,6 @@
 #include "report/ReportWriter.h"
 #include "rules/rule_fields.h"
 
-#include <QStringList>
-
 namespace {
 
 std::string decimal(long long handle) {
@@ -19,15 +17,11 @@ Json recordJson(const NuxStandardCheckRule& record) {
     return json;
 }
 
-Json resultsJson(const SiteReport& report) {
-    Json results = Json::array();
-    for (const auto& [key, filed] : report.results) {
-        Json records = Json::array();
-        for (const NuxStandardCheckRule& record : filed)
-            records.push_back(recordJson(record));
-        results.push_back({{"key", key.toStdString()}, {"records", std::move(records)}});
-    }
-    return results;
+Json filedJson(const QString& key, const std::vector<NuxStandardCheckRule>& filed) {
+    Json records = Json::array();
+    for (const NuxStandardCheckRule& record : filed)
+        records.push_back(recordJson(record));
+    return {{"key", key.toStdString()}, {"records", std::move(records)}};
 }
 
 Json checkStateJson(const SiteReport& report) {
@@ -79,26 +73,22 @@ Json measureJson(const Measure& measure) {
     return json;
 }
 
-Json findingsJson(const SiteReport& report) {
-    Json findings = Json::array();
-    for (const Finding& finding : report.findings) {
-        const NuxStandardCheckRule& record = report.record(finding);
-        Json related = Json::array();
-        for (const qint64 handle : record.relatedHandles)
-            related.push_back(decimal(handle));
-        Json measures = Json::array();
-        for (const Measure& measure : finding.measures)
-            measures.push_back(measureJson(measure));
-        findings.push_back({{"rule", record.name.toStdString()},
-                            {"key", report.results[finding.entry].first.toStdString()},
-                            {"index", finding.index},
-                            {"handle", decimal(record.handle)},
-                            {"relatedHandles", std::move(related)},
-                            {"sentence", finding.sentence},
-                            {"measures", std::move(measures)},
-                            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()}});
-    }
-    return findings;
+Json findingJson(const SiteReport& report, const Finding& finding) {
+    const NuxStandardCheckRule& record = report.record(finding);
+    Json related = Json::array();
+    for (const qint64 handle : record.relatedHandles)
+        related.push_back(decimal(handle));
+    Json measures = Json::array();
+    for (const Measure& measure : finding.measures)
+        measures.push_back(measureJson(measure));
+    return {{"rule", record.name.toStdString()},
+            {"key", report.results[finding.entry].first.toStdString()},
+            {"index", finding.index},
+            {"handle", decimal(record.handle)},
+            {"relatedHandles", std::move(related)},
+            {"sentence", finding.sentence},
+            {"measures", std::move(measures)},
+            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()}};
 }
 
 const char* verdictName(JudgedRule::Verdict verdict) {
@@ -134,22 +124,39 @@ Json notJudgedJson(const SiteReport& report) {
     return notJudged;
 }
 
-Json siteJson(const SiteReport& report) {
+/// What stands before the records and what stands behind them.
+Json headJson(const SiteReport& report) {
     return {{"file", report.fileName},
             {"name", report.siteName},
             {"objects", report.objectCount},
             {"violations", report.violationCount()},
             {"accepted", report.acceptedCount()},
-            {"countsByRule", countsJson(report)},
-            {"findings", findingsJson(report)},
-            {"results", resultsJson(report)},
-            {"checkState", checkStateJson(report)},
+            {"countsByRule", countsJson(report)}};
+}
+
+Json tailJson(const SiteReport& report) {
+    return {{"checkState", checkStateJson(report)},
             {"elements", elementsJson(report)},
             {"judged", judgedJson(report)},
             {"notJudged", notJudgedJson(report)},
             {"staleAcceptances", report.staleAcceptances}};
 }
 
+std::string lineAt(int indent) {
+    return "\n" + std::string(static_cast<std::size_t>(indent), ' ');
+}
+
+/// As it stands in the report: in lines, of which all but the first are indented.
+std::string textOf(const Json& json, int indent) {
+    // File names may be no UTF-8.
+    const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
+    std::string indented;
+    for (const char character : text)
+        indented += character == '\n' ? lineAt(indent) : std::string(1, character);
+    return indented;
+}
+
+/// Writes records one by one, because each may name every element of a large site.
 class JsonReportWriter : public ReportWriter {
 public:
     using ReportWriter::ReportWriter;
@@ -157,17 +164,42 @@ public:
     void begin() override { write("{\n  \"sites\": ["); }
 
     void add(const SiteReport& report) override {
-        // File names may be no UTF-8.
-        const std::string json = siteJson(report).dump(2, ' ', false, Json::error_handler_t::replace);
-        QString indented = QString::fromStdString(json);
-        indented.replace('\n', "\n    ");
-        write((m_isFirst ? "\n    " : ",\n    ") + indented.toStdString());
+        write((m_isFirst ? "" : ",") + lineAt(kSiteIndent) + "{");
         m_isFirst = false;
+        writeMembers(headJson(report), "");
+        writeListStart("findings");
+        for (const Finding& finding : report.findings)
+            writeItem(findingJson(report, finding), &finding == &report.findings.front());
+        writeListEnd(report.findings.empty());
+        writeListStart("results");
+        for (const auto& entry : report.results)
+            writeItem(filedJson(entry.first, entry.second), &entry == &report.results.front());
+        writeListEnd(report.results.empty());
+        writeMembers(tailJson(report), ",");
+        write(lineAt(kSiteIndent) + "}");
     }
 
     void end() override { write(m_isFirst ? "]\n}\n" : "\n  ]\n}\n"); }
 
 private:
+    static constexpr int kSiteIndent = 4;
+    static constexpr int kMemberIndent = 6;
+    static constexpr int kItemIndent = 8;
+
+    void writeMembers(const Json& members, const char* separator) const {
+        for (const auto& [key, value] : members.items()) {
+            write(separator + lineAt(kMemberIndent) + "\"" + key + "\": " + textOf(value, kMemberIndent));
+            separator = ",";
+        }
+    }
+    void writeListStart(const std::string& key) const {
+        write("," + lineAt(kMemberIndent) + "\"" + key + "\": [");
+    }
+    void writeItem(const Json& item, bool isFirst) const {
+        write((isFirst ? "" : ",") + lineAt(kItemIndent) + textOf(item, kItemIndent));
+    }
+    void writeListEnd(bool isEmpty) const { write(isEmpty ? "]" : lineAt(kMemberIndent) + "]"); }
+
     bool m_isFirst = true;
 };
 

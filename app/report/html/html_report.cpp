@@ -32,7 +32,9 @@ public:
         write(head.toStdString());
     }
 
-    void add(const SiteReport& report) override { write(siteSection(report, ++m_sites).toStdString()); }
+    void add(const SiteReport& report) override {
+        writeSiteSection(report, ++m_sites, [this](const std::string& piece) { write(piece); });
+    }
 
     void end() override { write(("<script>" + m_script + "</script>\n</body>\n</html>\n").toStdString()); }
 

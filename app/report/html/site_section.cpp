@@ -21,6 +21,11 @@ QString element(const char* name, const QString& attributes, const QString& cont
     return QStringLiteral("<") + name + attributes + ">" + content + "</" + name + ">\n";
 }
 
+/// The start of an element whose content follows piece by piece.
+QString opened(const char* name, const QString& attributes) {
+    return QStringLiteral("<") + name + attributes + ">\n";
+}
+
 QString ofClass(const QString& classes) {
     return " class=\"" + classes + "\"";
 }
@@ -35,13 +40,15 @@ QString asSentence(const std::string& text) {
 
 class SiteSection {
 public:
-    SiteSection(const SiteReport& report, std::size_t number)
-        : m_report(report), m_id("s" + QString::number(number)), m_ids{m_id + "-"} {}
+    SiteSection(const SiteReport& report, std::size_t number, const ReportWriter::Sink& sink)
+        : m_report(report), m_sink(sink), m_id("s" + QString::number(number)), m_ids{m_id + "-"} {}
 
-    QString text() const {
-        return "<section class=\"site\" id=\"" + m_id + "\">\n" + header() +
-               element("div", ofClass("panes"), "\n" + planPane() + listPane()) +
-               element("div", ofClass("tables"), "\n" + judgedTable() + notJudgedTable()) + "</section>\n";
+    void write() const {
+        put("<section class=\"site\" id=\"" + m_id + "\">\n" + header() + opened("div", ofClass("panes")) +
+            planPane());
+        writeListPane();
+        put("</div>\n" + element("div", ofClass("tables"), "\n" + judgedTable() + notJudgedTable()) +
+            "</section>\n");
     }
 
 private:
@@ -78,13 +85,13 @@ private:
                         "Houses are drawn with their stairs."));
     }
 
-    QString listPane() const {
-        QString text =
-            m_report.findings.empty() ? element("p", ofClass("rule"), "Nothing breaks a rule.") : filters();
+    void writeListPane() const {
+        put(opened("div", ofClass("list-pane")));
+        put(m_report.findings.empty() ? element("p", ofClass("rule"), "Nothing breaks a rule.") : filters());
         std::size_t number = 0;
         for (std::size_t rule = 0; rule < m_report.counts.size(); ++rule)
-            text += ruleGroup(rule, number);
-        return element("div", ofClass("list-pane"), "\n" + text + staleList());
+            writeRuleGroup(rule, number);
+        put(staleList() + "</div>\n");
     }
 
     QString filters() const {
@@ -120,26 +127,25 @@ private:
         return handles;
     }
 
-    QString ruleGroup(std::size_t rule, std::size_t& number) const {
+    void writeRuleGroup(std::size_t rule, std::size_t& number) const {
         const RuleCount& count = m_report.counts[rule];
         const NuxStandardCheckRule& first = m_report.record(m_report.findings[number]);
         const QString title = first.ruleDescription.isEmpty() ? first.name : first.ruleDescription;
         QString source = escaped(first.name);
         if (!first.standard.isEmpty())
             source += " · " + escaped(first.standard);
-        QString findings;
+        put(opened("section", ofClass("rule " + colourClass(rule))) +
+            element("h2", {},
+                    "<span>" + escaped(title) + "</span>" + "<span class=\"count\">" +
+                        QString::number(count.violations) + "</span>") +
+            element("p", ofClass("source"), source) +
+            (first.ruleDetailDescription.isEmpty()
+                 ? QString()
+                 : element("p", ofClass("detail"), escaped(first.ruleDetailDescription))) +
+            opened("ol", ofClass("findings")));
         for (std::size_t i = 0; i < count.violations; ++i)
-            findings += findingItem(rule, ++number);
-        return element("section", ofClass("rule " + colourClass(rule)),
-                       "\n" +
-                           element("h2", {},
-                                   "<span>" + escaped(title) + "</span>" + "<span class=\"count\">" +
-                                       QString::number(count.violations) + "</span>") +
-                           element("p", ofClass("source"), source) +
-                           (first.ruleDetailDescription.isEmpty()
-                                ? QString()
-                                : element("p", ofClass("detail"), escaped(first.ruleDetailDescription))) +
-                           element("ol", ofClass("findings"), "\n" + findings));
+            put(findingItem(rule, ++number));
+        put("</ol>\n</section>\n");
     }
 
     QString findingItem(std::size_t rule, std::size_t number) const {
@@ -241,13 +247,16 @@ private:
                            element("div", ofClass("scroll"), "<table><tbody>\n" + rows + "</tbody></table>"));
     }
 
+    void put(const QString& piece) const { m_sink(piece.toStdString()); }
+
     const SiteReport& m_report;
+    const ReportWriter::Sink& m_sink;
     const QString m_id;
     const PlanIds m_ids;
 };
 
 } // namespace
 
-QString siteSection(const SiteReport& report, std::size_t number) {
-    return SiteSection(report, number).text();
+void writeSiteSection(const SiteReport& report, std::size_t number, const ReportWriter::Sink& sink) {
+    SiteSection(report, number, sink).write();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "report/SiteReport.h"
+#include "report/ReportWriter.h"
 
-#include <QString>
-
-/// One site's part of the page: its plan beside the list of its violations, and tables of what was judged.
-/// `number` tells the sites of a page apart.
-QString siteSection(const SiteReport& report, std::size_t number);
+/// Writes one site's part of the page: its plan beside the list of its violations, and tables of what was
+/// judged. `number` tells the sites of a page apart. In pieces, because a finding may name every element of a
+/// large site.
+void writeSiteSection(const SiteReport& report, std::size_t number, const ReportWriter::Sink& sink);
