@@ -10,16 +10,15 @@
 
 namespace {
 
-/// Of every number, and of coordinates in mm more than twice around the Earth. Geometry stays exact and
-/// solids measurable up to here.
-constexpr double kGreatest = 1e11;
+/// Coordinates up to which distances are measured; no other number needs more.
+constexpr double kGreatest = 1e12;
 
 double readNumber(const Json& value, const JsonPlace& place) {
     if (!value.is_number())
         refuseType(value, place, "a number");
     const double result = value.get<double>();
     if (!(std::abs(result) <= kGreatest))
-        refuse(place, "expected a number from -1e11 to 1e11");
+        refuse(place, "expected a number from -1e12 to 1e12");
     return result;
 }
 
