@@ -52,7 +52,7 @@ TEST(IdentifierField, MatchesTheWholeTextAndNothingElse) {
         {"", L"NUX_EDO_TYPE_ROAD", false},
         {"食堂", L"食堂", true},
         {"食堂", L"食", false},
-        {QString(QChar(0)), L"", false},
+        {"A" + QString(QChar(0)), std::wstring(L"A\0", 2), false},
         {QString::fromUcs4(U"\U0001F525"), L"\U0001F525", true},
     };
     for (const Row& row : rows)
