@@ -1,5 +1,5 @@
-#include <QDir>
-#include <QFile>
+#include "site_file/Json.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -31,6 +31,8 @@ protected:
             <!-- kept --></Roads></Rules>)");
         write("no_rules.xml", "<Rules><!-- none --><Roads/></Rules>");
         write("broken.xml", "<Rules>\n<Roads></Rules>");
+        write("clean.xml", "<R><G><Self_RoadLoop Type='self'/></G></R>");
+        write("wrong.xml", "<R><G>\n  <Self_RoadLoops Type='self' Grösse='x'/></G></R>");
     }
 
     void write(const std::string& name, const std::string& text) {
@@ -131,6 +133,17 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          "    type: \"self\"\n    elementType: \"NUX_EDO_TYPE_ROAD\"\n    standard: \"clause 1\"\n"
          "    ruleDescription: \" 太窄 \"\n",
          "", 0},
+        {"firecheck lint-rules clean.xml", "clean.xml: clean\n", "", 0},
+        {"firecheck lint-rules wrong.xml",
+         "wrong.xml:2:3: Self_RoadLoops: No evaluator of type \"self\" knows this name. Did you mean "
+         "\"Self_RoadLoop\"? [unknown-name]\n"
+         "wrong.xml:2:31: Self_RoadLoops: The attribute \"Grösse\" of \"Self_RoadLoops\" is never read. "
+         "[unread-attribute]\nwrong.xml: 2 findings\n",
+         "", 1},
+        {"firecheck lint-rules broken.xml", "",
+         "firecheck: broken.xml:2:15: expected a well-formed XML document: tag mismatch\n", 2},
+        {"firecheck list-rules clean.xml", "",
+         "firecheck: The list of rules takes no file. Try \"firecheck show-rules\".\n", 2},
     };
     for (const auto& expected : cases) {
         // A bare locale must not spoil texts and names.
@@ -183,6 +196,34 @@ TEST_F(CommandLine, FindsTheRulesItComesWith) {
     const Outcome named =
         run("firecheck show-rules --format json '" SOURCE_DIRECTORY "/data/FireStandardCheck.xml'");
     EXPECT_EQ(shown.output, named.output);
+}
+
+TEST_F(CommandLine, ListsRulesAndFindingsForPrograms) {
+    const Outcome linted = run("firecheck lint-rules wrong.xml --format json");
+    EXPECT_EQ(linted.status, 1);
+    const Json finding = Json::parse(linted.output).at("findings").at(0);
+    EXPECT_EQ(finding.at("line"), 2);
+    EXPECT_EQ(finding.at("column"), 3);
+    EXPECT_EQ(finding.at("suggestion"), "Self_RoadLoop");
+
+    const std::string list = run("firecheck list-rules").output;
+    const Json rules = Json::parse(run("firecheck list-rules --format json").output).at("rules");
+    EXPECT_EQ(rules.size(), 57u);
+    for (const Json& rule : rules)
+        for (const char* key : {"name", "judges", "limits", "peculiarity", "elementType"})
+            EXPECT_NE(list.find(rule.at(key).get<std::string>()), std::string::npos) << rule;
+}
+
+/// The options and formats of each command, as the help tells them and as the synopsis of the manual does.
+TEST_F(CommandLine, HasItsUsageInTheManualPage) {
+    const Outcome outcome =
+        run(R"(usages() { tr -d '\\' | grep -oE 'firecheck [a-z-]+|--[a-z-]+|\w+(\|\w+)+' |
+            awk '/^firecheck/ { command = $2; next } { print command, $0 }' | sort -u; }
+        firecheck --help | sed '/firecheck --help/,$d' | usages > told
+        sed -n '/^.SY "/,/^.SY firecheck$/p' ')" SOURCE_DIRECTORY R"(/docs/firecheck.1' | usages > named
+        test -s told && diff told named)");
+    EXPECT_EQ(outcome.output + outcome.messages, "");
+    EXPECT_EQ(outcome.status, 0);
 }
 
 TEST_F(CommandLine, ColoursForPeopleAtATerminalOnly) {

@@ -62,18 +62,12 @@ QByteArray tenfold(const QByteArray& text, int entities) {
     return type + "]>";
 }
 
-QByteArray manyEntities(int entities) {
-    QByteArray type = "<!DOCTYPE a [";
-    for (int i = 0; i < entities; ++i)
-        type += "<!ENTITY e" + QByteArray::number(i) + " \"x\">";
-    return type + "]>";
-}
-
-QByteArray manyAttributes(int attributes) {
-    QByteArray text;
-    for (int i = 0; i < attributes; ++i)
-        text += "a" + QByteArray::number(i) + "='' ";
-    return text;
+/// The text once for each number below `count`, which replaces its "%1".
+QByteArray numbered(const QString& text, int count) {
+    QByteArray all;
+    for (int i = 0; i < count; ++i)
+        all += text.arg(i).toUtf8();
+    return all;
 }
 
 int countOf(const RuleMap& rules) {
@@ -111,10 +105,11 @@ TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
          inGroup("<R><ObjName>" + QByteArray("&e;").repeated(100000) + "</ObjName></R>",
                  "<!DOCTYPE a [<!ENTITY e \"" + QByteArray("y").repeated(4000) + "\">]>"),
          0},
-        {"more entities than any rule file needs", inGroup(rule, manyEntities(20000)), 0},
+        {"more entities than any rule file needs",
+         inGroup(rule, "<!DOCTYPE a [" + numbered("<!ENTITY e%1 \"x\">", 20000) + "]>"), 0},
         {"an entity that contains itself", inGroup("&e;" + rule, "<!DOCTYPE a [<!ENTITY e \"&e;\">]>"), 0},
         {"very many rules", inGroup(rule.repeated(50000)), 50000},
-        {"a hundred thousand attributes", inGroup("<R " + manyAttributes(100000) + "/>"), 1},
+        {"a hundred thousand attributes", inGroup("<R " + numbered("a%1='' ", 100000) + "/>"), 1},
         {"an element name of a million letters", inGroup("<" + QByteArray("R").repeated(1000000) + "/>"), 1},
     };
     for (const Row& row : rows)
