@@ -1,16 +1,28 @@
 #pragma once
 
+#include "check/check_site.h"
 #include "rules/rule_file.h"
-#include "site_file/Json.h"
+#include "site_file/site_reader.h"
 
-#include <string>
-#include <vector>
+#include <algorithm>
+#include <fstream>
 
-/// One violation: the rule's name, the offending element (0 for none) and the related elements.
-std::string finding(const std::string& ruleName, long long element, const std::vector<qint64>& related);
-
-/// What a check of the site finds, sorted.
-std::vector<std::string> findings(const Json& site, const RuleMap& rules);
+/// What a check of the site finds, sorted: each the rule's name, the offending element (0 for none), a colon
+/// and the related elements.
+inline std::vector<std::string> findings(const Json& site, const RuleMap& rules) {
+    std::vector<std::string> found;
+    for (const auto& filed : checkSite(readSite(site), "site", rules).results)
+        for (const NuxStandardCheckRule& record : filed.second) {
+            found.push_back(record.name.toStdString() + " " + std::to_string(record.handle) + ":");
+            for (const qint64 handle : record.relatedHandles)
+                found.back() += " " + std::to_string(handle);
+        }
+    std::sort(found.begin(), found.end());
+    return found;
+}
 
 /// A JSON file of the source tree.
-Json sourceJson(const std::string& fileName);
+inline Json sourceJson(const std::string& fileName) {
+    std::ifstream file(SOURCE_DIRECTORY "/" + fileName);
+    return Json::parse(file);
+}
