@@ -1,12 +1,7 @@
 // The distance rules against a second formulation that shares nothing with them: elements are upright boxes
 // along the axes, their gaps are worked out by hand, and every unordered pair is looked at once.
-#include "cad/UdDbDocument.h"
-#include "elements/NUX3dsObject.h"
-#include "elements/NUXOpenHouseObject.h"
-#include "elements/NUXPrefabHouseObject.h"
-#include "elements/NUXRoadObject.h"
-#include "elements/NUXTotalStepDownSubstationObject.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
+#include "site_file/site_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +10,13 @@
 
 namespace {
 
-const char* const kTypes[] = {"NUX_ELEMENT_TYPE_PREFABHOUSE",
-                              "NUX_ELEMENT_TYPE_FUTUREHOUSE",
-                              "NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION",
-                              "NUX_EDO_TYPE_ROAD",
-                              "NUX_ELEMENT_TYPE_OPENHOUSE",
-                              "NUX_EDO_TYPE_WOODYARD",
-                              "NUX_ELEMENT_TYPE_CLOSEHOUSE",
-                              "NUX_ELEMENT_TYPE_BOXHOUSE",
-                              "NUX_EDO_TYPE_FIREEXTINGUISHERBOX",
-                              "NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION"};
+const QStringList kTypes =
+    QString("NUX_ELEMENT_TYPE_PREFABHOUSE NUX_ELEMENT_TYPE_FUTUREHOUSE "
+            "NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION NUX_EDO_TYPE_ROAD "
+            "NUX_ELEMENT_TYPE_OPENHOUSE NUX_EDO_TYPE_WOODYARD NUX_ELEMENT_TYPE_CLOSEHOUSE "
+            "NUX_ELEMENT_TYPE_BOXHOUSE NUX_EDO_TYPE_FIREEXTINGUISHERBOX "
+            "NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION")
+        .split(' ');
 const char* const kNames[] = {"Distant_PrefabHouseToWoodFactory", "Distant_FutureouseToWoodFactory",
                               "Distant_FutureHouseToOpenHouse",
                               "Distant_TransformerSubstationToWoodWorkingFactory", "Distant_Any"};
@@ -150,48 +142,29 @@ Records expectedRecords(const Things& things, const NuxStandardCheckRule& rule, 
     return records;
 }
 
-void append(UdDbDocument& document, const Thing& thing) {
-    const std::wstring type = thing.type.toStdWString();
-    const auto fill = [&](auto params) {
-        params.rectCentre = {thing.x, thing.y, 0.0};
-        params.rectLength = thing.length;
-        params.rectDepth = thing.depth;
-        return params;
-    };
-    switch (thing.ofClass) {
-    case Class::Plain:
-        document.append(std::make_unique<NUXBaseObject>(type, fill(NUXBaseParams())), thing.handle);
-        break;
-    case Class::House: {
-        NUXPrefabHouseParams house;
-        house.stairPosition = kStairAtBothEnds;
-        document.append(std::make_unique<NUXPrefabHouseObject>(fill(house), type), thing.handle);
-        break;
+Json jsonOf(const Thing& thing) {
+    static const char* const kClasses[] = {
+        "building", "prefabHouse", "openShed", "road", "totalStepDownSubstation", "model"};
+    Json object = {{"class", kClasses[static_cast<int>(thing.ofClass)]},
+                   {"handle", thing.handle},
+                   {"identifier", thing.type.toStdString()}};
+    if (thing.ofClass == Class::Road) {
+        object["fireRoad"] = thing.use != 0;
+        object["start"] = {thing.x - 0.5 * thing.length, thing.y};
+        object["end"] = {thing.x + 0.5 * thing.length, thing.y};
+        object["width"] = thing.depth;
+        if (thing.use == 2)
+            object["outline"] = "none";
+        return object;
     }
-    case Class::Shed: {
-        NUXOpenHouseParams shed;
-        shed.use = thing.use;
-        document.append(std::make_unique<NUXOpenHouseObject>(fill(shed), type), thing.handle);
-        break;
-    }
-    case Class::Road: {
-        NUXRoadParams road;
-        road.isFireRoad = thing.use != 0;
-        road.outline = thing.use == 2 ? NUXRoadOutline::None : NUXRoadOutline::FromCentreLine;
-        road.start = {thing.x - 0.5 * thing.length, thing.y};
-        road.end = {thing.x + 0.5 * thing.length, thing.y};
-        road.width = static_cast<int>(thing.depth);
-        document.append(std::make_unique<NUXRoadObject>(road, type), thing.handle);
-        break;
-    }
-    case Class::Substation:
-        document.append(std::make_unique<NUXTotalStepDownSubstationObject>(fill(NUXBaseParams()), type),
-                        thing.handle);
-        break;
-    case Class::Model:
-        document.append(std::make_unique<NUX3dsObject>(type, NUX3dsParams()), thing.handle);
-        break;
-    }
+    object[thing.ofClass == Class::Model ? "position" : "center"] = {thing.x, thing.y};
+    object["length"] = thing.length;
+    object["depth"] = thing.depth;
+    if (thing.ofClass == Class::House || thing.ofClass == Class::Shed)
+        object["use"] = thing.use;
+    if (thing.ofClass == Class::House)
+        object["stairs"] = "bothEnds";
+    return object;
 }
 
 class Generator {
@@ -230,23 +203,24 @@ TEST(DistanceRules, AgreeWithASecondFormulation) {
     for (unsigned seed = 0; seed < 300; ++seed) {
         Generator generator(seed);
         Things things;
-        UdDbDocument document;
+        Json objects = Json::array();
         for (qint64 handle = 1; handle <= 30; ++handle) {
             things.push_back(generator.thing());
             things.back().handle = handle;
-            append(document, things.back());
+            objects.push_back(jsonOf(things.back()));
         }
+        const Site site = readSite({{"objects", objects}});
         for (int i = 0; i < 40; ++i) {
             const Limits& limits = kLimits[generator.below(4)];
             NuxStandardCheckRule rule;
             rule.name = kNames[generator.below(5)];
             rule.elementType = kTypes[generator.below(10)];
-            rule.referenceElementType =
-                generator.below(4) ? QString(kTypes[generator.below(10)]) : rule.elementType;
+            rule.referenceElementType = generator.below(4) ? kTypes[generator.below(10)] : rule.elementType;
             rule.constraintCondition = limits.condition;
             rule.distantValue = limits.value;
             Records records;
-            for (const auto& record : NUXRelElementTypeDistantRule().check(document.GetModelSpace(), rule))
+            for (const auto& record :
+                 NUXRelElementTypeDistantRule().check(site.document->GetModelSpace(), rule))
                 records.emplace_back(record.handle, record.relatedHandles);
             const Records expected =
                 rule.constraintCondition == "Less" ? Records() : expectedRecords(things, rule, limits);
