@@ -30,15 +30,13 @@ inline const double g_DistEpsilon = 1e-6;
 
 using Edges = std::vector<PolyPt2d>;
 
-class CCoedgeList {
-public:
+struct CCoedgeList {
     explicit CCoedgeList(Edges edges) : edges(std::move(edges)) {}
     int ClockSign() const { return 1; }
     Edges edges;
 };
 
-class CPolygon {
-public:
+struct CPolygon {
     CPolygon() = default;
     explicit CPolygon(const std::vector<PolyPt2d>& points) : m_loops{CCoedgeList(points)} {}
     explicit CPolygon(const std::vector<CVec2<double>>& points) : m_loops{CCoedgeList({})} {
@@ -57,14 +55,12 @@ private:
     std::vector<CCoedgeList> m_loops;
 };
 
-class CBody {
-public:
+struct CBody {
     virtual ~CBody() = default;
     virtual CExtents3 GetExtents() const = 0;
 };
 
-class CExtrudedBody : public CBody {
-public:
+struct CExtrudedBody : CBody {
     CExtrudedBody(const CCoord3<double>& frame, double height, CPolygon* outline, bool)
         : m_box{{1e30, 1e30, frame.origin.z}, {-1e30, -1e30, frame.origin.z + height}} {
         for (const PolyPt2d& point : outline->GetLoop(0)->edges) {
@@ -93,8 +89,7 @@ inline double BodyDistance(const CBody* a, const CBody* b, CVec3<double>& onA, C
     return GeometryDistance(a, b, onA, onB, tolerance);
 }
 
-class CCurve2d {
-public:
+struct CCurve2d {
     virtual ~CCurve2d() = default;
     Edges edges() const { return {}; }
 };
@@ -155,26 +150,22 @@ namespace UdDb {
 enum OpenMode { kForRead };
 }
 
-class UdDbHandle {
-public:
+struct UdDbHandle {
     long long GetID() const { return id; }
     long long id = 0;
 };
 
-class UdRxObject {
-public:
+struct UdRxObject {
     virtual ~UdRxObject() = default;
 };
 
-class UdDbObject : public virtual UdRxObject {
-public:
+struct UdDbObject : virtual UdRxObject {
     UdDbHandle Handle() const { return {handle}; }
     void GetGeomExtents(hrx::CVec3<double>&, hrx::CVec3<double>&) const {}
     long long handle = 0;
 };
 
-class UdDbObjectId {
-public:
+struct UdDbObjectId {
     bool IsValid() const { return object != nullptr; }
     UdDbHandle Handle() const { return object ? object->Handle() : UdDbHandle(); }
     UdDbObject* object = nullptr;
@@ -185,8 +176,7 @@ inline void UdDbOpenUdDbObject(UdDbObject*& object, UdDbObjectId id, UdDb::OpenM
 
 using Objects = std::vector<std::unique_ptr<UdDbObject>>;
 
-class UdDbObjContainerIterator {
-public:
+struct UdDbObjContainerIterator {
     explicit UdDbObjContainerIterator(const Objects& objects) : m_objects(objects) {}
     virtual ~UdDbObjContainerIterator() = default;
     virtual bool Done() const { return m_index == m_objects.size(); }
@@ -200,12 +190,11 @@ private:
     std::size_t m_index = 0;
 };
 
-class UdDbObjContainer {
-public:
+struct UdDbObjContainer {
     UdDbObjContainerIterator* NewIterator(bool, bool) const { return new UdDbObjContainerIterator(objects); }
     Objects objects;
 };
-class UdDbBlock : public UdDbObjContainer {};
+struct UdDbBlock : UdDbObjContainer {};
 struct UdDbDocument {
     UdDbBlock* GetModelSpace() { return &modelSpace; }
     UdDbBlock modelSpace;
@@ -223,21 +212,18 @@ inline UdApDocManager* UdDocManagerPtr() {
     return &manager;
 }
 
-class UdDbPolyLine {
-public:
+struct UdDbPolyLine {
     void GetPolyPts(std::vector<hrx::PolyPt2d>& points) const { points.clear(); }
 };
 
 /// What every class of element has: a cast by run-time type.
-template <class Class, class Parent> class Castable : public Parent {
-public:
+template <class Class, class Parent> struct Castable : Parent {
     static Class* Cast(const UdRxObject* object) {
         return dynamic_cast<Class*>(const_cast<UdRxObject*>(object));
     }
 };
 
-class NUXElementObject : public Castable<NUXElementObject, UdDbObject> {
-public:
+struct NUXElementObject : Castable<NUXElementObject, UdDbObject> {
     virtual std::wstring getElementType() const { return type; }
     std::wstring type;
 };
@@ -250,8 +236,7 @@ enum NUXShapeKind : std::uint32_t {
     kArcShape = 10,
 };
 
-class NUXBaseObject : public Castable<NUXBaseObject, NUXElementObject>, public UdDbPolyLine {
-public:
+struct NUXBaseObject : Castable<NUXBaseObject, NUXElementObject>, UdDbPolyLine {
     hrx::CVec3<double> getPtRectCenter() const { return centre; }
     double getRectWidthL() const { return length; }
     double getRectHigh() const { return depth; }
@@ -267,8 +252,7 @@ public:
 };
 
 enum StairPt { kStairAtLeftEnd, kStairAtRightEnd, kNoStair, kStairAtBothEnds, kStairAlongSide };
-class NUXPrefabHouseObject : public Castable<NUXPrefabHouseObject, NUXBaseObject> {
-public:
+struct NUXPrefabHouseObject : Castable<NUXPrefabHouseObject, NUXBaseObject> {
     double getDepth() const { return depth; }
     int getFloorCount() const { return 1; }
     StairPt getStairPosition() const { return kNoStair; }
@@ -277,8 +261,7 @@ public:
     void getEveryWidth(std::vector<hrx::CVec2<double>>&) const {}
 };
 
-class NUXRoadObject : public Castable<NUXRoadObject, NUXBaseObject> {
-public:
+struct NUXRoadObject : Castable<NUXRoadObject, NUXBaseObject> {
     bool getIsFireRoad() const { return true; }
     int getWidth() const { return 3999; }
     hrx::CVec2<double> getOriginalStartPt() const { return {}; }
@@ -287,26 +270,21 @@ public:
     hrx::CPolygon* getRoadPoly() const { return nullptr; }
 };
 
-class NUXCloseHouseObject : public Castable<NUXCloseHouseObject, NUXBaseObject> {
-public:
+struct NUXCloseHouseObject : Castable<NUXCloseHouseObject, NUXBaseObject> {
     std::wstring closeHouseUse() const { return {}; }
 };
-class NUXOpenHouseObject : public Castable<NUXOpenHouseObject, NUXBaseObject> {
-public:
+struct NUXOpenHouseObject : Castable<NUXOpenHouseObject, NUXBaseObject> {
     int openHouseUse() const { return 2; }
 };
-class NUXWastePoolObject : public Castable<NUXWastePoolObject, NUXBaseObject> {
-public:
+struct NUXWastePoolObject : Castable<NUXWastePoolObject, NUXBaseObject> {
     int getObjectUse() const { return 0; }
 };
-class NUXYardObject : public Castable<NUXYardObject, NUXBaseObject> {};
-class NUXTotalStepDownSubstationObject : public Castable<NUXTotalStepDownSubstationObject, NUXBaseObject> {};
-class NUXYardOBJObject : public Castable<NUXYardOBJObject, NUXBaseObject> {
-public:
+struct NUXYardObject : Castable<NUXYardObject, NUXBaseObject> {};
+struct NUXTotalStepDownSubstationObject : Castable<NUXTotalStepDownSubstationObject, NUXBaseObject> {};
+struct NUXYardOBJObject : Castable<NUXYardOBJObject, NUXBaseObject> {
     bool calculateParam(hrx::CVec2<double>&, double&, double&, double&) const { return false; }
 };
-class NUXDoorObject : public Castable<NUXDoorObject, NUXBaseObject> {
-public:
+struct NUXDoorObject : Castable<NUXDoorObject, NUXBaseObject> {
     hrx::CVec3<double> getPosition() const { return {}; }
     int getPlankWidth() const { return 0; }
     int getDoorPostSectionWidth() const { return 0; }
@@ -317,14 +295,12 @@ struct DoorData {
     bool flag;
     UdDbObjectId doorId;
 };
-class NUXWallObject : public Castable<NUXWallObject, NUXElementObject> {
-public:
+struct NUXWallObject : Castable<NUXWallObject, NUXElementObject> {
     hrx::CVec2<double> getStartPosition() const { return {}; }
     hrx::CVec2<double> getEndPosition() const { return {}; }
     std::map<double, DoorData> getAssociationDoor() const { return {}; }
 };
-class NUXServiceCableObject : public Castable<NUXServiceCableObject, NUXBaseObject> {
-public:
+struct NUXServiceCableObject : Castable<NUXServiceCableObject, NUXBaseObject> {
     bool getIsStraight() const { return true; }
     hrx::CVec2<double> getStartPt() const { return {}; }
     hrx::CVec2<double> getEndPt() const { return {}; }
@@ -333,14 +309,12 @@ public:
     double getServiceCableEndElevation() const { return 0.0; }
     double getServiceCableRadius() const { return 0.0; }
 };
-class NUXTowerCraneObject : public Castable<NUXTowerCraneObject, NUXElementObject> {
-public:
+struct NUXTowerCraneObject : Castable<NUXTowerCraneObject, NUXElementObject> {
     std::unique_ptr<hrx::CBody> getTowerQianBiBody() const { return nullptr; }
     std::unique_ptr<hrx::CBody> getTowerHouBiBody() const { return nullptr; }
     std::unique_ptr<hrx::CBody> getTowerBaseBody() const { return nullptr; }
 };
-class NUXPosterObject : public Castable<NUXPosterObject, NUXElementObject> {
-public:
+struct NUXPosterObject : Castable<NUXPosterObject, NUXElementObject> {
     int getDrawType() const { return 0; }
     hrx::CVec2<double> getFirstPoint() const { return {}; }
     hrx::CVec2<double> getSecondPoint() const { return {}; }
@@ -348,22 +322,18 @@ public:
     double getElevation() const { return 0.0; }
 };
 
-class UdDb3dsImage : public UdDbObject {
-public:
+struct UdDb3dsImage : UdDbObject {
     hrx::CVec3<double> GetPosition() const { return {}; }
 };
-class NUX3dsBaseObject : public Castable<NUX3dsBaseObject, UdDb3dsImage> {
-public:
+struct NUX3dsBaseObject : Castable<NUX3dsBaseObject, UdDb3dsImage> {
     virtual std::wstring getModelKind() const { return {}; }
     double getAngle() const { return 0.0; }
 };
-class NUX3dsObject : public Castable<NUX3dsObject, NUX3dsBaseObject> {
-public:
+struct NUX3dsObject : Castable<NUX3dsObject, NUX3dsBaseObject> {
     void calculateWidthAndHeight(double&, double&) const {}
 };
 
-class NUXRectParam {
-public:
+struct NUXRectParam {
     NUXRectParam(const hrx::CVec2<double>& centre, double length, double depth, double angle)
         : m_centre(centre), m_length(length), m_depth(depth), m_angle(angle) {}
     hrx::CVec2<double> centre() const { return m_centre; }
