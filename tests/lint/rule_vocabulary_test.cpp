@@ -18,28 +18,18 @@
 
 namespace {
 
-Json objectAt(long long handle, const std::string& siteClass, int x) {
-    return {{"class", siteClass}, {"handle", handle}, {"center", {x, 0}}, {"length", 1000}, {"depth", 1000}};
-}
-
 /// An element that reports `identifier`. Roads, sheds and prefab houses are what they say, all else is a
 /// plain element with a footprint.
 Json elementJson(long long handle, const std::string& identifier, int x, int shedUse = 0) {
     if (identifier == "NUX_EDO_TYPE_ROAD")
-        return {{"class", "road"}, {"handle", handle}, {"fireRoad", true},
-                {"start", {x, 0}}, {"end", {x, 9000}}, {"width", 4000}};
-    if (identifier == "NUX_ELEMENT_TYPE_PREFABHOUSE") {
-        Json house = objectAt(handle, "prefabHouse", x);
-        house["use"] = "office";
-        return house;
+        return {
+            {"class", "road"}, {"handle", handle}, {"fireRoad", true}, {"start", {x, 0}}, {"end", {x, 9000}}};
+    Json element = {{"class", "building"}, {"handle", handle}, {"identifier", identifier},
+                    {"center", {x, 0}},    {"length", 1000},   {"depth", 1000}};
+    if (identifier == "NUX_ELEMENT_TYPE_PREFABHOUSE" || identifier == "NUX_ELEMENT_TYPE_OPENHOUSE") {
+        element["class"] = identifier == "NUX_ELEMENT_TYPE_OPENHOUSE" ? "openShed" : "prefabHouse";
+        element["use"] = shedUse;
     }
-    if (identifier == "NUX_ELEMENT_TYPE_OPENHOUSE") {
-        Json shed = objectAt(handle, "openShed", x);
-        shed["use"] = shedUse;
-        return shed;
-    }
-    Json element = objectAt(handle, "futureHouse", x);
-    element["identifier"] = identifier;
     return element;
 }
 
