@@ -12,12 +12,15 @@ struct RuleStoreAccess {
 
 namespace {
 
-NUXRuleConfigFile storeOf(const QByteArray& text) {
-    const QTemporaryDir root;
-    QFile file(root.filePath("FireStandardCheck.xml"));
+void writeRules(const QString& directory, const QByteArray& text) {
+    QFile file(directory + "/FireStandardCheck.xml");
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text);
-    file.close();
+}
+
+NUXRuleConfigFile storeOf(const QByteArray& text) {
+    const QTemporaryDir root;
+    writeRules(root.path(), text);
     setDriveRoot(root.path());
     return RuleStoreAccess::load();
 }
@@ -68,18 +71,13 @@ TEST(RuleStore, ReadsARuleAsItStands) {
                 "<ReferenceObjName>r</ReferenceObjName></R></b></a>");
     ASSERT_EQ(outline(rules), "R: R");
     const NuxStandardCheckRule rule = rules["R"][0];
-    EXPECT_EQ(rule.elementType, " E ");
-    EXPECT_EQ(rule.type, "self");
-    EXPECT_EQ(rule.propertyType, "P");
-    EXPECT_EQ(rule.standard, "S & T");
-    EXPECT_EQ(rule.referenceElementType, "F");
-    EXPECT_EQ(rule.constraintCondition, "less or more");
-    EXPECT_EQ(rule.distantValue, "6:10");
-    EXPECT_EQ(rule.ruleDescription, "one two three");
-    EXPECT_EQ(rule.ruleCatalog, " c ");
-    EXPECT_EQ(rule.ruleDetailDescription, "");
-    EXPECT_EQ(rule.objName, "食堂");
-    EXPECT_EQ(rule.referenceObjName, "r");
+    const QStringList texts{rule.elementType, rule.type, rule.propertyType, rule.standard,
+                            rule.referenceElementType};
+    EXPECT_EQ(texts.join("|"), " E |self|P|S & T|F");
+    const QStringList limits{rule.constraintCondition, rule.distantValue, rule.ruleDescription,
+                             rule.ruleCatalog};
+    EXPECT_EQ(limits.join("|"), "less or more|6:10|one two three| c ");
+    EXPECT_EQ(rule.ruleDetailDescription + "|" + rule.objName + "|" + rule.referenceObjName, "|食堂|r");
     EXPECT_EQ(rule.handle, 0);
     EXPECT_TRUE(rule.relatedHandles.empty());
     EXPECT_FALSE(rule.flag);
@@ -98,9 +96,7 @@ TEST(RuleStore, ReadsOnceAtTheFirstCall) {
     const QTemporaryDir second;
     for (const auto& [directory, text] : {std::pair(first.path(), "<a><g><First/></g></a>"),
                                           std::pair(second.path(), "<a><g><Second/></g></a>")}) {
-        QFile file(directory + "/FireStandardCheck.xml");
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        writeRules(directory, text);
     }
     setDriveRoot(first.path());
     NUXRuleConfigFile* store = NUXRuleConfigFile::Single();
