@@ -31,16 +31,26 @@ std::vector<double> stroked(const outlines::Loop& loop) {
     return coordinates;
 }
 
-GEOSGeometry* region(GEOSContextHandle_t context, const outlines::Loop& loop) {
+GEOSGeometry* ring(GEOSContextHandle_t context, const outlines::Loop& loop) {
     const std::vector<double> coordinates = stroked(loop);
-    GEOSCoordSequence* const points = GEOSCoordSeq_copyFromBuffer_r(
-        context, coordinates.data(), static_cast<unsigned>(coordinates.size() / 2), 0, 0);
-    return GEOSGeom_createPolygon_r(context, GEOSGeom_createLinearRing_r(context, points), nullptr, 0);
+    return GEOSGeom_createLinearRing_r(
+        context, GEOSCoordSeq_copyFromBuffer_r(context, coordinates.data(),
+                                               static_cast<unsigned>(coordinates.size() / 2), 0, 0));
 }
 
-} // namespace
+GEOSGeometry* region(GEOSContextHandle_t context, const outlines::Loop& loop) {
+    return GEOSGeom_createPolygon_r(context, ring(context, loop), nullptr, 0);
+}
 
-double geosDistance(const outlines::Loop& a, const outlines::Loop& b) {
+GEOSGeometry* region(GEOSContextHandle_t context, const outlines::Outline& outline) {
+    std::vector<GEOSGeometry*> holes;
+    for (std::size_t i = 1; i < outline.size(); ++i)
+        holes.push_back(ring(context, outline[i]));
+    return GEOSGeom_createPolygon_r(context, ring(context, outline[0]), holes.data(),
+                                    static_cast<unsigned>(holes.size()));
+}
+
+template <class Shape> double distanceOf(const Shape& a, const Shape& b) {
     static const GEOSContextHandle_t context = GEOS_init_r();
     GEOSGeometry* const regionA = region(context, a);
     GEOSGeometry* const regionB = region(context, b);
@@ -49,4 +59,14 @@ double geosDistance(const outlines::Loop& a, const outlines::Loop& b) {
     GEOSGeom_destroy_r(context, regionA);
     GEOSGeom_destroy_r(context, regionB);
     return distance;
+}
+
+} // namespace
+
+double geosDistance(const outlines::Loop& a, const outlines::Loop& b) {
+    return distanceOf(a, b);
+}
+
+double geosDistance(const outlines::Outline& a, const outlines::Outline& b) {
+    return distanceOf(a, b);
 }

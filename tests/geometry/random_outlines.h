@@ -55,6 +55,26 @@ inline Loop arcStrip(double inner, double outer, double sweep) {
     return {{outer, 0, bulge}, {outer * c, outer * s, 0}, {inner * c, inner * s, -bulge}, {inner, 0, 0}};
 }
 
+/// A rectangle, a star, a frame or an L; and with arcs a circle, a ring or a strip.
+inline Outline anyOutline(Random& random, bool withArcs) {
+    switch (random.below(withArcs ? 7 : 4)) {
+    case 0:
+        return {rectangle(random.between(500, 20000), random.between(500, 20000))};
+    case 1:
+        return {star(random, 3 + random.below(18), 0)};
+    case 2:
+        return {rectangle(30000, 24000), rectangle(26000, 20000)};
+    case 3:
+        return {{{0, 0, 0}, {9000, 0, 0}, {9000, 3000, 0}, {3000, 3000, 0}, {3000, 8000, 0}, {0, 8000, 0}}};
+    case 4:
+        return {circle(random.between(300, 9000))};
+    case 5:
+        return {circle(random.between(5000, 9000)), circle(random.between(1000, 4500))};
+    default:
+        return {arcStrip(random.between(2000, 9000), random.between(10000, 16000), random.between(0.3, 5.8))};
+    }
+}
+
 inline Outline moved(Outline outline, double angle, double dx, double dy) {
     for (Loop& loop : outline)
         for (hrx::PolyPt2d& p : loop)

@@ -11,43 +11,29 @@ Point randomPlace(Random& random, double reach, double height) {
     return {random.between(-reach, reach), random.between(-reach, reach), random.between(-height, height)};
 }
 
-Outline anyOutline(Random& random) {
+/// Turned, and often with bulging edges.
+Outline turnedOutline(Random& random) {
     for (;;) {
-        Outline outline;
-        switch (random.below(5)) {
-        case 0:
-            outline = {rectangle(random.between(3000, 20000), random.between(3000, 20000))};
-            break;
-        case 1:
-            outline = {
-                arcStrip(random.between(4000, 9000), random.between(10000, 16000), random.between(0.3, 5.8))};
-            break;
-        case 2:
-            outline = {circle(random.between(5000, 9000)), circle(random.between(1000, 4500))};
-            break;
-        default:
-            outline = {star(random, 3 + random.below(9), 0.8)};
-        }
-        hrx::CPolygon* const shape = polygon(outline);
-        const bool valid = shape->IsValid(0x1f, nullptr);
-        shape->Free();
-        if (valid)
+        const Outline outline =
+            random.below(2) ? anyOutline(random, true) : Outline{star(random, 3 + random.below(9), 0.8)};
+        if (hrx::PolygonRef(polygon(outline))->IsValid(0x1f, nullptr))
             return moved(outline, random.between(0, 6), 0, 0);
     }
 }
 
 Solid uprightPrism(Random& random) {
-    return prism(anyOutline(random), Frame(), random.between(1, 6000));
+    return prism(turnedOutline(random), Frame(), random.between(1, 6000));
 }
 Solid turnedUprightPrism(Random& random) {
     const double angle = random.between(0, 6);
     const double mirror = random.below(2) ? 1 : -1;
     const Point x(std::cos(angle), std::sin(angle), 0);
     const Point z(0, 0, mirror);
-    return prism(anyOutline(random), Frame({100, 200, 300}, x, cross(z, x), z), random.between(-6000, 6000));
+    return prism(turnedOutline(random), Frame({100, 200, 300}, x, cross(z, x), z),
+                 random.between(-6000, 6000));
 }
 Solid tiltedPrism(Random& random) {
-    return prism(anyOutline(random), randomFrame(random, {0, 0, 0}), random.between(-6000, 6000));
+    return prism(turnedOutline(random), randomFrame(random, {0, 0, 0}), random.between(-6000, 6000));
 }
 Solid uprightDisc(Random& random) {
     const Point foot = randomPlace(random, 20000, 8000);
