@@ -1,24 +1,17 @@
 // Two outlines raised to solids: their distance is a number, the same both ways round and, for coordinates of
-// a site, what points sampled along both boundaries allow it to be.
+// a site, that of the nearest points, with no point sampled along the boundaries nearer.
 
 #include "ByteReader.h"
-#include "geometry/CExtrudedBody.h"
-#include "geometry/GeometryDistance.h"
+#include "measure.h"
+#include "naive_edge.h"
 #include "require.h"
-
-#include <algorithm>
-#include <memory>
 
 namespace {
 
-using Points = std::vector<hrx::PolyPt2d>;
+using Points = outlines::Loop;
+using Edges = std::vector<sampled::NaiveEdge>;
 
 constexpr int kSamplesPerEdge = 24;
-
-struct Samples {
-    std::vector<hrx::CVec2<double>> points;
-    double spacing = 0.0; ///< no point of the boundary is farther than this from a sample
-};
 
 Points readOutline(ByteReader& bytes, bool isOfSite) {
     Points points(static_cast<std::size_t>(bytes.below(7)));
@@ -30,43 +23,18 @@ Points readOutline(ByteReader& bytes, bool isOfSite) {
     return points;
 }
 
-std::unique_ptr<hrx::CBody> raised(const Points& points) {
-    return std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), 1.0, new hrx::CPolygon(points), true);
-}
-
-Samples sampled(const Points& points) {
-    Samples samples;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const hrx::PolyPt2d& from = points[i];
-        const hrx::PolyPt2d& to = points[(i + 1) % points.size()];
-        const hrx::CVec2<double> chord(to.x - from.x, to.y - from.y);
-        const double sweep = 4.0 * std::atan(from.bulge);
-        for (int step = 0; step < kSamplesPerEdge; ++step) {
-            const double share = static_cast<double>(step) / kSamplesPerEdge;
-            double along = share;
-            double aside = 0.0;
-            if (from.bulge != 0.0) {
-                // On the circle through both ends, in a frame whose x axis is the chord.
-                const double angle = (share - 0.5) * sweep;
-                const double radius = 0.5 / std::sin(0.5 * sweep);
-                along = 0.5 + radius * std::sin(angle);
-                aside = radius * (std::cos(0.5 * sweep) - std::cos(angle));
-            }
-            samples.points.emplace_back(from.x + chord.x * along - chord.y * aside,
-                                        from.y + chord.y * along + chord.x * aside);
-        }
-        const double length = std::hypot(chord.x, chord.y) *
-                              (from.bulge == 0.0 ? 1.0 : std::abs(0.5 * sweep / std::sin(0.5 * sweep)));
-        samples.spacing = std::max(samples.spacing, length / kSamplesPerEdge);
-    }
-    return samples;
-}
-
-double leastDistance(const Samples& a, const Samples& b) {
+double gapTo(const Edges& edges, const hrx::CVec2<double>& point) {
     double least = 1e100;
-    for (const auto& onA : a.points)
-        for (const auto& onB : b.points)
-            least = std::min(least, std::hypot(onA.x - onB.x, onA.y - onB.y));
+    for (const sampled::NaiveEdge& edge : edges)
+        least = std::min(least, edge.distanceTo(point));
+    return least;
+}
+
+double leastSampledGap(const Edges& from, const Edges& to) {
+    double least = 1e100;
+    for (const sampled::NaiveEdge& edge : from)
+        for (int step = 0; step < kSamplesPerEdge; ++step)
+            least = std::min(least, gapTo(to, edge.at(static_cast<double>(step) / kSamplesPerEdge)));
     return least;
 }
 
@@ -77,8 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool isOfSite = bytes.below(4) != 0;
     const Points first = readOutline(bytes, isOfSite);
     const Points second = readOutline(bytes, isOfSite);
-    const auto a = raised(first);
-    const auto b = raised(second);
+    const Body a = raised({first});
+    const Body b = raised({second});
 
     hrx::CVec3<double> onA;
     hrx::CVec3<double> onB;
@@ -94,11 +62,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (first.empty() || second.empty())
         return 0;
 
-    const Samples ofFirst = sampled(first);
-    const Samples ofSecond = sampled(second);
-    const double least = leastDistance(ofFirst, ofSecond);
-    require(distance <= least + 1e-4, "no two points are nearer than the distance");
-    if (distance > 0.0)
-        require(distance >= least - ofFirst.spacing - ofSecond.spacing - 1e-4, "the distance is reached");
+    const Edges ofFirst = sampled::naiveEdges(first);
+    const Edges ofSecond = sampled::naiveEdges(second);
+    require(distance <= leastSampledGap(ofFirst, ofSecond) + 1e-4, "no point is nearer than the distance");
+    require(distance <= leastSampledGap(ofSecond, ofFirst) + 1e-4, "nor is one of the other outline");
+    if (distance > 0.0) {
+        require(gapTo(ofFirst, {onA.x, onA.y}) < 1e-4, "the nearest points lie on the outlines");
+        require(gapTo(ofSecond, {onB.x, onB.y}) < 1e-4, "both of them");
+        require(std::abs(length(onA - onB) - distance) < 1e-4, "as far apart as the distance says");
+    }
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "geometry/CPlaneCurve3d.h"
 #include "geometry/GBodyBuilder.h"
+#include "naive_edge.h"
 
 #include <algorithm>
 #include <array>
@@ -10,51 +11,13 @@ namespace sampled {
 
 namespace {
 
-using hrx::CVec2;
-using outlines::kPi;
 using outlines::Outline;
-
-double distanceToSegment(const CVec2<double>& p, const CVec2<double>& a, const CVec2<double>& b) {
-    const CVec2<double> ab = b - a;
-    const double t = std::clamp(dot(p - a, ab) / std::max(dot(ab, ab), 1e-300), 0.0, 1.0);
-    return length(p - (a + ab * t));
-}
-
-/// An edge by angles about its centre; the code under test avoids both.
-struct NaiveEdge {
-    CVec2<double> a, b, centre;
-    double bulge, radius;
-
-    NaiveEdge(const hrx::PolyPt2d& from, const hrx::PolyPt2d& to)
-        : a(from.x, from.y), b(to.x, to.y), bulge(from.bulge) {
-        const double chord = length(b - a);
-        radius = bulge == 0 ? 0 : chord / (2 * std::sin(2 * std::atan(bulge)));
-        const double apothem = bulge == 0 ? 0 : radius * std::cos(2 * std::atan(bulge));
-        centre = (a + b) * 0.5 + leftNormal(b - a) * (apothem / chord);
-        radius = std::abs(radius);
-    }
-    double distanceTo(const CVec2<double>& p) const {
-        if (bulge == 0)
-            return distanceToSegment(p, a, b);
-        const double fromStart = std::atan2(cross(a - centre, p - centre), dot(a - centre, p - centre));
-        const double along = std::fmod((bulge > 0 ? fromStart : -fromStart) + 2 * kPi, 2 * kPi);
-        return along <= std::abs(4 * std::atan(bulge)) ? std::abs(length(p - centre) - radius)
-                                                       : std::min(length(p - a), length(p - b));
-    }
-    double turnsAround(const CVec2<double>& p) const {
-        const double side = cross(b - a, p - a);
-        const bool inSegment = bulge * side < 0 && length(p - centre) < radius;
-        return std::atan2(cross(a - p, b - p), dot(a - p, b - p)) / (2 * kPi) +
-               (inSegment ? (bulge > 0 ? 1 : -1) : 0);
-    }
-};
 
 double planDistance(const Outline& outline, const CVec2<double>& p) {
     double turns = 0;
     double distance = 1e300;
     for (const outlines::Loop& loop : outline)
-        for (std::size_t i = 0; i < loop.size(); ++i) {
-            const NaiveEdge edge(loop[i], loop[(i + 1) % loop.size()]);
+        for (const NaiveEdge& edge : naiveEdges(loop)) {
             turns += edge.turnsAround(p);
             distance = std::min(distance, edge.distanceTo(p));
         }
