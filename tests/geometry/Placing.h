@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/CVec2.h"
+#include "random_outlines.h"
 
 #include <cmath>
 
@@ -10,7 +10,7 @@ struct Placing {
     hrx::CVec2<double> offset;
 
     hrx::CVec2<double> operator()(double x, double y) const {
-        const double angle = degrees * 3.14159265358979323846 / 180.0;
+        const double angle = degrees * outlines::kPi / 180.0;
         return {x * std::cos(angle) - y * std::sin(angle) + offset.x,
                 x * std::sin(angle) + y * std::cos(angle) + offset.y};
     }
@@ -19,3 +19,8 @@ struct Placing {
 /// As drawn, turned, and turned far away.
 constexpr Placing kPlacings[] = {
     {0.0, {0.0, 0.0}}, {36.87, {0.0, 0.0}}, {123.4, {5e6, -3e6}}, {270.1, {-4e9, 4e9}}};
+
+inline hrx::PolygonRef placed(const outlines::Outline& outline, const Placing& placing) {
+    return hrx::PolygonRef(outlines::polygon(outlines::moved(outline, placing.degrees * outlines::kPi / 180.0,
+                                                             placing.offset.x, placing.offset.y)));
+}

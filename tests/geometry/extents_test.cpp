@@ -7,30 +7,20 @@ using namespace sampled;
 
 namespace {
 
-Point least(const Point& a, const Point& b) {
-    return {std::min(a.x, b.x), std::min(a.y, b.y), std::min(a.z, b.z)};
-}
-Point greatest(const Point& a, const Point& b) {
-    return {std::max(a.x, b.x), std::max(a.y, b.y), std::max(a.z, b.z)};
-}
-
 /// The box holds every sample, and every side of it comes within the sampling step of one.
 void expectTight(const hrx::CBody& body, const std::function<Point(double, double, double)>& pointAt,
                  double slack) {
-    Point low = pointAt(0, 0, 0);
-    Point high = low;
+    hrx::CExtents3 samples;
     for (int i = 0; i <= 200; ++i)
         for (int j = 0; j <= 1; ++j)
-            for (int k = 0; k <= 200; ++k) {
-                low = least(low, pointAt(i / 200.0, j, k / 200.0));
-                high = greatest(high, pointAt(i / 200.0, j, k / 200.0));
-            }
+            for (int k = 0; k <= 200; ++k)
+                samples.add(pointAt(i / 200.0, j, k / 200.0));
     const hrx::CExtents3 extents = body.GetExtents();
     for (double Point::*axis : {&Point::x, &Point::y, &Point::z}) {
-        EXPECT_LE(extents.low.*axis, low.*axis + 1e-6);
-        EXPECT_GE(extents.high.*axis, high.*axis - 1e-6);
-        EXPECT_NEAR(extents.low.*axis, low.*axis, slack);
-        EXPECT_NEAR(extents.high.*axis, high.*axis, slack);
+        EXPECT_LE(extents.low.*axis, samples.low.*axis + 1e-6);
+        EXPECT_GE(extents.high.*axis, samples.high.*axis - 1e-6);
+        EXPECT_NEAR(extents.low.*axis, samples.low.*axis, slack);
+        EXPECT_NEAR(extents.high.*axis, samples.high.*axis, slack);
     }
 }
 

@@ -18,7 +18,7 @@ using namespace hrx;
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using outlines::kPi;
 constexpr double kTolerance = 200.0;
 using Point = CVec2<double>;
 using Curves = std::vector<std::unique_ptr<CCurve2d>>;
@@ -37,12 +37,7 @@ public:
     void circle(const Point& centre, double radius) {
         curves.push_back(std::make_unique<CArc2d>(placed(centre), radius, 0.0, 2.0 * kPi));
     }
-    void path(const std::vector<Point>& corners) {
-        for (std::size_t i = 1; i < corners.size(); ++i)
-            line(corners[i - 1], corners[i]);
-    }
-    /// Words and coordinates: "path x y x y ...", "rectangle x y x y", "arc start through end", "circle x y
-    /// r".
+    /// In metres: "path x y x y ...", "rectangle x y x y", "arc start through end", "circle x y r".
     void draw(const std::string& text);
 
     Curves curves;
@@ -57,20 +52,18 @@ void Drawing::draw(const std::string& text) {
     std::istringstream in(text);
     for (std::string word; in >> word;) {
         std::vector<double> n;
-        for (double number = 0.0; in >> number;)
-            n.push_back(number);
+        for (double metres = 0.0; in >> metres;)
+            n.push_back(metres * 1e3);
         in.clear();
-        if (word == "rectangle") {
-            path({{n[0], n[1]}, {n[2], n[1]}, {n[2], n[3]}, {n[0], n[3]}, {n[0], n[1]}});
-        } else if (word == "arc") {
+        if (word == "rectangle")
+            n = {n[0], n[1], n[2], n[1], n[2], n[3], n[0], n[3], n[0], n[1]};
+        if (word == "arc") {
             arc({n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]});
         } else if (word == "circle") {
             circle({n[0], n[1]}, n[2]);
         } else {
-            std::vector<Point> corners;
-            for (std::size_t i = 0; i < n.size(); i += 2)
-                corners.emplace_back(n[i], n[i + 1]);
-            path(corners);
+            for (std::size_t i = 3; i < n.size(); i += 2)
+                line({n[i - 3], n[i - 2]}, {n[i - 1], n[i]});
         }
     }
 }
@@ -126,83 +119,61 @@ void PrintTo(const LoopCase& loopCase, std::ostream* out) {
 
 const LoopCase kLoopCases[] = {
     {"no roads", "", {}},
-    {"three sides only", "path 0 0 9000 0 9000 9000 0 9000", {}},
-    {"four roads", "rectangle 0 0 10000 20000", {200.0}},
-    {"access road", "rectangle 0 0 10000 10000 path 5000 -8000 5000 0", {100.0}},
-    {"road across", "rectangle 0 0 10000 10000 path 3000 0 3000 10000", {30.0, 70.0}},
-    {"four roads crossing in a #",
-     "path -5000 0 15000 0 path 0 -5000 0 15000 path -5000 10000 15000 10000 path 10000 -5000 10000 15000",
-     {100.0}},
+    {"three sides only", "path 0 0 9 0 9 9 0 9", {}},
+    {"four roads", "rectangle 0 0 10 20", {200.0}},
+    {"access road", "rectangle 0 0 10 10 path 5 -8 5 0", {100.0}},
+    {"road across", "rectangle 0 0 10 10 path 3 0 3 10", {30.0, 70.0}},
+    {"four roads as a #", "path -5 0 15 0 path 0 -5 0 15 path -5 10 15 10 path 10 -5 10 15", {100.0}},
     {"arcs closing a ring",
-     "path 0 0 10000 0 arc 10000 0 15000 5000 10000 10000 path 10000 10000 0 10000 arc 0 10000 -5000 5000 0 "
-     "0",
+     "path 0 0 10 0 arc 10 0 15 5 10 10 path 10 10 0 10 arc 0 10 -5 5 0 0",
      {100.0 + 25.0 * kPi}},
-    {"lens of two arcs", "arc 0 0 5000 2000 10000 0 arc 0 0 5000 -2000 10000 0", {27.501465787875}},
+    {"lens of two arcs", "arc 0 0 5 2 10 0 arc 0 0 5 -2 10 0", {27.501465787875}},
     {"arc beyond a half circle and its chord",
-     "arc 0 5000 -3535.533905932738 -3535.533905932738 5000 0 path 5000 0 0 5000",
+     "arc 0 5 -3.535533905932738 -3.535533905932738 5 0 path 5 0 0 5",
      {25.0 * kPi * 0.75 + 12.5}},
-    {"circle", "circle 1000 2000 5000", {25.0 * kPi}},
-    {"circle narrower than the tolerance", "circle 0 0 80", {0.0064 * kPi}},
-    {"circle cut by a road", "circle 0 0 5000 path -7000 0 9000 0", {12.5 * kPi, 12.5 * kPi}},
-    {"circles touching", "circle 0 0 5000 circle 8000 0 3000", {9.0 * kPi, 25.0 * kPi}},
+    {"circle", "circle 1 2 5", {25.0 * kPi}},
+    {"circle narrower than the tolerance", "circle 0 0 0.08", {0.0064 * kPi}},
+    {"circle cut by a road", "circle 0 0 5 path -7 0 9 0", {12.5 * kPi, 12.5 * kPi}},
+    {"circles touching", "circle 0 0 5 circle 8 0 3", {9.0 * kPi, 25.0 * kPi}},
     {"road touching a circle, and on to the circle",
-     "circle 0 0 5000 path -7000 5000 8000 5000 4000 3000",
+     "circle 0 0 5 path -7 5 8 5 4 3",
      {8.0 - 12.5 * (std::acos(0.6) - 0.8), 25.0 * kPi}},
-    {"arc whose ends nearly meet", "arc 5000 0 -5000 0 4999 99.995", {25.0 * kPi}, 0.6},
-    {"gap of 199", "path 0 199 0 10000 10000 10000 10000 0 0 0", {100.0}, 1.1},
-    {"gap of 200", "path 0 200 0 10000 10000 10000 10000 0 0 0", {}},
-    {"gap of 201", "path 0 201 0 10000 10000 10000 10000 0 0 0", {}},
-    {"ends 199 short of roads", "rectangle 0 0 10000 10000 path 3000 199 3000 9801", {30.0, 70.0}},
-    {"end 201 short of a road", "rectangle 0 0 10000 10000 path 3000 201 3000 10000", {100.0}},
+    {"arc whose ends nearly meet", "arc 5 0 -5 0 4.999 0.099995", {25.0 * kPi}, 0.6},
+    {"gap of 199", "path 0 0.199 0 10 10 10 10 0 0 0", {100.0}, 1.1},
+    {"gap of 200", "path 0 0.2 0 10 10 10 10 0 0 0", {}},
+    {"gap of 201", "path 0 0.201 0 10 10 10 10 0 0 0", {}},
+    {"ends 199 short of roads", "rectangle 0 0 10 10 path 3 0.199 3 9.801", {30.0, 70.0}},
+    {"end 201 short of a road", "rectangle 0 0 10 10 path 3 0.201 3 10", {100.0}},
     {"ends short of one place from both sides",
-     "rectangle 0 0 10000 10000 path 5000 0 5000 4850 path 5000 5150 5000 10000 path 0 5000 10000 5000",
+     "rectangle 0 0 10 10 path 5 0 5 4.85 path 5 5.15 5 10 path 0 5 10 5",
      {25.0, 25.0, 25.0, 25.0}},
-    {"rings sharing a side",
-     "rectangle 0 0 10000 10000 path 10000 0 15000 0 15000 10000 10000 10000",
-     {50.0, 100.0}},
-    {"shared side drawn twice", "rectangle 0 0 10000 10000 rectangle 10000 2000 15000 8000", {30.0, 100.0}},
-    {"dead ends within and without",
-     "rectangle 0 0 10000 10000 path 5000 0 5000 4000 7000 6000 path 10000 10000 14000 14000",
-     {100.0}},
-    {"figure of eight", "path 0 0 10000 10000 10000 0 0 10000 0 0", {25.0, 25.0}},
-    {"ring in a ring", "rectangle 0 0 10000 10000 rectangle 3000 3000 5000 5000", {4.0, 96.0}},
-    {"rings joined by a road",
-     "rectangle 0 0 10000 10000 rectangle 3000 3000 5000 5000 path 5000 4000 10000 4000",
-     {4.0, 96.0}},
+    {"rings sharing a side", "rectangle 0 0 10 10 path 10 0 15 0 15 10 10 10", {50.0, 100.0}},
+    {"shared side drawn twice", "rectangle 0 0 10 10 rectangle 10 2 15 8", {30.0, 100.0}},
+    {"dead ends within and without", "rectangle 0 0 10 10 path 5 0 5 4 7 6 path 10 10 14 14", {100.0}},
+    {"figure of eight", "path 0 0 10 10 10 0 0 10 0 0", {25.0, 25.0}},
+    {"ring in a ring", "rectangle 0 0 10 10 rectangle 3 3 5 5", {4.0, 96.0}},
+    {"rings joined by a road", "rectangle 0 0 10 10 rectangle 3 3 5 5 path 5 4 10 4", {4.0, 96.0}},
     {"rings in rings in a ring",
-     "rectangle 0 0 9000 9000 rectangle 1000 1000 4000 4000 rectangle 2000 2000 3000 3000 circle 6500 6500 "
-     "1000",
+     "rectangle 0 0 9 9 rectangle 1 1 4 4 rectangle 2 2 3 3 circle 6.5 6.5 1",
      {1.0, kPi, 8.0, 72.0 - kPi}},
-    {"T junction drawn over", "rectangle 0 0 10000 10000 path 5000 -3000 5000 150", {100.0}},
-    {"slanting T junction drawn over", "rectangle 0 0 10000 10000 path -1000 -140 9000 150", {100.0}, 0.3},
-    {"short road across another", "rectangle 0 0 10000 10000 path 5000 -90 5000 100", {100.0}},
+    {"T junction drawn over", "rectangle 0 0 10 10 path 5 -3 5 0.15", {100.0}},
+    {"slanting T junction drawn over", "rectangle 0 0 10 10 path -1 -0.14 9 0.15", {100.0}, 0.3},
+    {"short road across another", "rectangle 0 0 10 10 path 5 -0.09 5 0.1", {100.0}},
     {"corners drawn over",
-     "path -150 0 10150 0 path 10000 -150 10000 10150 path 10150 10000 -150 10000 path 0 10150 0 -150",
+     "path -0.15 0 10.15 0 path 10 -0.15 10 10.15 path 10.15 10 -0.15 10 path 0 10.15 0 -0.15",
      {100.0}},
-    {"three roads crossing in nearly one point",
-     "path -5000 0 5000 0 path 0 -5000 0 5000 path -5000 -4900 5000 5100",
-     {}},
-    {"road drawn twice, in part and the other way",
-     "path 0 0 10000 0 path 8000 0 2000 0 path 5000 0 13000 0 path 0 50 10000 50",
-     {}},
-    {"arc drawn twice, in part",
-     "arc 5000 0 0 5000 -5000 0 arc 3000 4000 0 5000 -3000 4000 arc -3000 4000 -5000 0 -3000 -4000",
-     {}},
-    {"arc leaving a road along it, met again",
-     "path 0 0 10000 0 arc 0 0 3000 1000 5000 5000 path 5000 5000 5000 0",
-     {25.0 - 6.25 * kPi}},
-    {"arc crossing a road again near their common end",
-     "path 0 0 10000 0 arc 0 0 150 0 5000 -3000 path 5000 -3000 10000 0",
-     {12.2},
-     0.5},
+    {"three roads crossing in nearly one point", "path -5 0 5 0 path 0 -5 0 5 path -5 -4.9 5 5.1", {}},
+    {"road drawn twice, in part", "path 0 0 10 0 path 8 0 2 0 path 5 0 13 0 path 0 0.05 10 0.05", {}},
+    {"arc drawn twice, in part", "arc 5 0 0 5 -5 0 arc 3 4 0 5 -3 4 arc -3 4 -5 0 -3 -4", {}},
+    {"arc leaving a road along it", "path 0 0 10 0 arc 0 0 3 1 5 5 path 5 5 5 0", {25.0 - 6.25 * kPi}},
+    {"arc back over a road by its end", "path 0 0 10 0 arc 0 0 0.15 0 5 -3 path 5 -3 10 0", {12.2}, 0.5},
     {"arc that reaches a road by the joining of its ends",
-     "arc 0 0 5000 5000 10000 0 path 10190 0 10190 -3000 path -190 0 -190 -3000 rectangle -8000 -3000 18000 "
-     "5050",
+     "arc 0 0 5 5 10 0 path 10.19 0 10.19 -3 path -0.19 0 -0.19 -3 rectangle -8 -3 18 5.05",
      {68.8, 68.8, 71.6},
      0.5},
     {"ring in pieces shorter than the tolerance",
-     "path 350 0 303 175 175 303 0 350 -175 303 -303 175 -350 0 -303 -175 -175 -303 0 -350 175 -303 303 -175 "
-     "350 0",
+     "path 0.35 0 0.303 0.175 0.175 0.303 0 0.35 -0.175 0.303 -0.303 0.175 -0.35 0 -0.303 -0.175 -0.175 "
+     "-0.303 0 -0.35 0.175 -0.303 0.303 -0.175 0.35 0",
      {0.367368}},
 };
 
@@ -241,7 +212,7 @@ TEST(LoopStates, curvesThatCannotBeTakenUp) {
     refused.push_back(std::make_unique<CArc2d>(Point(0, 0), 5000.0, 0.0, infinite));
     for (std::size_t i = 0; i < refused.size(); ++i) {
         Drawing drawing(kPlacings[0]);
-        drawing.draw("rectangle 0 0 10000 10000");
+        drawing.draw("rectangle 0 0 10 10");
         drawing.curves.push_back(std::move(refused[i]));
         const Faces faces = facesOf(drawing.curves);
         EXPECT_NE(faces.state, LoopsJoined) << i;

@@ -1,82 +1,87 @@
 #include "Placing.h"
+#include "elements/NUXCalcFunc.h"
+#include "geometry/CExtrudedBody.h"
 #include "geometry/CPolygon.h"
 #include "geometry/edge_crossing.h"
-#include "random_outlines.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 using namespace hrx;
+using namespace outlines;
 
 namespace {
-
-using Loop = std::vector<PolyPt2d>;
 
 Loop square(double low, double high) {
     return {{low, low, 0}, {high, low, 0}, {high, high, 0}, {low, high, 0}};
 }
 
-PolygonRef placed(const std::vector<Loop>& outline, const Placing& placing) {
-    std::vector<CCoedgeList> loops;
-    for (Loop loop : outline) {
-        for (PolyPt2d& corner : loop) {
-            const CVec2<double> point = placing(corner.x, corner.y);
-            corner = {point.x, point.y, corner.bulge};
-        }
-        loops.emplace_back(loop);
-    }
-    return PolygonRef(new CPolygon(loops));
-}
-
 TEST(OutlineValidity, crossingEdgesAsFoundPairByPair) {
-    outlines::Random random(5);
+    Random random(5);
     int crossing = 0;
     for (int i = 0; i < 2000; ++i) {
-        outlines::Loop loop = outlines::star(random, 3 + random.below(30), random.below(2) ? 0.4 : 0.0);
+        Loop loop = star(random, 3 + random.below(30), random.below(2) ? 0.4 : 0.0);
         if (random.below(2))
             std::swap(loop[0], loop[static_cast<std::size_t>(random.below(static_cast<int>(loop.size())))]);
-        const PolygonRef polygon(outlines::polygon({loop}));
+        const PolygonRef outline(polygon({loop}));
         bool expected = false;
-        for (const Edge2d& a : polygon->GetLoop(0)->edges())
-            for (const Edge2d& b : polygon->GetLoop(0)->edges())
+        for (const Edge2d& a : outline->GetLoop(0)->edges())
+            for (const Edge2d& b : outline->GetLoop(0)->edges())
                 expected |= &a < &b && edgesCross(a, b);
-        EXPECT_EQ(polygon->IsValid(0x10, nullptr), !expected) << "outline " << i;
+        EXPECT_EQ(outline->IsValid(0x10, nullptr), !expected) << "outline " << i;
         crossing += expected;
     }
     EXPECT_GT(crossing, 200);
     EXPECT_LT(crossing, 1800);
 }
 
-TEST(OutlineValidity, crossingEdgesHoweverPlaced) {
+/// Strictly valid is what encloses an area as well.
+TEST(OutlineValidity, crossingEdgesAndAreaHoweverPlaced) {
     const struct {
         const char* name;
-        std::vector<Loop> outline;
+        Outline outline;
         bool valid;
+        bool strictly;
     } cases[] = {
-        {"square", {square(0, 10)}, true},
-        {"bow tie", {{{0, 0, 0}, {10, 10, 0}, {10, 0, 0}, {0, 10, 0}}}, false},
-        {"crossing by a hair", {{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {5, -0.0001, 0}, {0, 10, 0}}}, false},
-        {"corner on an edge", {{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {5, 0, 0}, {0, 10, 0}}}, true},
-        {"there and back", {{{0, 0, 0}, {3000, 1000, 0}}}, true},
-        {"there and back along an arc", {{{0, 0, 0.3}, {3000, 1000, -0.3}}}, true},
-        {"circle", {{{5, 0, 1}, {-5, 0, 1}}}, true},
-        {"arc across the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 4, 1}, {0, 4, 0}}}, true},
-        {"arc through the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 4, -1}, {0, 4, 0}}}, false},
-        {"arc touching the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 5, -1}, {0, 5, 0}}}, true},
+        {"square", {square(0, 10)}, true, true},
+        {"clockwise", {{{0, 0, 0}, {0, 10, 0}, {10, 0, 0}}}, true, true},
+        {"bow tie", {{{0, 0, 0}, {10, 10, 0}, {10, 0, 0}, {0, 10, 0}}}, false, false},
+        {"bow tie with area left", {{{0, 0, 0}, {9, 9, 0}, {9, 0, 0}, {0, 5, 0}}}, false, false},
+        {"crossing by a hair",
+         {{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {5, -0.0001, 0}, {0, 10, 0}}},
+         false,
+         false},
+        {"corner on an edge", {{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {5, 0, 0}, {0, 10, 0}}}, true, true},
+        {"there and back", {{{0, 0, 0}, {3000, 1000, 0}}}, true, false},
+        {"there and back along an arc", {{{0, 0, 0.3}, {3000, 1000, -0.3}}}, true, false},
+        {"circle", {circle(5)}, true, true},
+        {"arc across the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 4, 1}, {0, 4, 0}}}, true, true},
+        {"arc through the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 4, -1}, {0, 4, 0}}}, false, false},
+        {"arc touching the edge opposite", {{{0, 0, 0}, {10, 0, 0}, {10, 5, -1}, {0, 5, 0}}}, true, true},
+        {"three-quarter arc beside an edge", {{{0, 0, 2.5}, {4, 0, 0}, {2, -3, 0}}}, true, true},
+        {"three-quarter arc through an edge", {{{0, 0, 2.5}, {4, 0, 0}, {2, -9, 0}}}, false, false},
         {"arc running into a line",
-         {{{0, 0, 0}, {9000, 0, 0.4142135623730951}, {12000, 3000, 0}, {0, 3000, 0}}},
+         {{{0, 0, 0}, {9e3, 0, 0.41421356}, {12e3, 3e3, 0}, {0, 3e3, 0}}},
+         true,
          true},
-        {"arcs crossing", {{{0, 0, 1}, {10, 0, 0}, {6, -1, -1}, {-4, -1, 0}}}, false},
-        {"hole", {square(0, 10), square(3, 7)}, true},
-        {"hole across the outline", {square(0, 10), square(5, 15)}, false},
+        {"arcs crossing", {{{0, 0, 1}, {10, 0, 0}, {6, -1, -1}, {-4, -1, 0}}}, false, false},
+        {"hole", {square(0, 10), square(3, 7)}, true, true},
+        {"hole as large as the outline", {circle(3), {{-3, 0, -1}, {3, 0, -1}}}, true, false},
+        {"hole across the outline", {square(0, 10), square(5, 15)}, false, false},
     };
     for (const auto& row : cases) {
         for (const Placing& placing : kPlacings) {
-            EXPECT_EQ(placed(row.outline, placing)->IsValid(0x1F, nullptr), row.valid)
-                << row.name << " turned by " << placing.degrees;
+            SCOPED_TRACE(row.name + std::string(" turned by ") + std::to_string(placing.degrees));
+            const PolygonRef outline = placed(row.outline, placing);
+            EXPECT_EQ(outline->IsValid(0x1F, nullptr), row.valid);
+            EXPECT_EQ(NUXCalcFunc::IsNuxStrictlyValid(outline.get(), true), row.strictly);
+            const CExtrudedBody sunk(CCoord3<double>(), -2.0, outline.get(), true);
+            EXPECT_EQ(NUXCalcFunc::IsNuxStrictlyBodyValid(&sunk), row.strictly);
         }
     }
+    EXPECT_FALSE(NUXCalcFunc::IsNuxStrictlyValid(nullptr, true));
+    EXPECT_FALSE(NUXCalcFunc::IsNuxStrictlyBodyValid(nullptr));
 }
 
 TEST(OutlineValidity, eachCheckFindsItsFaultAlone) {
