@@ -46,6 +46,7 @@ public:
     }
 
     void expectToldOf(const NuxStandardCheckRule& record) const {
+        EXPECT_EQ(m_found.empty(), record.type == "without");
         const bool isOfDoors = record.name == "Position_DoorToDoor"; // it finds walls and names their doors
         EXPECT_EQ(m_found.count(record.handle), record.handle != 0 && !isOfDoors ? 1u : 0u);
         const bool hasValue = record.name.endsWith("Area") || record.name.endsWith("Width");
