@@ -8,7 +8,8 @@ using namespace workloads;
 namespace {
 
 template <class First> void runGeos(benchmark::State& state, First first) {
-    run(state, made(first, 1), made(house, 2), geosDistance);
+    run(state, made(first, 1), made(house, 2),
+        [](const Loop& a, const Loop& b) { return geosDistance(a, b); });
 }
 Loop tankPlan(Random& random) {
     return circleOf(tank(random));
