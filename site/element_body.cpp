@@ -10,6 +10,7 @@
 #include "site/house_footprint.h"
 #include "site/polyline_outline.h"
 #include "site/rectangle_outline.h"
+#include "site/world_frame.h"
 
 namespace {
 
@@ -64,7 +65,7 @@ BodyPtr bodyByShape(const NUXElementObject* element, const NUXBaseObject& base, 
 
 BodyPtr buildRectParamBody(const NUXRectParam& rect, double height) {
     const OutlinePtr outline = buildRectParamPolygon(rect);
-    return std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), height, outline.get(), true);
+    return std::make_unique<hrx::CExtrudedBody>(kWorldFrame, height, outline.get(), true);
 }
 
 BodyPtr buildHouseWithStairBody(const NUXPrefabHouseObject& house, double height) {

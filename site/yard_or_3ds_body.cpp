@@ -5,6 +5,7 @@
 #include "elements/NUXYardOBJObject.h"
 #include "geometry/CExtrudedBody.h"
 #include "site/rectangle_outline.h"
+#include "site/world_frame.h"
 
 namespace {
 
@@ -40,5 +41,5 @@ void buildYardOr3dsBody(const UdRxObject* object, BodyPtr& body) {
     buildYardOr3dsPolygon(object, outline);
     if (!NUXCalcFunc::IsNuxStrictlyValid(outline.get(), true))
         return;
-    body = std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), 1.0, outline.release(), true);
+    body = std::make_unique<hrx::CExtrudedBody>(kWorldFrame, 1.0, outline.release(), true);
 }

@@ -7,6 +7,7 @@
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
 #include "site/min_body_distance.h"
+#include "site/world_frame.h"
 
 #include <algorithm>
 #include <optional>
@@ -47,7 +48,7 @@ Side fireRoadSide(const NUXElementObject* element) {
     hrx::CPolygon* outline = road->getRoadPoly();
     if (!outline)
         return std::nullopt;
-    return sideWith(std::make_unique<hrx::CExtrudedBody>(hrx::CCoord3<double>(), kBodyHeight, outline, true));
+    return sideWith(std::make_unique<hrx::CExtrudedBody>(kWorldFrame, kBodyHeight, outline, true));
 }
 
 /// Under a rule of this name, open sheds of this use count.

@@ -93,8 +93,8 @@ bool turnsLeft(const Edge2d& a, const Edge2d& b) {
     return cross(u, v) > 1e-9 * (std::abs(u.x) + std::abs(u.y)) * (std::abs(v.x) + std::abs(v.y));
 }
 
-/// Most outlines are rectangles. Four left turns make one round, so no edge can cross another; five may make
-/// two.
+/// Most outlines are rectangles, and these pass every check at once: a left turn takes finite coordinates and
+/// edges with length, and four left turns make one round, so no edge can cross another. Five may make two.
 bool isConvexQuadrilateral(const CPolygon& polygon) {
     if (polygon.LoopCount() != 1 || polygon.GetLoop(0)->edges().size() != 4)
         return false;
@@ -107,7 +107,7 @@ bool isConvexQuadrilateral(const CPolygon& polygon) {
 
 /// Sweeps along x, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
-    if (isConvexQuadrilateral(polygon) || !isFinite(polygon))
+    if (!isFinite(polygon))
         return true;
     boost::container::small_vector<Span, 8> spans;
     for (const CCoedgeList& loop : polygon.loops())
@@ -138,6 +138,8 @@ constexpr Check kChecks[] = {
 } // namespace
 
 bool CPolygon::IsValid(const std::bitset<16>& checks, std::ostream* log) const {
+    if (isConvexQuadrilateral(*this))
+        return true;
     for (std::size_t i = 0; i < std::size(kChecks); ++i) {
         if (!checks[i] || kChecks[i].holds(*this))
             continue;
