@@ -1,8 +1,6 @@
 #include "elements/NUXDoorObject.h"
-#include "elements/NUXPrefabHouseObject.h"
 #include "geometry/CExtrudedBody.h"
 #include "site/element_body.h"
-#include "site/house_footprint.h"
 #include "site/min_body_distance.h"
 #include "site/polyline_outline.h"
 #include "site/rectangle_outline.h"
@@ -50,23 +48,6 @@ NUXBaseObject polylineOf(const std::vector<hrx::PolyPt2d>& points) {
 }
 
 } // namespace
-
-TEST(HouseFootprint, KeepsItsSizeButIsMovedAcrossForAnUnknownStairCode) {
-    for (const int stairs : {-1, 5}) {
-        NUXPrefabHouseParams params;
-        params.rectAngle = 30.0; // goes into sine and cosine as it is
-        params.stairPosition = static_cast<StairPt>(stairs);
-        params.isFB = -1;
-        double length = 1.0;
-        double depth = 2.0;
-        hrx::CVec2<double> centre{3.0, 4.0};
-        getHouseRectWithStair(NUXPrefabHouseObject(params), length, depth, centre);
-        EXPECT_EQ(length, 1.0);
-        EXPECT_EQ(depth, 2.0);
-        EXPECT_DOUBLE_EQ(centre.x, 3.0 + 250.0 * std::sin(30.0));
-        EXPECT_DOUBLE_EQ(centre.y, 4.0 + 250.0 * std::cos(30.0));
-    }
-}
 
 TEST(RectangleOutline, StartsAtTheLowerLeftCornerOfItsOwnFrame) {
     std::vector<hrx::CVec2<double>> corners{{7.0, 7.0}};
