@@ -39,15 +39,13 @@ TEST(RuleStore, FilesEveryNodeOfEveryGroup) {
     };
     const Row rows[] = {
         {"other names of root and groups", "<a><b><R/></b><c><Q/></c></a>", "Q: Q; R: R"},
-        {"one name in two groups, in document order", "<a><b><R Type='1'/></b><c><R Type='2'/></c></a>",
-         "R: R R"},
+        {"one name in two groups, in order", "<a><b><R Type='1'/></b><c><R Type='2'/></c></a>", "R: R R"},
         {"white space between rules is no rule", "<a>\n <b>\n  <R/>\n </b>\n</a>", "R: R"},
         {"comment, text, data section and instruction in a group are rules",
          "<a><b><!-- c --><R/>text<![CDATA[d]]><?pi x?></b></a>",
          "#cdata-section: #cdata-section; #comment: #comment; #text: #text; R: R; pi: pi"},
         {"what is no element beside the groups is nothing", "<a><!-- c -->text<b><R/></b></a>", "R: R"},
-        {"a rule directly below the root is a group", "<a><R Type='self'><ObjName/></R></a>",
-         "ObjName: ObjName"},
+        {"a rule below the root is a group", "<a><R Type='self'><ObjName/></R></a>", "ObjName: ObjName"},
         {"absence rules by element and property type",
          "<a><b><W Type='without' ElementType='AB' PropertyType='C'/><V Type='without' ElementType='A' "
          "PropertyType='BC'/></b></a>",
