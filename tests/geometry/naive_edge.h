@@ -44,10 +44,10 @@ struct NaiveEdge {
                           : centre + spoke * std::cos(angle) + leftNormal(spoke) * std::sin(angle);
     }
     double turnsAround(const CVec2<double>& p) const {
-        const double side = cross(b - a, p - a);
-        const bool inSegment = bulge * side < 0 && length(p - centre) < radius;
-        return std::atan2(cross(a - p, b - p), dot(a - p, b - p)) / (2 * kPi) +
-               (inSegment ? (bulge > 0 ? 1 : -1) : 0);
+        // One sign for both terms, or a point on the chord is counted on either side of it. No negative zero.
+        const double side = cross(b - a, p - a) + 0.0;
+        const bool inSegment = (bulge > 0 ? side < 0 : bulge < 0 && side >= 0) && length(p - centre) < radius;
+        return std::atan2(side, dot(a - p, b - p)) / (2 * kPi) + (inSegment ? (bulge > 0 ? 1 : -1) : 0);
     }
 };
 
