@@ -22,7 +22,7 @@ struct CBox2d {
     }
 };
 
-/// The number, or 0 when it is negative; exact, and without a branch that nobody could predict.
+/// The number, or 0 when it is negative; exact for finite numbers, without a branch nobody could predict.
 inline double positivePart(double number) {
     return 0.5 * (number + std::abs(number));
 }
