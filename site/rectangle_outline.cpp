@@ -22,10 +22,9 @@ void getRectParamCorners(const NUXRectParam& rect, std::vector<hrx::CVec2<double
 }
 
 OutlinePtr buildRectParamPolygon(const NUXRectParam& rect) {
-    std::vector<hrx::CVec2<double>> corners;
-    corners.reserve(4);
-    getRectParamCorners(rect, corners);
-    OutlinePtr outline(new hrx::CPolygon(corners));
+    const auto [a, b, c, d] =
+        turnedRectangleCorners(rect.centre(), rect.length(), rect.depth(), rect.angle());
+    OutlinePtr outline(new hrx::CPolygon({a, b, c, d}));
     normaliseOrientation(*outline);
     return outline;
 }

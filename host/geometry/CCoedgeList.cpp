@@ -24,9 +24,11 @@ double segmentArea(const Edge2d& edge) {
 
 } // namespace
 
-CCoedgeList::CCoedgeList(const std::vector<CVec2<double>>& corners) {
-    std::size_t count = corners.size();
-    if (count > 1 && corners.front() == corners.back())
+CCoedgeList::CCoedgeList(const std::vector<CVec2<double>>& corners)
+    : CCoedgeList(corners.data(), corners.size()) {}
+
+CCoedgeList::CCoedgeList(const CVec2<double>* corners, std::size_t count) {
+    if (count > 1 && corners[0] == corners[count - 1])
         --count;
     m_edges.resize(count, boost::container::default_init);
     for (std::size_t i = 0; i < count; ++i)

@@ -20,6 +20,7 @@ public:
     explicit CCoedgeList(const std::vector<Edge2d>& edges) : m_edges(edges.begin(), edges.end()) {}
     /// Straight edges through the corners and back to the first; a repeated last corner is dropped.
     explicit CCoedgeList(const std::vector<CVec2<double>>& corners);
+    CCoedgeList(const CVec2<double>* corners, std::size_t count);
     /// Edges through the points and back to the first, every point kept.
     explicit CCoedgeList(const std::vector<PolyPt2d>& points);
 

@@ -7,6 +7,11 @@ CPolygon::CPolygon(const std::vector<CVec2<double>>& corners) {
         m_loops.emplace_back(corners);
 }
 
+CPolygon::CPolygon(std::initializer_list<CVec2<double>> corners) {
+    if (corners.size() > 0)
+        m_loops.emplace_back(corners.begin(), corners.size());
+}
+
 CPolygon::CPolygon(const std::vector<PolyPt2d>& points) {
     if (!points.empty())
         m_loops.emplace_back(points);

@@ -6,6 +6,7 @@
 
 #include <bitset>
 #include <cstddef>
+#include <initializer_list>
 #include <iosfwd>
 #include <vector>
 
@@ -25,6 +26,7 @@ public:
     CPolygon() = default;
     /// One closed loop of straight edges; a repeated last corner is dropped.
     explicit CPolygon(const std::vector<CVec2<double>>& corners);
+    CPolygon(std::initializer_list<CVec2<double>> corners);
     /// One closed loop; the bulge of a point belongs to the edge from it to the next point.
     explicit CPolygon(const std::vector<PolyPt2d>& points);
     explicit CPolygon(const std::vector<CCoedgeList>& loops);

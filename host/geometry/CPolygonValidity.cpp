@@ -86,10 +86,8 @@ bool spansCross(const Span& a, const Span& b) {
     return overlapInY(a.box, b.box) && !areSidesOfCorner(*a.edge, *b.edge) && edgesCross(*a.edge, *b.edge);
 }
 
-/// True when b turns off a to the left beyond all rounding.
-bool turnsLeft(const Edge2d& a, const Edge2d& b) {
-    const CVec2<double> u = a.end - a.start;
-    const CVec2<double> v = b.end - b.start;
+/// True when v turns off u to the left beyond all rounding.
+bool turnsLeft(const CVec2<double>& u, const CVec2<double>& v) {
     return cross(u, v) > 1e-9 * (std::abs(u.x) + std::abs(u.y)) * (std::abs(v.x) + std::abs(v.y));
 }
 
@@ -99,10 +97,13 @@ bool isConvexQuadrilateral(const CPolygon& polygon) {
     if (polygon.LoopCount() != 1 || polygon.GetLoop(0)->edges().size() != 4)
         return false;
     const CCoedgeList::Edges& edges = polygon.GetLoop(0)->edges();
-    return isClosed(polygon) &&
-           std::all_of(edges.begin(), edges.end(), [](const Edge2d& edge) { return edge.bulge == 0.0; }) &&
-           turnsLeft(edges[0], edges[1]) && turnsLeft(edges[1], edges[2]) && turnsLeft(edges[2], edges[3]) &&
-           turnsLeft(edges[3], edges[0]);
+    if (!isClosed(polygon) ||
+        std::any_of(edges.begin(), edges.end(), [](const Edge2d& edge) { return edge.bulge != 0.0; }))
+        return false;
+    const CVec2<double> sides[] = {edges[0].end - edges[0].start, edges[1].end - edges[1].start,
+                                   edges[2].end - edges[2].start, edges[3].end - edges[3].start};
+    return turnsLeft(sides[0], sides[1]) && turnsLeft(sides[1], sides[2]) && turnsLeft(sides[2], sides[3]) &&
+           turnsLeft(sides[3], sides[0]);
 }
 
 /// Sweeps along x, so that long outlines stay quick. What is not finite crosses nothing.
