@@ -1,6 +1,6 @@
 #include "geometry/edge_distance.h"
 
-#include "geometry/arc_frame.h"
+#include "geometry/circle_meetings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -78,26 +78,6 @@ void segmentToSegment(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& 
     pointToSegment(Side::B, b.end, a, best);
 }
 
-/// Points of a line through the frame, start + t * direction (unit), in pairs: where it meets the circle, and
-/// where it comes nearest to or lies deepest inside it.
-struct LineOnCircle {
-    LineOnCircle(const CVec2<double>& start, const CVec2<double>& direction, const ArcFrame& frame) {
-        const double half = frame.curvature * dot(start, direction) - direction.y;
-        const double value = frame.equation(start);
-        const double discriminant = half * half - frame.curvature * value;
-        parameters[count++] = -half / frame.curvature;
-        if (!(discriminant >= 0.0))
-            return;
-        const double root = -(half + std::copysign(std::sqrt(discriminant), half));
-        parameters[count++] = root / frame.curvature;
-        if (root != 0.0)
-            parameters[count++] = value / root;
-    }
-
-    double parameters[3];
-    int count = 0;
-};
-
 void segmentToArc(Side side, const Edge2d& segment, const Edge2d& arc, Ends ends, PlanContact& best) {
     const ArcFrame frame(arc);
     const Side arcSide = side == Side::A ? Side::B : Side::A;
@@ -112,61 +92,52 @@ void segmentToArc(Side side, const Edge2d& segment, const Edge2d& arc, Ends ends
     const double size = length(chord);
     if (!(size > 0.0))
         return;
-    const CVec2<double> start = frame.toLocal(segment.start);
-    const CVec2<double> direction = frame.directionToLocal(chord * (1.0 / size));
-    const LineOnCircle line(start, direction, frame);
-    for (int i = 0; i < line.count; ++i) {
-        const double t = line.parameters[i];
-        const CVec2<double> local = start + direction * t;
+    const FrameLine line{frame.toLocal(segment.start), frame.directionToLocal(chord * (1.0 / size))};
+    const auto consider = [&](double t) {
+        const CVec2<double> local = line.at(t);
         if (t > 0.0 && t < size && frame.facesArc(local))
             pointToFacingArc(side, local, frame, best);
-    }
+    };
+    const LineOnCircle onCircle(line, frame);
+    consider(onCircle.nearest);
+    for (int i = 0; i < onCircle.meetingCount; ++i)
+        consider(onCircle.meetings[i]);
 }
 
-void arcToArc(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
+/// `a` has the smaller circle; `side` is its side.
+void arcToArc(Side side, const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
     const ArcFrame frameA(a);
     const ArcFrame frameB(b);
-    pointToArc(Side::A, a.start, b, frameB, ends, best);
-    pointToArc(Side::B, b.start, a, frameA, ends, best);
+    const Side otherSide = side == Side::A ? Side::B : Side::A;
+    pointToArc(side, a.start, b, frameB, ends, best);
+    pointToArc(otherSide, b.start, a, frameA, ends, best);
     if (ends == Ends::Both) {
-        pointToArc(Side::A, a.end, b, frameB, ends, best);
-        pointToArc(Side::B, b.end, a, frameA, ends, best);
+        pointToArc(side, a.end, b, frameB, ends, best);
+        pointToArc(otherSide, b.end, a, frameA, ends, best);
     }
 
+    const CirclePair circles(frameA, frameB);
+    if (circles.concentric)
+        return; // nearest at an end
     const auto consider = [&](const CVec2<double>& localToA) {
         if (!frameA.facesArc(localToA))
             return;
         const CVec2<double> localToB = frameB.toLocal(frameA.toWorld(localToA));
         if (frameB.facesArc(localToB))
-            pointToFacingArc(Side::A, localToB, frameB, best);
+            pointToFacingArc(side, localToB, frameB, best);
     };
-    // The line of centres, times both curvatures; concentric arcs have none and are nearest at an end.
-    const CVec2<double> apexB = frameA.toLocal(b.middle());
-    const CVec2<double> inwardB = frameA.directionToLocal(frameB.inward);
-    const CVec2<double> across = apexB * (frameA.curvature * frameB.curvature) + inwardB * frameA.curvature -
-                                 CVec2<double>(0.0, frameB.curvature);
-    const double size = length(across);
-    if (!(size > 0.0))
-        return;
-    const CVec2<double> towardsB = across * (1.0 / size);
-    consider(frameA.pointInDirection(towardsB));
-    consider(frameA.pointInDirection(towardsB * -1.0));
-
-    // The circles meet on their radical line.
-    const double offset =
-        0.5 * frameA.curvature * (frameB.curvature * dot(apexB, apexB) + 2.0 * dot(apexB, inwardB)) / size;
-    const CVec2<double> start = towardsB * offset;
-    const CVec2<double> direction = leftNormal(towardsB);
-    const LineOnCircle line(start, direction, frameA);
-    for (int i = 1; i < line.count; ++i)
-        consider(start + direction * line.parameters[i]);
+    consider(frameA.pointInDirection(circles.towardsSecond));
+    consider(frameA.pointInDirection(circles.towardsSecond * -1.0));
+    const LineOnCircle shared(circles.radicalLine, frameA);
+    for (int i = 0; i < shared.meetingCount; ++i)
+        consider(circles.radicalLine.at(shared.meetings[i]));
 }
 
 void nearest(const Edge2d& a, const Edge2d& b, Ends ends, PlanContact& best) {
     const bool arcA = a.isArc();
     const bool arcB = b.isArc();
     if (arcA && arcB)
-        arcToArc(a, b, ends, best);
+        a.radius() <= b.radius() ? arcToArc(Side::A, a, b, ends, best) : arcToArc(Side::B, b, a, ends, best);
     else if (arcA)
         segmentToArc(Side::B, b, a, ends, best);
     else if (arcB)

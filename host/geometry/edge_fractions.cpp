@@ -1,5 +1,7 @@
 #include "geometry/edge_fractions.h"
 
+#include "geometry/arc_frame.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -36,13 +38,12 @@ CVec2<double> pointAt(const Edge2d& edge, double fraction) {
 double nearestFraction(const Edge2d& edge, const CVec2<double>& point) {
     if (!edge.isArc())
         return nearestFractionOfLine(edge, point);
-    const double sweep = edge.sweep();
-    const CVec2<double> centre = edge.centre();
-    const CVec2<double> toMiddle = edge.middle() - centre;
-    const CVec2<double> toPoint = point - centre;
-    const double fromMiddle = std::atan2(cross(toMiddle, toPoint), dot(toMiddle, toPoint));
-    if (std::abs(fromMiddle) <= std::abs(sweep) / 2.0)
-        return std::clamp(0.5 + fromMiddle / sweep, 0.0, 1.0);
+    const ArcFrame frame(edge);
+    const CVec2<double> local = frame.toLocal(point);
+    const double sweep = std::abs(edge.sweep());
+    const double fromApex = std::atan2(frame.curvature * local.x, 1.0 - frame.curvature * local.y);
+    if (std::abs(fromApex) <= 0.5 * sweep)
+        return std::clamp(0.5 + fromApex / sweep, 0.0, 1.0);
     return length(point - edge.start) <= length(point - edge.end) ? 0.0 : 1.0;
 }
 

@@ -1,5 +1,6 @@
 #include "geometry/edge_intersections.h"
 
+#include "geometry/circle_meetings.h"
 #include "geometry/edge_fractions.h"
 
 #include <algorithm>
@@ -17,20 +18,32 @@ public:
     void add(const CVec2<double>& candidate) {
         const double onFirst = nearestFraction(m_first, candidate);
         const CVec2<double> point = pointAt(m_first, onFirst);
-        const double onSecond = nearestFraction(m_second, candidate);
-        if (!(length(point - candidate) <= g_touchDistance) ||
-            !(length(pointAt(m_second, onSecond) - candidate) <= g_touchDistance))
+        if (!(length(point - candidate) <= g_touchDistance) || !isOnSecond(candidate))
             return;
         const bool known = std::any_of(m_points.begin(), m_points.end(), [&](const EdgeIntersection& other) {
             return length(other.point - point) <= g_touchDistance;
         });
         if (!known)
-            m_points.push_back({point, onFirst, onSecond});
+            m_points.push_back({point, onFirst, nearestFraction(m_second, candidate)});
+    }
+
+    /// Whether the edges share a stretch between two of the points.
+    bool runAlong() {
+        std::sort(m_points.begin(), m_points.end(),
+                  [](const EdgeIntersection& a, const EdgeIntersection& b) { return a.onFirst < b.onFirst; });
+        return std::adjacent_find(m_points.begin(), m_points.end(),
+                                  [&](const EdgeIntersection& from, const EdgeIntersection& to) {
+                                      return isOnSecond(pointAt(m_first, 0.5 * (from.onFirst + to.onFirst)));
+                                  }) != m_points.end();
     }
 
     std::vector<EdgeIntersection> take() { return std::move(m_points); }
 
 private:
+    bool isOnSecond(const CVec2<double>& point) const {
+        return length(pointAt(m_second, nearestFraction(m_second, point)) - point) <= g_touchDistance;
+    }
+
     const Edge2d& m_first;
     const Edge2d& m_second;
     std::vector<EdgeIntersection> m_points;
@@ -41,14 +54,19 @@ void addLineWithLine(const Edge2d& first, const Edge2d& second, SharedPoints& sh
     const CVec2<double> other = second.end - second.start;
     const CVec2<double> between = second.start - first.start;
     const double denominator = cross(along, other);
-    const double noise = g_touchDistance * length(along);
-    const bool onOneLine =
-        std::abs(cross(along, between)) <= noise && std::abs(cross(along, second.end - first.start)) <= noise;
-    if (denominator == 0.0 || onOneLine)
+    if (denominator == 0.0)
         return;
     const double fraction = cross(between, other) / denominator;
     if (fraction >= 0.0 && fraction <= 1.0)
         shared.add(pointAt(first, fraction));
+}
+
+void addMeetings(const FrameLine& line, const ArcFrame& frame, SharedPoints& shared) {
+    const LineOnCircle onCircle(line, frame);
+    if (onCircle.meetingCount == 0)
+        shared.add(frame.toWorld(line.at(onCircle.nearest)));
+    for (int i = 0; i < onCircle.meetingCount; ++i)
+        shared.add(frame.toWorld(line.at(onCircle.meetings[i])));
 }
 
 void addLineWithArc(const Edge2d& line, const Edge2d& arc, SharedPoints& shared) {
@@ -56,47 +74,31 @@ void addLineWithArc(const Edge2d& line, const Edge2d& arc, SharedPoints& shared)
     const double chordLength = length(chord);
     if (!(chordLength > 0.0))
         return;
-    const CVec2<double> direction = chord * (1.0 / chordLength);
-    const CVec2<double> centre = arc.centre();
-    const CVec2<double> toCentre = centre - line.start;
-    const CVec2<double> foot = line.start + direction * dot(toCentre, direction);
-    const double height = std::abs(cross(direction, toCentre));
-    const double radius = arc.radius();
-    if (height > radius + g_touchDistance)
-        return;
-    const double half = std::sqrt(std::max(0.0, (radius - height) * (radius + height)));
-    shared.add(foot + direction * half);
-    shared.add(foot - direction * half);
+    const ArcFrame frame(arc);
+    addMeetings({frame.toLocal(line.start), frame.directionToLocal(chord * (1.0 / chordLength))}, frame,
+                shared);
 }
 
-void addArcWithArc(const Edge2d& first, const Edge2d& second, SharedPoints& shared) {
-    const CVec2<double> centre = first.centre();
-    const CVec2<double> between = second.centre() - centre;
-    const double distance = length(between);
-    const double radius = first.radius();
-    const double otherRadius = second.radius();
-    const bool onOneCircle = distance <= g_touchDistance && std::abs(radius - otherRadius) <= g_touchDistance;
-    if (distance == 0.0 || onOneCircle)
-        return;
-    const double along = (distance + (radius - otherRadius) * ((radius + otherRadius) / distance)) / 2.0;
-    const double half = std::sqrt(std::max(0.0, (radius - along) * (radius + along)));
-    const CVec2<double> direction = between * (1.0 / distance);
-    const CVec2<double> foot = centre + direction * along;
-    const CVec2<double> across = leftNormal(direction) * half;
-    shared.add(foot + across);
-    shared.add(foot - across);
+void addArcWithArc(const Edge2d& smaller, const Edge2d& larger, SharedPoints& shared) {
+    const ArcFrame frame(smaller);
+    const CirclePair circles(frame, ArcFrame(larger));
+    if (!circles.concentric)
+        addMeetings(circles.radicalLine, frame, shared);
 }
 
 } // namespace
 
 std::vector<EdgeIntersection> edgeIntersections(const Edge2d& first, const Edge2d& second) {
-    if (squaredDistance(first.box(), second.box()) > g_touchDistance * g_touchDistance)
+    if (squaredDistance(first.looseBox(), second.looseBox()) > g_touchDistance * g_touchDistance)
         return {};
     SharedPoints shared(first, second);
     for (const CVec2<double>& end : {first.start, first.end, second.start, second.end})
         shared.add(end);
+    if (shared.runAlong())
+        return shared.take();
     if (first.isArc() && second.isArc())
-        addArcWithArc(first, second, shared);
+        first.radius() <= second.radius() ? addArcWithArc(first, second, shared)
+                                          : addArcWithArc(second, first, shared);
     else if (first.isArc())
         addLineWithArc(second, first, shared);
     else if (second.isArc())
