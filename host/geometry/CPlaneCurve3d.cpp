@@ -40,12 +40,12 @@ CPlaneCurve3d::CPlaneCurve3d(const CVec3<double>& start, const CVec3<double>& en
         return;
     // Through lies on the arc, so start, through, end run counter-clockwise about u x v.
     m_radius = radius;
-    m_frame.origin = start + toCentre;
+    m_frame.origin = start;
     m_frame.zAxis = normal * (1.0 / area);
     m_frame.xAxis = toCentre * (-1.0 / radius);
     m_frame.yAxis = cross(m_frame.zAxis, m_frame.xAxis);
     const CVec3<double> last = m_frame.toLocal(end);
-    m_sweep = std::atan2(last.y, last.x);
+    m_sweep = std::atan2(last.y, radius + last.x);
     if (m_sweep <= 0.0)
         m_sweep += 6.283185307179586;
 }

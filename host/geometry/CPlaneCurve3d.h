@@ -4,8 +4,9 @@
 
 namespace hrx {
 
-/// A circular arc in space. In its frame (origin the centre, x axis towards the start, y axis towards the
-/// side on which the arc leaves it) the arc is radius * (cos s, sin s, 0) for s from 0 to sweep.
+/// A circular arc in space. In its frame (origin the start, x axis away from the centre, y axis the way the
+/// arc leaves) the arc is radius * (cos s - 1, sin s, 0) for s from 0 to sweep. The centre, whose coordinates
+/// lose precision on flat arcs, is not referred to.
 class CPlaneCurve3d {
 public:
     /// The arc from start through a third point to end. Three points that fix no circle make a degenerate

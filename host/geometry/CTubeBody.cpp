@@ -23,7 +23,8 @@ CExtents3 CTubeBody::GetExtents() const {
 }
 
 bool CTubeBody::isMeasurable() const {
-    return isWithinReach(m_path.frame().origin) && isWithinReach(m_path.radius()) && isWithinReach(m_radius);
+    return isWithinReach(m_path.frame().origin) && isWithinReach(m_path.radius() * m_path.sweep()) &&
+           isWithinReach(m_radius);
 }
 
 void CTubeBody::appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const {

@@ -31,20 +31,25 @@ CVec3<double> TubePiece::support(const CVec3<double>& direction) const {
     CVec2<double> across(local.x * outward.x + local.y * outward.y, local.z);
     const double size = length(across);
     across = size > 0.0 ? across * (m_tubeRadius / size) : CVec2<double>{};
-    const double reach = m_arcRadius + across.x;
-    return m_frame.toWorld({outward.x * reach, outward.y * reach, across.y});
+    const double half = std::sin(0.5 * angle);
+    const CVec2<double> onCentreLine(-2.0 * m_arcRadius * half * half, m_arcRadius * outward.y);
+    return m_frame.toWorld(
+        {onCentreLine.x + outward.x * across.x, onCentreLine.y + outward.y * across.x, across.y});
 }
 
 CVec3<double> TubePiece::onPart(const CVec3<double>& hullPoint) const {
     const CVec3<double> local = m_frame.toLocal(hullPoint);
-    const double fromAxis = std::hypot(local.x, local.y);
-    const CVec2<double> fromCentreLine(fromAxis - m_arcRadius, local.z);
+    const double fromAxis = std::hypot(m_arcRadius + local.x, local.y);
+    // fromAxis - m_arcRadius, which cancels on flat arcs.
+    const double outward =
+        (local.x * (2.0 * m_arcRadius + local.x) + local.y * local.y) / (fromAxis + m_arcRadius);
+    const CVec2<double> fromCentreLine(outward, local.z);
     const double size = length(fromCentreLine);
     if (size <= m_tubeRadius || !(fromAxis > 0.0))
         return hullPoint;
     const CVec2<double> onSkin = fromCentreLine * (m_tubeRadius / size);
-    const double scale = (m_arcRadius + onSkin.x) / fromAxis;
-    return m_frame.toWorld({local.x * scale, local.y * scale, onSkin.y});
+    const double growth = (onSkin.x - outward) / fromAxis;
+    return m_frame.toWorld({local.x + (m_arcRadius + local.x) * growth, local.y * (1.0 + growth), onSkin.y});
 }
 
 void TubePiece::split(ConvexPieces& halves) const {

@@ -6,7 +6,7 @@
 namespace hrx {
 
 /// A stretch of a tube along an arc: the discs across the arc at the angles from first to last (radians, at
-/// most pi apart) about the z axis of a frame. The tube must be no thicker than the arc's own circle.
+/// most pi apart), in the frame of CPlaneCurve3d. The tube must be no thicker than the arc's own circle.
 class TubePiece : public ConvexPiece {
 public:
     TubePiece(const CCoord3<double>& frame, double arcRadius, double tubeRadius, double first, double last);

@@ -1,3 +1,4 @@
+#include "geometry/CPlaneCurve3d.h"
 #include "geometry/GBodyBuilder.h"
 #include "measure.h"
 
@@ -75,5 +76,17 @@ TEST(ExactDistance, isTheSameAtEveryAngleAndPlace) {
             ASSERT_EQ(measured(a, b), pair.distance) << "turn " << i;
             ASSERT_EQ(measured(b, a), pair.distance) << "turn " << i;
         }
+    }
+}
+
+TEST(ExactDistance, isThatOfBentCablesHoweverFlat) {
+    for (const double sagitta : {1e3, 1.0, 1e-2, 1e-4, 4e-6}) {
+        const hrx::CPlaneCurve3d path({-1e4, 0, 4500}, {1e4, 0, 4500}, {0, sagitta, 4500});
+        const Body cable(hrx::GBodyBuilder(true, true).SweepBody(polygon({circle(400)}), path));
+        ASSERT_TRUE(cable) << sagitta;
+        const Body below = raised({rectangle(4000, 9000)}, 4000);
+        const Body beside = raised(at(rectangle(4000, 8000), 0, 5400 + sagitta), 9000);
+        EXPECT_NEAR(measured(*cable, *below), 100, 1e-5) << sagitta;
+        EXPECT_NEAR(measured(*cable, *beside), 1000, 1e-5) << sagitta;
     }
 }
