@@ -30,7 +30,8 @@ void requireWellFormed(const std::string& fileName) {
     if (!file.open(QIODevice::ReadOnly))
         throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
     QBuffer content;
-    content.setData(file.read(kLargestRuleFile));
+    if (file.size() <= kLargestRuleFile)
+        content.setData(file.read(file.size()));
     content.open(QIODevice::ReadOnly);
     if (file.size() > kLargestRuleFile || !isWithinBounds(content.data()))
         throw InputError(fileName + ": too large, too deeply nested or too many entities for a rule file");

@@ -183,7 +183,8 @@ PlanKind appendElement(const UdDbObject& object, Paths& paths) {
 /// An arc through points that nearly lie in line may pass far off the site.
 bool isWithinReach(const hrx::Edge2d& edge) {
     const hrx::CBox2d box = edge.box();
-    return std::isfinite(edge.bulge) && hrx::isWithinReach(box.low) && hrx::isWithinReach(box.high);
+    return hrx::isWithinReach(edge.start) && hrx::isWithinReach(edge.end) && std::isfinite(edge.bulge) &&
+           hrx::isWithinReach(box.low) && hrx::isWithinReach(box.high);
 }
 
 bool canBeDrawn(const PlanPath& path) {

@@ -12,8 +12,9 @@
 
 namespace {
 
-constexpr qint64 kLargestInput = 256 * 1024 * 1024;
-constexpr int kPatience = 3000; // ms in which a named pipe has to find its writer
+constexpr std::size_t kLargestInput = 256 * 1024 * 1024;
+constexpr qint64 kPart = 1024 * 1024; // room for as much is taken at a time, whatever the input's size
+constexpr int kPatience = 3000;       // ms in which a named pipe has to find its writer
 
 [[noreturn]] void failToRead(const std::string& fileName, const QString& reason) {
     throw InputError(fileName + ": cannot be read: " + reason.toStdString());
@@ -46,12 +47,15 @@ std::string inputText(const std::string& fileName, const std::string& what) {
         throw InputError(refusal + "a directory");
     QFile file;
     openPatiently(file, fileName);
-    const QByteArray bytes = file.read(kLargestInput + 1);
+    std::string text;
+    for (QByteArray part = file.read(kPart); !part.isEmpty(); part = file.read(kPart)) {
+        text.append(part.constData(), static_cast<std::size_t>(part.size()));
+        if (text.size() > kLargestInput)
+            throw InputError(refusal + "more than 256 MiB");
+    }
     if (file.error() != QFileDevice::NoError)
         failToRead(fileName, file.errorString());
-    if (bytes.size() > kLargestInput)
-        throw InputError(refusal + "more than 256 MiB");
-    if (bytes.isEmpty() && isPipe(file.handle()))
+    if (text.empty() && isPipe(file.handle()))
         throw InputError(refusal + "a pipe that nothing was written to");
-    return bytes.toStdString();
+    return text;
 }

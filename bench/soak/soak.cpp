@@ -160,5 +160,11 @@ int main(int argc, char** argv) {
         std::puts(digestOf(words[2].toUInt()).constData());
         return 0;
     }
-    return run(words.size() == 2 ? words[1].toUInt() : 10000);
+    const unsigned checks = words.size() == 2 ? words[1].toUInt() : 10000;
+    if (checks < kRounds) {
+        std::fprintf(stderr, "soak: expected a number of checks, %u at least, found \"%s\"\n", kRounds,
+                     qPrintable(words[1]));
+        return 2;
+    }
+    return run(checks);
 }

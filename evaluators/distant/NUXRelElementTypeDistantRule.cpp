@@ -2,6 +2,7 @@
 
 #include "evaluators/distant/pair_walk.h"
 #include "evaluators/distant/spacing_walk.h"
+#include "site/element_type_identifiers.h"
 
 NUXRelElementTypeDistantRule::NUXRelElementTypeDistantRule() {
     m_type = QStringLiteral("RelElementTypeDistantRule");
@@ -16,12 +17,13 @@ std::vector<NuxStandardCheckRule> NUXRelElementTypeDistantRule::check(UdDbBlock*
                                                                       const NuxStandardCheckRule& rule) {
     if (!modelSpace)
         return {};
-    const auto relates = [&rule](QLatin1String type) {
+    const auto relates = [&rule](std::wstring_view identifier) {
+        const auto type = QString::fromWCharArray(identifier.data(), static_cast<int>(identifier.size()));
         return rule.elementType == type && rule.referenceElementType == type;
     };
-    if (relates(QLatin1String("NUX_ELEMENT_TYPE_PREFABHOUSE")))
+    if (relates(NUX_ELEMENT_TYPE_PREFABHOUSE))
         return checkPrefabHouseSpacing(*modelSpace, rule);
-    if (relates(QLatin1String("NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION")))
+    if (relates(NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION))
         return checkSubstationSpacing(*modelSpace, rule);
     return checkAllPairs(*modelSpace, rule);
 }
