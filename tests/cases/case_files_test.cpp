@@ -45,8 +45,9 @@ public:
         m_measured = 0.0;
     }
 
+    bool hasFound() const { return !m_found.empty(); }
     void expectToldOf(const NuxStandardCheckRule& record) const {
-        EXPECT_EQ(m_found.empty(), record.type == "without");
+        EXPECT_EQ(hasFound(), record.type != "without");
         const bool isOfDoors = record.name == "Position_DoorToDoor"; // it finds walls and names their doors
         EXPECT_EQ(m_found.count(record.handle), record.handle != 0 && !isOfDoors ? 1u : 0u);
         const bool hasValue = record.name.endsWith("Area") || record.name.endsWith("Width");
@@ -122,6 +123,7 @@ void judge(const Case& one, const Json& site, const char* placement) {
         watcher.expectToldOf(record);
     }
     EXPECT_EQ(found, expected) << placement;
+    EXPECT_TRUE(one.rule.type != "without" || watcher.hasFound() == found.empty()) << placement;
 }
 
 } // namespace

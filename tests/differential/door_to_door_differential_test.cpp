@@ -4,10 +4,12 @@
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXWallObject.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
+#include "evaluators/position/wall_corner.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
 #include <random>
 
 namespace {
@@ -28,7 +30,7 @@ struct Row {
 constexpr Row kTable[] = {
     {0, 1, 0, 1, 1, 0, 1.0}, {0, 0, 0, 1, 0, 1, 1.0}, {1, 0, 1, 0, 0, 1, -1.0}, {1, 1, 0, 1, 1, 0, -1.0}};
 
-bool meetWidely(const Wall& w, const Wall& v, int& usedRow) {
+std::optional<double> angleByTable(const Wall& w, const Wall& v, int& usedRow) {
     for (const Row& row : kTable) {
         const double dx = w.ends[row.end][0] - v.ends[row.otherEnd][0];
         const double dy = w.ends[row.end][1] - v.ends[row.otherEnd][1];
@@ -44,9 +46,13 @@ bool meetWidely(const Wall& w, const Wall& v, int& usedRow) {
         if (row.crossSign * (ux * vy - uy * vx) < -2.220446049250313e-16)
             angle = 6.283185307179586 - angle;
         usedRow = static_cast<int>(&row - kTable);
-        return angle > 1.5707963267948966;
+        return angle;
     }
-    return false;
+    return std::nullopt;
+}
+
+WallAxis axisOf(const Wall& wall) {
+    return {{wall.ends[0][0], wall.ends[0][1]}, {wall.ends[1][0], wall.ends[1][1]}};
 }
 
 using Records = std::vector<std::pair<qint64, std::vector<qint64>>>;
@@ -61,7 +67,11 @@ Records expectedRecords(const std::vector<Wall>& walls, int (&rowCounts)[4], int
         std::vector<qint64> held = walls[w].doors;
         for (std::size_t v = 0; v < walls.size(); ++v) {
             int row = 0;
-            if (v == w || walls[v].doors.size() > 1 || !meetWidely(walls[w], walls[v], row))
+            if (v == w || walls[v].doors.size() > 1)
+                continue;
+            const std::optional<double> angle = angleByTable(walls[w], walls[v], row);
+            EXPECT_EQ(angle, cornerAngle(axisOf(walls[w]), axisOf(walls[v])));
+            if (!angle || !(*angle > 1.5707963267948966))
                 continue;
             ++rowCounts[row];
             carriedOver += held != walls[w].doors;

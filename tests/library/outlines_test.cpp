@@ -56,7 +56,9 @@ TEST(RectangleOutline, StartsAtTheLowerLeftCornerOfItsOwnFrame) {
     ASSERT_EQ(corners.size(), 5u);
     for (std::size_t i = 0; i < corners.size(); ++i)
         EXPECT_LT(std::hypot(corners[i].x - expected[i].x, corners[i].y - expected[i].y), 1e-12);
-    EXPECT_EQ(buildRectParamPolygon(NUXRectParam({0.0, 0.0}, -4.0, 2.0, 0.0))->GetLoop(0)->ClockSign(), 1);
+    for (const double length : {4.0, -4.0})
+        EXPECT_EQ(buildRectParamPolygon(NUXRectParam({0.0, 0.0}, length, 2.0, 0.0))->GetLoop(0)->ClockSign(),
+                  1);
 }
 
 // Points that lie upon each other or a hair apart, in short and long polylines and in one that is not finite,
