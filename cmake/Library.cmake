@@ -41,6 +41,7 @@ set(library_sources
     site/min_body_distance.cpp
     site/outline_ptr.cpp
     site/polyline_outline.cpp
+    site/raised_outline.cpp
     site/rectangle_outline.cpp
     site/yard_or_3ds_body.cpp)
 

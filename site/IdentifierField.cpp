@@ -6,8 +6,8 @@
 
 IdentifierField::IdentifierField(const QString& field)
     : m_field(field), m_wideField(field.toStdWString()),
-      m_isAscii(std::all_of(field.cbegin(), field.cend(),
-                            [](QChar c) { return c > QChar(0) && c < QChar(128); })) {}
+      m_isPlain(std::none_of(field.cbegin(), field.cend(),
+                             [](QChar c) { return c.isSurrogate() || c.isNull(); })) {}
 
 bool IdentifierField::equalsConverted(const std::wstring& identifier) const {
     return WcharArrayToQString(identifier.c_str()) == m_field;

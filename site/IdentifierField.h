@@ -12,12 +12,12 @@ public:
 
     /// Whether the identifier, turned into a QString by the host, equals the field exactly.
     bool matches(const std::wstring& identifier) const {
-        return m_isAscii ? equalsUpToTerminator(identifier) : equalsConverted(identifier);
+        return m_isPlain ? equalsUpToTerminator(identifier) : equalsConverted(identifier);
     }
 
 private:
-    // Two wide strings give the same ASCII text only when they are equal up to the terminator, so the usual
-    // field is compared without a conversion for each element.
+    // Two wide strings give the same text without surrogates only when they are equal up to the terminator,
+    // so the usual field is compared without a conversion for each element.
     bool equalsUpToTerminator(const std::wstring& identifier) const {
         const std::size_t length = m_wideField.size();
         return identifier.size() >= length && identifier[length] == L'\0' &&
@@ -27,5 +27,5 @@ private:
 
     QString m_field;
     std::wstring m_wideField;
-    bool m_isAscii;
+    bool m_isPlain; ///< neither surrogates nor terminators
 };

@@ -4,13 +4,12 @@
 #include "elements/NUXCalcFunc.h"
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXPrefabHouseObject.h"
-#include "geometry/CExtrudedBody.h"
 #include "geometry/GBodyBuilder.h"
 #include "site/element_type_identifiers.h"
 #include "site/house_footprint.h"
 #include "site/polyline_outline.h"
+#include "site/raised_outline.h"
 #include "site/rectangle_outline.h"
-#include "site/world_frame.h"
 
 namespace {
 
@@ -31,10 +30,7 @@ BodyPtr circleBody(const NUXBaseObject& element, double height) {
 }
 
 BodyPtr polylineBody(const NUXBaseObject& element, double height) {
-    OutlinePtr outline = buildPolylinePolygon(element);
-    hrx::CCoord3<double> frame;
-    frame.origin.z = element.getElevation();
-    return std::make_unique<hrx::CExtrudedBody>(frame, height, outline.release(), true);
+    return raisedOutline(buildPolylinePolygon(element).release(), height, element.getElevation());
 }
 
 BodyPtr doorBody(const NUXElementObject* element) {
@@ -65,7 +61,7 @@ BodyPtr bodyByShape(const NUXElementObject* element, const NUXBaseObject& base, 
 
 BodyPtr buildRectParamBody(const NUXRectParam& rect, double height) {
     const OutlinePtr outline = buildRectParamPolygon(rect);
-    return std::make_unique<hrx::CExtrudedBody>(kWorldFrame, height, outline.get(), true);
+    return raisedOutline(outline.get(), height);
 }
 
 BodyPtr buildHouseWithStairBody(const NUXPrefabHouseObject& house, double height) {

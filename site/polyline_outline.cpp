@@ -2,9 +2,10 @@
 
 #include "cad/UdDbPolyLine.h"
 
+#include <boost/functional/hash.hpp>
+
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <unordered_map>
 #include <utility>
 
@@ -42,20 +43,14 @@ public:
         const auto samePlace = std::find_if(first, last, [&](const auto& kept) {
             return kept.second.x == point.x && kept.second.y == point.y;
         });
-        if (samePlace == last)
-            m_squares.emplace(square, point);
+        if (samePlace != last && point.bulge < samePlace->second.bulge)
+            samePlace->second.bulge = point.bulge;
         else
-            samePlace->second.bulge = point.bulge; // the lesser, or it were a repeat
+            m_squares.emplace(square, point);
     }
 
 private:
     using Square = std::pair<double, double>;
-
-    struct SquareHash {
-        std::size_t operator()(const Square& square) const {
-            return std::hash<double>()(square.first) * 31 + std::hash<double>()(square.second);
-        }
-    };
 
     /// By the inverse of the double epsilon, a power of two: far from the origin this is each place by
     /// itself.
@@ -64,16 +59,12 @@ private:
         return {std::floor(point.x * kSquaresPerMillimetre), std::floor(point.y * kSquaresPerMillimetre)};
     }
 
-    std::unordered_multimap<Square, hrx::PolyPt2d, SquareHash> m_squares;
+    std::unordered_multimap<Square, hrx::PolyPt2d, boost::hash<Square>> m_squares;
 };
-
-bool isFinite(const hrx::PolyPt2d& point) {
-    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.bulge);
-}
 
 std::vector<hrx::PolyPt2d> withoutRepeats(const std::vector<hrx::PolyPt2d>& points) {
     constexpr std::size_t kFewPoints = 64;
-    const bool isShort = points.size() <= kFewPoints || !std::all_of(points.begin(), points.end(), isFinite);
+    const bool isShort = points.size() <= kFewPoints;
     std::vector<hrx::PolyPt2d> kept;
     kept.reserve(points.size());
     KeptPlaces places;

@@ -3,9 +3,8 @@
 #include "elements/NUX3dsObject.h"
 #include "elements/NUXCalcFunc.h"
 #include "elements/NUXYardOBJObject.h"
-#include "geometry/CExtrudedBody.h"
+#include "site/raised_outline.h"
 #include "site/rectangle_outline.h"
-#include "site/world_frame.h"
 
 namespace {
 
@@ -41,5 +40,5 @@ void buildYardOr3dsBody(const UdRxObject* object, BodyPtr& body) {
     buildYardOr3dsPolygon(object, outline);
     if (!NUXCalcFunc::IsNuxStrictlyValid(outline.get(), true))
         return;
-    body = std::make_unique<hrx::CExtrudedBody>(kWorldFrame, 1.0, outline.release(), true);
+    body = raisedOutline(outline.release(), 1.0);
 }

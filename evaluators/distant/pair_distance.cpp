@@ -3,11 +3,10 @@
 #include "elements/NUXOpenHouseObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXRoadObject.h"
-#include "geometry/CExtrudedBody.h"
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
 #include "site/min_body_distance.h"
-#include "site/world_frame.h"
+#include "site/raised_outline.h"
 
 #include <algorithm>
 #include <optional>
@@ -48,7 +47,7 @@ Side fireRoadSide(const NUXElementObject* element) {
     hrx::CPolygon* outline = road->getRoadPoly();
     if (!outline)
         return std::nullopt;
-    return sideWith(std::make_unique<hrx::CExtrudedBody>(kWorldFrame, kBodyHeight, outline, true));
+    return sideWith(raisedOutline(outline, kBodyHeight));
 }
 
 /// Under a rule of this name, open sheds of this use count.
@@ -77,7 +76,6 @@ private:
 struct PairMeasure {
     std::wstring_view firstType;
     Side (*firstSide)(const NUXElementObject* first);
-    bool firstMayMeasureZero;                ///< whatever the reference: what only claims to be a road
     Table<std::wstring_view> referenceTypes; ///< those measured by their element body
     Table<ShedUse> shedUses;                 ///< no rows: open sheds do not count
     const char* otherShedsRule;              ///< counts the open sheds that are no workshop; may be null
@@ -113,25 +111,27 @@ constexpr std::wstring_view kFireRoadReferences[] = {NUX_EDO_TYPE_TEMPLATEYARD, 
 
 constexpr PairMeasure prefabHouseDistance{NUX_ELEMENT_TYPE_PREFABHOUSE,
                                           houseWithStairSide,
-                                          false,
                                           kPrefabHouseReferences,
                                           kPrefabHouseSheds,
                                           nullptr,
                                           true,
                                           true};
-constexpr PairMeasure futureHouseDistance{
-    NUX_ELEMENT_TYPE_FUTUREHOUSE,     elementSide, false, kFutureHouseReferences, kFutureHouseSheds,
-    "Distant_FutureHouseToOpenHouse", false,       false};
+constexpr PairMeasure futureHouseDistance{NUX_ELEMENT_TYPE_FUTUREHOUSE,
+                                          elementSide,
+                                          kFutureHouseReferences,
+                                          kFutureHouseSheds,
+                                          "Distant_FutureHouseToOpenHouse",
+                                          false,
+                                          false};
 constexpr PairMeasure substationDistance{NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION,
                                          elementSide,
-                                         false,
                                          kSubstationReferences,
                                          kSubstationSheds,
                                          nullptr,
                                          false,
                                          false};
-constexpr PairMeasure fireRoadDistance{NUX_EDO_TYPE_ROAD, fireRoadSide, true,  kFireRoadReferences,
-                                       Table<ShedUse>(),  nullptr,      false, false};
+constexpr PairMeasure fireRoadDistance{
+    NUX_EDO_TYPE_ROAD, fireRoadSide, kFireRoadReferences, Table<ShedUse>(), nullptr, false, false};
 
 const PairMeasure* measureOf(std::wstring_view firstType) {
     for (const PairMeasure* measure :
@@ -193,8 +193,6 @@ double pairDistance(const IdentifiedElement& first, const IdentifiedElement& ref
     if (!measure)
         return 0.0;
     Side otherSide = referenceSide(*measure, first.element, reference, rule.name);
-    if (otherSide && otherSide->empty() && !measure->firstMayMeasureZero)
-        return kNoBodyDistance;
     Side firstSide = measure->firstSide(first.element);
     if (!firstSide || !otherSide)
         return 0.0;

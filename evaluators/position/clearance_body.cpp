@@ -3,14 +3,14 @@
 #include "elements/NUXRoadObject.h"
 #include "geometry/BodyDistance.h"
 #include "site/outline_ptr.h"
-#include "site/world_frame.h"
+#include "site/raised_outline.h"
 
 std::unique_ptr<hrx::CExtrudedBody> buildClearanceBody(const NUXRoadObject& road) {
     hrx::CPolygon* outline = road.getRoadPoly();
     if (!outline)
         return nullptr;
     normaliseOrientation(*outline);
-    return std::make_unique<hrx::CExtrudedBody>(kWorldFrame, kHeadroom, outline, true);
+    return raisedOutline(outline, kHeadroom);
 }
 
 double clearanceDistance(const hrx::CExtrudedBody& clearance, const hrx::CBody& body) {

@@ -78,10 +78,11 @@ Placement placementOf(const NUXElementObject& element, std::wstring_view type, c
     Placement placement;
     for (const UdDbObject* box : boxes) {
         const double distance = boxDistance(element, type, *box, ruleName);
-        if (distance < kNotMeasurable)
-            observePair(element, *box, distance);
+        if (!(distance < kNotMeasurable))
+            continue;
+        observePair(element, *box, distance);
         placement.nearest = std::min(placement.nearest, distance);
-        if (distance < kNotMeasurable && !Placement::isRight(distance))
+        if (!Placement::isRight(distance))
             placement.misplaced.push_back(box);
     }
     return placement;

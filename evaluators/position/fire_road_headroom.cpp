@@ -13,6 +13,7 @@
 #include "site/CheckObserver.h"
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
+#include "site/min_body_distance.h"
 #include "site/model_space_walk.h"
 
 #include <algorithm>
@@ -26,7 +27,6 @@ using Roads = std::vector<const NUXRoadObject*>;
 using Records = std::vector<NuxStandardCheckRule>;
 
 constexpr double kElementBodyHeight = 1000.0;
-constexpr double kNoDistance = 1e100;
 
 constexpr std::wstring_view kAllowedElements[] = {
     NUX_EDO_TYPE_ROAD,
@@ -90,7 +90,7 @@ Records checkTowerCrane(const Roads& roads, const NUXTowerCraneObject& crane,
     const auto frontJib = crane.getTowerQianBiBody();
     const auto counterJib = crane.getTowerHouBiBody();
     return intrusions(roads, crane, rule, [&](const hrx::CExtrudedBody& clearance) {
-        double least = kNoDistance;
+        double least = kNoBodyDistance;
         for (const auto* part : {&base, &frontJib, &counterJib}) {
             if (*part)
                 least = std::min(least, clearanceDistance(clearance, **part));
@@ -139,9 +139,10 @@ bool overlaps(double lowest, double highest, double bodyLowest, double bodyHighe
 
 Records checkModelExtents(const Roads& roads, const NUX3dsBaseObject& model,
                           const NuxStandardCheckRule& rule) {
+    // Without extents a model is beyond everything.
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     hrx::CVec3<double> low{kInfinity, kInfinity, kInfinity};
-    hrx::CVec3<double> high{-kInfinity, -kInfinity, -kInfinity};
+    hrx::CVec3<double> high;
     model.GetGeomExtents(low, high);
     return intrusions(roads, model, rule, [&](const hrx::CExtrudedBody& clearance) {
         const hrx::CExtents3 room = clearance.GetExtents();

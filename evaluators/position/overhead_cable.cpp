@@ -72,9 +72,10 @@ Elements collect(const UdDbBlock& modelSpace, const QString& ruleName) {
 }
 
 bool isRaised(const NUXServiceCableObject& cable) {
+    // Without extents a cable is above everything.
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     hrx::CVec3<double> lowest{kInfinity, kInfinity, kInfinity};
-    hrx::CVec3<double> highest{-kInfinity, -kInfinity, -kInfinity};
+    hrx::CVec3<double> highest;
     cable.GetGeomExtents(lowest, highest);
     return !(lowest.z < hrx::g_DistEpsilon);
 }

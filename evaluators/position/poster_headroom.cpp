@@ -5,8 +5,7 @@
 #include "geometry/CPlane.h"
 #include "geometry/CreatePolygon.h"
 #include "site/outline_ptr.h"
-
-#include <array>
+#include "site/raised_outline.h"
 
 namespace {
 
@@ -26,9 +25,7 @@ std::unique_ptr<hrx::CExtrudedBody> raisedSheet(const NUXPosterObject& poster) {
     const std::vector<hrx::PolyPt2d> points{{first.x, first.y, 0.0}, {second.x, second.y, 0.0}};
     OutlinePtr outline(new hrx::CPolygon(points));
     normaliseOrientation(*outline);
-    hrx::CCoord3<double> frame;
-    frame.origin.z = bottomOf(poster);
-    return std::make_unique<hrx::CExtrudedBody>(frame, poster.getHeight(), outline.release(), true);
+    return raisedOutline(outline.release(), poster.getHeight(), bottomOf(poster));
 }
 
 std::unique_ptr<hrx::CExtrudedBody> standingPlate(const NUXPosterObject& poster) {
@@ -36,14 +33,14 @@ std::unique_ptr<hrx::CExtrudedBody> standingPlate(const NUXPosterObject& poster)
     const hrx::CVec2<double> second = poster.getSecondPoint();
     const double bottom = bottomOf(poster);
     const double top = bottom + poster.getHeight();
-    const std::array<hrx::CVec3<double>, 4> points{{{first.x, first.y, bottom},
-                                                    {second.x, second.y, bottom},
-                                                    {second.x, second.y, top},
-                                                    {first.x, first.y, top}}};
+    const hrx::CVec3<double> points[] = {{first.x, first.y, bottom},
+                                         {second.x, second.y, bottom},
+                                         {second.x, second.y, top},
+                                         {first.x, first.y, top}};
     hrx::CPlane plane;
-    if (!plane.CreateByPoints(points.data(), 4))
+    if (!plane.CreateByPoints(points, 4))
         return nullptr;
-    OutlinePtr outline(hrx::CreatePolygon(points.data(), 4, true, plane));
+    OutlinePtr outline(hrx::CreatePolygon(points, 4, true, plane));
     if (!outline)
         return nullptr;
     normaliseOrientation(*outline);

@@ -33,10 +33,6 @@ bool NUXElementTypeRule::isFireRoadLoopClosed(const UdDbBlock& modelSpace) {
     roads.erase(std::remove_if(roads.begin(), roads.end(), isOrdinary), roads.end());
     for (const NUXRoadObject* road : roads)
         observeFound(*road);
-    if (roads.empty())
-        return true;
-    if (roads.size() == 1)
-        return false;
     return roadsFormLoop(roads);
 }
 
@@ -52,5 +48,6 @@ bool NUXElementTypeRule::roadsFormLoop(std::vector<const NUXRoadObject*> roads) 
                 ++meetingPairs;
         }
     }
+    // No road at all passes, one alone never does.
     return meetingPairs >= roads.size();
 }
