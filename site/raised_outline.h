@@ -4,7 +4,7 @@
 
 #include <memory>
 
-/// The solid over an outline, from `elevation` up by `height`, in millimetres. It shares the outline, which its
-/// holder may release or hand over (see hrx::CPolygon).
+/// The solid over an outline, from `elevation` up by `height`, in millimetres. It shares the outline, which
+/// its holder may release or hand over (see hrx::CPolygon).
 std::unique_ptr<hrx::CExtrudedBody> raisedOutline(hrx::CPolygon* outline, double height,
                                                   double elevation = 0.0);

@@ -2,6 +2,7 @@
 #include "geometry/edge_crossing.h"
 #include "geometry/edge_intersections.h"
 #include "geometry/finite.h"
+#include "geometry/outline_shape.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,12 +53,12 @@ struct Span {
     const Edge2d* edge;
 };
 
-Span spanOf(const Edge2d& edge) {
+CBox2d boxOf(const Edge2d& edge) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const CBox2d box = edge.looseBox();
     // The box of an edge at the end of the range of doubles is none; it may lie anywhere.
     const bool isBox = box.low.x <= box.high.x && box.low.y <= box.high.y;
-    return {isBox ? box : CBox2d{{-kInfinity, -kInfinity}, {kInfinity, kInfinity}}, &edge};
+    return isBox ? box : CBox2d{{-kInfinity, -kInfinity}, {kInfinity, kInfinity}};
 }
 
 bool overlapInY(const CBox2d& a, const CBox2d& b) {
@@ -106,14 +107,43 @@ bool isConvexQuadrilateral(const CPolygon& polygon) {
            turnsLeft(sides[3], sides[0]);
 }
 
-/// Sweeps along x, so that long outlines stay quick. What is not finite crosses nothing.
+using Spans = boost::container::small_vector<Span, 8>;
+
+/// The direction in which the edges run for the most part, long ones counting most: the mean of their chords,
+/// each turned to the double of its angle, so that there and back are one direction.
+CVec2<double> mainDirection(const CPolygon& polygon) {
+    CVec2<double> sum;
+    for (const CCoedgeList& loop : polygon.loops())
+        for (const Edge2d& edge : loop.edges()) {
+            const CVec2<double> chord = edge.end - edge.start;
+            sum = sum + CVec2<double>((chord.x - chord.y) * (chord.x + chord.y), 2.0 * chord.x * chord.y);
+        }
+    const double cosine = sum.x / length(sum);
+    if (!(std::abs(cosine) <= 1.0))
+        return {0.0, 1.0};
+    return {std::sqrt(0.5 * (1.0 + cosine)), std::copysign(std::sqrt(0.5 * (1.0 - cosine)), sum.y)};
+}
+
+/// The boxes lie in a frame whose y axis is the main direction: most edges are narrow along x.
+Spans spansOf(const CPolygon& polygon) {
+    const CVec2<double> origin = firstCorner(polygon);
+    const CVec2<double> direction = mainDirection(polygon);
+    const auto turned = [&](const CVec2<double>& point) {
+        const CVec2<double> arm = point - origin;
+        return CVec2<double>(cross(arm, direction), dot(arm, direction));
+    };
+    Spans spans;
+    for (const CCoedgeList& loop : polygon.loops())
+        for (const Edge2d& edge : loop.edges())
+            spans.push_back({boxOf({turned(edge.start), turned(edge.end), edge.bulge}), &edge});
+    return spans;
+}
+
+/// Sweeps across the main direction, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
     if (!isFinite(polygon))
         return true;
-    boost::container::small_vector<Span, 8> spans;
-    for (const CCoedgeList& loop : polygon.loops())
-        for (const Edge2d& edge : loop.edges())
-            spans.push_back(spanOf(edge));
+    Spans spans = spansOf(polygon);
     std::sort(spans.begin(), spans.end(),
               [](const Span& a, const Span& b) { return a.box.low.x < b.box.low.x; });
     for (auto span = spans.begin(); span != spans.end(); ++span)
