@@ -193,6 +193,9 @@ double pairDistance(const IdentifiedElement& first, const IdentifiedElement& ref
     if (!measure)
         return 0.0;
     Side otherSide = referenceSide(*measure, first.element, reference, rule.name);
+    // What only claims to be a road measures 0.0 all the same; others need no body against none.
+    if (otherSide && otherSide->empty() && measure != &fireRoadDistance)
+        return kNoBodyDistance;
     Side firstSide = measure->firstSide(first.element);
     if (!firstSide || !otherSide)
         return 0.0;
