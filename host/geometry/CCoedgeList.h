@@ -26,7 +26,8 @@ public:
 
     const Edges& edges() const { return m_edges; }
 
-    /// 1 counter-clockwise, -1 clockwise, 0 when the loop encloses no area (mean width up to g_DistEpsilon).
+    /// 1 counter-clockwise, -1 clockwise, 0 when the loop encloses no area: none above g_DistEpsilon times
+    /// its girth.
     int ClockSign() const;
     /// Enclosed area, mm2, positive counter-clockwise; arcs counted exactly.
     double signedArea() const;

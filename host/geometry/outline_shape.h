@@ -5,8 +5,8 @@
 
 namespace hrx {
 
-/// All five validity checks, and an area (mean width above g_DistEpsilon). Holes, which run against the loop
-/// around them, are taken off.
+/// All five validity checks, and an area above g_DistEpsilon times the girth. Holes, which run against the
+/// loop around them, are taken off.
 bool isStrictlyValid(const CPolygon& outline);
 
 /// True when the outline has an edge, and every coordinate, arcs included, is within the reach of measuring.
@@ -15,7 +15,7 @@ bool isWithinReach(const CPolygon& outline);
 /// True when the outline is one loop that never turns back on itself: a convex region, flat ones included.
 bool isConvex(const CPolygon& outline);
 
-/// Start of the first edge. The outline must have one.
+/// Start of the first edge; the origin without one.
 CVec2<double> firstCorner(const CPolygon& outline);
 
 /// The outline as it lies in the world's plan when its frame stands upright. The caller owns it.
