@@ -51,6 +51,7 @@ const struct {
     {"corner on edge", {box(0, 0, 10, 10)}, {{{10, 3, 0}, {14, 1, 0}, {14, 6, 0}}}, kShare},
     {"the same", {box(0, 0, 10, 10)}, {box(0, 0, 10, 10)}, kShare},
     {"inside, touching an edge", {box(0, 0, 10, 10)}, {box(0, 3, 5, 6)}, kShare},
+    {"apart by less than is measured", {box(0, 0, 10, 10)}, {box(10.000002, 0, 20, 10)}, kShare},
     {"a hair apart", {box(0, 0, 10, 10)}, {box(10.0001, 0, 20, 10)}, kApart},
     {"apart", {box(0, 0, 10, 10)}, {box(5000, 0, 6000, 10)}, kApart},
     {"boxes overlap", {{{0, 0, 0}, {10, 0, 0}, {0, 10, 0}}}, {{{10, 10, 0}, {6, 10, 0}, {10, 6, 0}}}, kApart},
