@@ -5,21 +5,12 @@
 #include "site_file/site_reader.h"
 #include "site_file/site_reference.h"
 #include "site_file/site_schema.h"
+#include "source_file.h"
 
+#include <QDir>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 namespace {
-
-namespace fs = std::filesystem;
-const fs::path kSource = SOURCE_DIRECTORY;
-
-std::string contents(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 bool readerAccepts(const Json& site) {
     try {
@@ -32,8 +23,7 @@ bool readerAccepts(const Json& site) {
 
 /// The first of some values that the schema of a key allows.
 Json sample(const KeyShape& shape) {
-    const bool isText = shape.schema.value("type", "") == "string";
-    if (isText)
+    if (shape.schema.value("type", "") == "string")
         return "NUX_ELEMENT_POINT";
     if (shape.schema.value("type", "") == "array")
         return Json::array({100, 200});
@@ -96,42 +86,30 @@ TEST(SiteSchema, JudgesEveryKeyOfEveryClassAsTheReaderDoes) {
 TEST(SiteSchema, JudgesSitesAndFootprintsAsTheReaderDoes) {
     SchemaJudge judge(siteSchema().dump());
     const std::string rectangle = R"("center": [0, 0], "length": 1, "depth": 1)";
-    std::vector<std::string> sites = {"[]",
-                                      "{}",
-                                      R"({"objects": {}})",
-                                      R"({"objects": [], "name": 1})",
-                                      R"({"objects": [], "title": ""})",
-                                      R"({"objects": [3]})",
-                                      R"({"objects": [], "name": "a", "note": "b", "$schema": "c"})"};
+    Json sites = Json::parse(R"([[], {}, {"objects": {}}, {"objects": [], "name": 1}, {"objects": [3]},
+        {"objects": [], "title": ""}, {"objects": [], "name": "a", "note": "b", "$schema": "c"}])");
     for (const std::string& keys :
          {rectangle, std::string(R"("center": [0, 0])"), std::string(R"("shapeKind": 77)"),
           rectangle + R"(, "polyline": [[1, 2]])",
           rectangle + R"(, "polyline": [[1, 2]], "shapeKind": "polyline")"})
-        sites.push_back(R"({"objects": [{"class": "woodYard", "handle": 1, )" + keys + "}]}");
-    for (const std::string& text : sites) {
-        const Json site = Json::parse(text);
-        EXPECT_EQ(judge.accepts(site.dump()), readerAccepts(site)) << text;
-    }
+        sites.push_back(siteOf(Json::parse(R"({"class": "woodYard", "handle": 1, )" + keys + "}")));
+    for (const Json& site : sites)
+        EXPECT_EQ(judge.accepts(site.dump()), readerAccepts(site)) << site;
 }
 
 TEST(SiteSchema, IsPublishedAsItIs) {
-    EXPECT_TRUE(contents(kSource / "data" / "site.schema.json") == siteSchema().dump(2) + "\n")
+    EXPECT_TRUE(sourceText("data/site.schema.json") == siteSchema().dump(2) + "\n")
         << "write it anew: firecheck site-schema --output data/site.schema.json";
-    EXPECT_TRUE(contents(kSource / "docs" / "site-classes.md") == siteReference())
+    EXPECT_TRUE(sourceText("docs/site-classes.md") == siteReference())
         << "write it anew: firecheck site-schema --format markdown --output docs/site-classes.md";
 }
 
 TEST(SiteSchema, AcceptsEveryExample) {
     SchemaJudge judge(siteSchema().dump());
-    std::size_t examples = 0;
-    for (const auto& entry : fs::directory_iterator(kSource / "examples")) {
-        if (entry.path().extension() != ".json")
-            continue;
-        ++examples;
-        EXPECT_TRUE(judge.accepts(contents(entry.path()))) << entry.path();
-        EXPECT_NO_THROW(loadSite(entry.path().string()));
-    }
-    EXPECT_GT(examples, 0u);
+    const QStringList examples = QDir(SOURCE_DIRECTORY "/examples").entryList({"*.json"});
+    EXPECT_FALSE(examples.empty());
+    for (const QString& name : examples)
+        EXPECT_TRUE(judge.accepts(sourceText("examples/" + name.toStdString()))) << name.toStdString();
 }
 
 } // namespace

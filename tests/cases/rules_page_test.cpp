@@ -1,4 +1,5 @@
 #include "rules_page/rules_page.h"
+#include "source_file.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
@@ -6,11 +7,6 @@
 #include <set>
 
 namespace {
-
-std::string contentOf(const QString& fileName) {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "cannot be read";
-}
 
 /// The page of one file with these cases, of rules "Without_A" and "Without_B".
 std::string pageWith(const std::string& cases) {
@@ -26,14 +22,13 @@ std::string pageWith(const std::string& cases) {
 } // namespace
 
 TEST(RulesPage, IsPublishedAsItIs) {
-    const QString docs = QStringLiteral(SOURCE_DIRECTORY "/docs/");
     std::set<QString> plans;
     for (const PageFile& file : rulesPage(readCaseFiles(SOURCE_DIRECTORY "/cases"))) {
-        EXPECT_EQ(contentOf(docs + file.name.c_str()), file.content) << file.name;
+        EXPECT_EQ(sourceText("docs/" + file.name), file.content) << file.name;
         EXPECT_LT(file.name == "rules.md" ? 0u : file.content.size(), 60000u) << file.name;
         plans.insert(QFileInfo(file.name.c_str()).fileName());
     }
-    for (const QString& name : QDir(docs + "rules").entryList(QDir::Files))
+    for (const QString& name : QDir(SOURCE_DIRECTORY "/docs/rules").entryList(QDir::Files))
         EXPECT_EQ(plans.count(name), 1u) << name.toStdString() << " belongs to no case file";
 }
 

@@ -3,9 +3,9 @@
 #include "check/check_site.h"
 #include "rules/rule_file.h"
 #include "site_file/site_reader.h"
+#include "source_file.h"
 
 #include <algorithm>
-#include <fstream>
 
 /// What a check of the site finds, sorted: each the rule's name, the offending element (0 for none), a colon
 /// and the related elements.
@@ -23,6 +23,5 @@ inline std::vector<std::string> findings(const Json& site, const RuleMap& rules)
 
 /// A JSON file of the source tree.
 inline Json sourceJson(const std::string& fileName) {
-    std::ifstream file(SOURCE_DIRECTORY "/" + fileName);
-    return Json::parse(file);
+    return Json::parse(sourceText(fileName));
 }

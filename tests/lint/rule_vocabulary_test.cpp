@@ -7,11 +7,11 @@
 #include "rules/vocabulary_report.h"
 #include "site/min_body_distance.h"
 #include "site_file/site_reader.h"
+#include "source_file.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <set>
 
 // Holds the table of rule names against the shipped rule file and the distances against what is measured.
@@ -97,8 +97,7 @@ TEST(RuleVocabulary, KnowsTheNamesUnderWhichShedsCount) {
 }
 
 TEST(RuleVocabulary, IsPublishedAsItIs) {
-    std::ifstream stream(SOURCE_DIRECTORY "/docs/rule-names.md", std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), vocabularyMarkdown());
+    EXPECT_EQ(sourceText("docs/rule-names.md"), vocabularyMarkdown());
 }
 
 } // namespace

@@ -5,25 +5,20 @@
 #include "check/check_site.h"
 #include "report/ReportWriter.h"
 #include "site_file/site_reader.h"
+#include "source_file.h"
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <ctime>
 #include <fstream>
-#include <iterator>
 #include <sys/stat.h>
 #include <thread>
 
 namespace {
 
 const std::string kChecked = "checked";
-
-std::string example(const std::string& name) {
-    std::ifstream stream(SOURCE_DIRECTORY "/examples/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// kChecked, or what is no number, or none that can be.
 std::string flawOf(const SiteReport& report) {
@@ -50,7 +45,7 @@ std::string outcomeOf(const std::string& text) {
 }
 
 TEST(SiteFile, CutOffOrWithAWrongBitAnywhereIsRefusedOrChecked) {
-    const std::string whole = example("small-yard.json");
+    const std::string whole = sourceText("examples/small-yard.json");
     int checked = 0;
     for (std::size_t at = 0; at < whole.rfind('}'); ++at) {
         ASSERT_EQ(outcomeOf(whole.substr(0, at)).rfind("site.json:", 0), 0u) << at;
@@ -64,7 +59,7 @@ TEST(SiteFile, CutOffOrWithAWrongBitAnywhereIsRefusedOrChecked) {
 }
 
 TEST(SiteFile, WithAnOddNumberAnywhereIsRefusedThereOrChecked) {
-    const Json site = Json::parse(example("every-rule-offends.json"));
+    const Json site = Json::parse(sourceText("examples/every-rule-offends.json"));
     const Json leaves = site.flatten();
     for (const auto& [pointer, value] : leaves.items())
         for (const double odd : {1e12, -1e12, 5e-324, 1e308}) {
@@ -102,7 +97,7 @@ TEST(SiteFile, HoldsWhatIsOddOrIsTold) {
 }
 
 TEST(SiteFile, HoldsWhatHasNoExtent) {
-    const std::string yard = example("small-yard.json");
+    const std::string yard = sourceText("examples/small-yard.json");
     const auto expectChecked = [&](const std::string& kind, const std::string& place) {
         const std::string object = ", {\"class\": " + kind + ", \"handle\": 99, " + place + "}]}";
         EXPECT_EQ(outcomeOf(yard.substr(0, yard.rfind(']')) + object), kChecked) << object;
@@ -126,7 +121,7 @@ TEST(SiteFile, HoldsWhatHasNoExtent) {
 }
 
 TEST(SiteFile, OfHundredThousandsOfPointsAndObjectsIsCheckedInSeconds) {
-    Json site = Json::parse(example("small-yard.json"));
+    Json site = Json::parse(sourceText("examples/small-yard.json"));
     Json yard = {{"class", "woodYard"}, {"handle", 101}};
     Json wall = {{"class", "wall"}, {"handle", 102}, {"start", {0, 0}}, {"end", {9, 0}}};
     for (int i = 0; i < 200000; ++i) {
@@ -146,13 +141,10 @@ TEST(SiteFile, ThatIsAPipeIsReadWhenSomebodyWrites) {
     const QTemporaryDir directory;
     const std::string name = directory.filePath("site.json").toStdString();
     ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
-    try {
-        loadSite(name);
-        FAIL();
-    } catch (const InputError& error) {
-        EXPECT_EQ(error.what(), name + ": expected a site file, found a pipe that nothing was written to");
-    }
-    std::thread writer([&] { std::ofstream(name) << example("small-yard.json"); });
+    EXPECT_THAT([&] { loadSite(name); },
+                testing::ThrowsMessage<InputError>(
+                    name + ": expected a site file, found a pipe that nothing was written to"));
+    std::thread writer([&] { std::ofstream(name) << sourceText("examples/small-yard.json"); });
     EXPECT_EQ(loadSite(name).labels.size(), 12u);
     writer.join();
 }
