@@ -1,32 +1,12 @@
-#include "base/rooted_file_name.h"
+#include "RuleStoreAccess.h"
 #include "rule_map_outline.h"
-#include "rules_config/NUXRuleConfigFile.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
-
-struct RuleStoreAccess {
-    static NUXRuleConfigFile load() { return NUXRuleConfigFile(); }
-};
 
 namespace {
 
-void writeRules(const QString& directory, const QByteArray& text) {
-    QFile file(directory + "/FireStandardCheck.xml");
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
-NUXRuleConfigFile storeOf(const QByteArray& text) {
-    const QTemporaryDir root;
-    writeRules(root.path(), text);
-    setDriveRoot(root.path());
-    return RuleStoreAccess::load();
-}
-
 RuleMap rulesOf(const QByteArray& text) {
-    return storeOf(text).getAllRuleMap();
+    return RuleStoreAccess().load(text).getAllRuleMap();
 }
 
 } // namespace
@@ -82,24 +62,20 @@ TEST(RuleStore, ReadsARuleAsItStands) {
 }
 
 TEST(RuleStore, SelectsByExactType) {
-    const NUXRuleConfigFile store =
-        storeOf("<a><g><R Type='self'/><R Type='distant'/><Q Type='self'/><P Type='selfish'/></g></a>");
+    const NUXRuleConfigFile store = RuleStoreAccess().load(
+        "<a><g><R Type='self'/><R Type='distant'/><Q Type='self'/><P Type='selfish'/></g></a>");
     EXPECT_EQ(outline(store.getRuleMapFromType("self")), "Q: Q; R: R");
     EXPECT_EQ(outline(store.getRuleMapFromType("distant")), "R: R");
     EXPECT_EQ(outline(store.getRuleMapFromType("Self")), "");
 }
 
 TEST(RuleStore, ReadsOnceAtTheFirstCall) {
-    const QTemporaryDir first;
-    const QTemporaryDir second;
-    for (const auto& [directory, text] : {std::pair(first.path(), "<a><g><First/></g></a>"),
-                                          std::pair(second.path(), "<a><g><Second/></g></a>")}) {
-        writeRules(directory, text);
-    }
-    setDriveRoot(first.path());
+    const RuleStoreAccess first;
+    first.load("<a><g><First/></g></a>");
     NUXRuleConfigFile* store = NUXRuleConfigFile::Single();
-    setDriveRoot(second.path());
-    store->setConfigFilePath(second.path());
+    const RuleStoreAccess second;
+    second.load("<a><g><Second/></g></a>");
+    store->setConfigFilePath(second.root.path());
     EXPECT_EQ(NUXRuleConfigFile::Single(), store);
     EXPECT_EQ(outline(store->getAllRuleMap()), "First: First");
     EXPECT_EQ(outline(NUXRuleConfigFile(*store).getAllRuleMap()), "First: First");
