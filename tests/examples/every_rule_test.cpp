@@ -41,20 +41,11 @@ const RuleMap& shippedRulesWithOtherValues() {
     return loadRules(changed.fileName().toStdString());
 }
 
-/// The vocabulary of rule names, and whatever else the rule file holds.
-std::set<std::string> namesToJudge(const RuleMap& rules) {
-    std::set<std::string> names;
-    for (const RuleName& known : ruleNames())
-        names.insert(known.name);
-    for (const auto& sharingKey : rules)
-        for (const NuxStandardCheckRule& rule : sharingKey)
-            names.insert(rule.name.toStdString());
-    return names;
-}
-
 TEST(EveryRule, IsBrokenByTheSiteMadeForIt) {
     const RuleMap& rules = shippedRulesWithOtherValues();
-    std::set<std::string> notBroken = namesToJudge(rules);
+    std::set<std::string> notBroken;
+    for (const RuleName& known : ruleNames())
+        notBroken.insert(known.name);
     for (const std::string& found : findings(sourceJson("examples/every-rule-offends.json"), rules))
         notBroken.erase(found.substr(0, found.find(' ')));
     EXPECT_EQ(notBroken, std::set<std::string>{});

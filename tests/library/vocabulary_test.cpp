@@ -1,39 +1,24 @@
 #include "site/IdentifierField.h"
 #include "site/element_type_identifiers.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <set>
 #include <string>
 #include <vector>
 
 namespace {
 
-struct Constant {
-    std::wstring_view text;
-    const char* name;
-};
-
-#define CONSTANT(name) Constant{name, #name},
-const std::vector<Constant> kElementFamily{NUX_ELEMENT_FAMILY(CONSTANT)};
-const std::vector<Constant> kDrawingObjectFamily{NUX_DRAWING_OBJECT_FAMILY(CONSTANT)};
-
-void expectFamily(const std::vector<Constant>& family, const std::string& prefix, std::size_t count) {
-    std::set<std::wstring_view> texts;
-    for (const Constant& constant : family) {
-        EXPECT_EQ(std::string(constant.text.begin(), constant.text.end()), constant.name);
-        EXPECT_EQ(std::string(constant.name).rfind(prefix, 0), 0u) << constant.name;
-        texts.insert(constant.text);
-    }
-    EXPECT_EQ(texts.size(), count);
-    EXPECT_EQ(family.size(), count);
-}
+#define TEXT(name) std::wstring(name),
+const std::vector<std::wstring> kElementFamily{NUX_ELEMENT_FAMILY(TEXT)};
+const std::vector<std::wstring> kDrawingObjectFamily{NUX_DRAWING_OBJECT_FAMILY(TEXT)};
 
 } // namespace
 
-TEST(Vocabulary, FamiliesAreCompleteAndSpellTheirNames) {
-    expectFamily(kElementFamily, "NUX_ELEMENT_TYPE_", 165);
-    expectFamily(kDrawingObjectFamily, "NUX_EDO_TYPE_", 96);
+TEST(Vocabulary, FamiliesAreCompleteAndOfTheirPrefix) {
+    EXPECT_EQ(kElementFamily.size(), 165u);
+    EXPECT_THAT(kElementFamily, testing::Each(testing::StartsWith(L"NUX_ELEMENT_TYPE_")));
+    EXPECT_EQ(kDrawingObjectFamily.size(), 96u);
+    EXPECT_THAT(kDrawingObjectFamily, testing::Each(testing::StartsWith(L"NUX_EDO_TYPE_")));
 }
 
 TEST(IdentifierField, MatchesTheWholeTextAndNothingElse) {

@@ -40,7 +40,6 @@ TEST(LintRuleFile, TypesAndNames) {
     expectFindingsInGroup({
         {R"(<Self_RoadLoop Type="self"/>)", {}},
         {R"(<Self_RoadLoop Type="Self"/>)", {"2:16 unknown-type > self"}},
-        {R"(<Self_RoadLoop Type="roads"/>)", {"2:16 unknown-type > self"}},
         {R"(<Roads Type=""/>)", {"2:8 unknown-type"}},
         {R"(<Self_RoadLoop/>)", {"2:1 unknown-type > self"}},
         {R"(<Self_RoadLoop type="self"/>)", {"2:1 unknown-type > self", "2:16 unread-attribute > Type"}},

@@ -8,7 +8,6 @@
 #include <bitset>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 #include <map>
 #include <memory>
 #include <ostream>
