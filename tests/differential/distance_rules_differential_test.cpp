@@ -37,15 +37,12 @@ constexpr double kFar = 1e100;
 
 /// The gap between the boxes of two things, of a house with its gallery and its stairs at both ends.
 double gap(const Thing& a, const Thing& b) {
-    const auto halfLength = [](const Thing& t) {
-        return 0.5 * t.length + (t.ofClass == Class::House ? 1600.0 : 0.0);
-    };
-    const auto halfDepth = [](const Thing& t) {
-        return 0.5 * t.depth + (t.ofClass == Class::House ? 250.0 : 0.0);
-    };
-    const auto middle = [](const Thing& t) { return t.y - (t.ofClass == Class::House ? 250.0 : 0.0); };
-    return std::hypot(std::max(0.0, std::abs(a.x - b.x) - halfLength(a) - halfLength(b)),
-                      std::max(0.0, std::abs(middle(a) - middle(b)) - halfDepth(a) - halfDepth(b)));
+    const auto stairs = [](const Thing& t) { return t.ofClass == Class::House ? 1600.0 : 0.0; };
+    const auto gallery = [](const Thing& t) { return t.ofClass == Class::House ? 500.0 : 0.0; };
+    const double length = 0.5 * (a.length + b.length) + stairs(a) + stairs(b);
+    const double depth = 0.5 * (a.depth + gallery(a) + b.depth + gallery(b));
+    const double aside = a.y - 0.5 * gallery(a) - b.y + 0.5 * gallery(b); // the gallery lies to the south
+    return std::hypot(std::max(0.0, std::abs(a.x - b.x) - length), std::max(0.0, std::abs(aside) - depth));
 }
 
 /// The distance that a rule of this name takes from first to reference; kFar when the pair does not count.
