@@ -65,8 +65,11 @@ bool overlapInY(const CBox2d& a, const CBox2d& b) {
     return a.low.y <= b.high.y && b.low.y <= a.high.y;
 }
 
-/// A line and an arc from one corner: true when the line ends before it could meet the arc's circle again.
+/// A line and an arc from one corner: true when the line lies to the other side of the chord than the arc, or
+/// ends before it could meet the arc's circle again.
 bool staysOffArc(const CVec2<double>& line, const Edge2d& arc) {
+    if (cross(arc.end - arc.start, line) * arc.bulge > 0.0)
+        return true;
     const CVec2<double> inward = leftNormal(arc.startDirection()) * std::copysign(1.0, arc.bulge);
     return dot(line, line) < 2.0 * arc.radius() * dot(inward, line) - g_touchDistance * length(line) ||
            dot(inward, line) < 0.0;
