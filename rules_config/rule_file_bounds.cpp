@@ -21,7 +21,7 @@ constexpr int kLongestExpansion = 4096; // of one entity, at which the reader it
 class BoundsHandler : public QXmlDefaultHandler {
 public:
     explicit BoundsHandler(const QByteArray& ruleFile)
-        : m_references(ruleFile.count('&')), m_groups(ruleFile.count('(')) {}
+        : m_references(ruleFile.count('&') + ruleFile.count('%')), m_groups(ruleFile.count('(')) {}
 
     bool isWithinBounds() const { return m_isWithinBounds; }
 
@@ -29,9 +29,12 @@ public:
         return require(m_groups <= kMostGroups);
     }
 
-    bool internalEntityDecl(const QString&, const QString& value) override {
-        const bool nests = value.contains('&') || value.contains('%');
-        m_longestExpansion = std::max<qint64>(m_longestExpansion, nests ? kLongestExpansion : value.size());
+    bool internalEntityDecl(const QString& name, const QString& value) override {
+        // The reader bounds what elements expand to, but not what the document type does.
+        if (name.startsWith('%') && (value.contains('&') || value.contains('%')))
+            return require(false);
+        m_longestExpansion =
+            std::max<qint64>(m_longestExpansion, value.contains('&') ? kLongestExpansion : value.size());
         return require(++m_entities <= kMostEntities &&
                        m_references * m_longestExpansion <= kLargestRuleFile);
     }
@@ -47,8 +50,8 @@ public:
 
 private:
     bool require(bool holds) {
-        m_isWithinBounds = m_isWithinBounds && holds;
-        return m_isWithinBounds;
+        m_isWithinBounds &= holds;
+        return holds;
     }
 
     qint64 m_references;

@@ -77,6 +77,14 @@ TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
          inGroup("<R><ObjName>" + QByteArray("&e;").repeated(100000) + "</ObjName></R>",
                  "<!DOCTYPE a [<!ENTITY e \"" + QByteArray("y").repeated(4000) + "\">]>"),
          0},
+        {"a long entity that the document type uses often",
+         inGroup(rule, "<!DOCTYPE a [<!ENTITY % p \"" + QByteArray(4000, ' ') + "\">" +
+                           QByteArray("%p;").repeated(20000) + "]>"),
+         0},
+        {"entities of the document type that multiply",
+         inGroup(rule, "<!DOCTYPE a [<!ENTITY % p \" \"><!ENTITY % q \"&#37;p;\">%q;]>"), 0},
+        {"a default value that multiplies",
+         inGroup(rule, "<!DOCTYPE a [<!ENTITY e \"x\"><!ENTITY % p \"<!ATTLIST R k CDATA '&e;'>\">%p;]>"), 0},
         {"more entities than any rule file needs",
          inGroup(rule, "<!DOCTYPE a [" + numbered("<!ENTITY e%1 \"x\">", 20000) + "]>"), 0},
         {"an entity that contains itself", inGroup("&e;" + rule, "<!DOCTYPE a [<!ENTITY e \"&e;\">]>"), 0},
@@ -89,9 +97,10 @@ TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
 }
 
 TEST_F(RuleFile, WithSoberEntitiesIsReadAsItStands) {
-    const RuleMap rules = rulesOf(inGroup("<R Standard='&code;, 3.3.2'><ObjName>&road;</ObjName></R>",
-                                          "<!DOCTYPE a [<!ELEMENT a (g|(h,i))><!ENTITY code \"GB "
-                                          "50720\"><!ENTITY road \"fire <b>road</b>\">]>"));
+    const RuleMap rules = rulesOf(inGroup(
+        "<R Standard='&code;, 3.3.2'><ObjName>&road;</ObjName></R>",
+        "<!DOCTYPE a [<!ELEMENT a (g|(h,i))><!ENTITY code \"GB "
+        "50720\"><!ENTITY % type \"<!ATTLIST R k CDATA 'v'>\">%type;<!ENTITY road \"fire <b>road</b>\">]>"));
     ASSERT_EQ(rules.value("R").size(), 1u);
     EXPECT_EQ(rules["R"][0].standard, "GB 50720, 3.3.2");
     EXPECT_EQ(rules["R"][0].objName, "fire road");
