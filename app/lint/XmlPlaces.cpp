@@ -14,16 +14,22 @@ bool isBreak(const QString& text, int index) {
 } // namespace
 
 XmlPlaces::XmlPlaces(const QString& text) : m_text(text), m_lineStarts{0} {
-    for (int i = 0; i < text.size(); ++i)
+    for (int i = 0; i < text.size(); ++i) {
         if (isBreak(text, i))
             m_lineStarts.push_back(i + 1);
+        if (i > 0 && text[i].isLowSurrogate() && text[i - 1].isHighSurrogate())
+            m_secondUnits.push_back(i);
+    }
 }
 
 Place XmlPlaces::placeAt(int offset) const {
     const auto after = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), offset);
     const int lineStart = *(after - 1);
-    const int column = m_text.mid(lineStart, offset - lineStart).toUcs4().size() + 1;
-    return {static_cast<int>(after - m_lineStarts.begin()), column};
+    const auto unitsBefore = [&](int end) {
+        return std::lower_bound(m_secondUnits.begin(), m_secondUnits.end(), end) - m_secondUnits.begin();
+    };
+    const auto secondUnits = static_cast<int>(unitsBefore(offset) - unitsBefore(lineStart));
+    return {static_cast<int>(after - m_lineStarts.begin()), offset - lineStart - secondUnits + 1};
 }
 
 int XmlPlaces::tokenStart(qint64 offset) const {

@@ -24,4 +24,5 @@ private:
 
     QString m_text;
     std::vector<int> m_lineStarts;
+    std::vector<int> m_secondUnits; ///< of the characters that take two
 };

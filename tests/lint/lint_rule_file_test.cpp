@@ -41,6 +41,7 @@ TEST(LintRuleFile, TypesAndNames) {
         {R"(<Self_RoadLoop Type="self"/>)", {}},
         {R"(<Self_RoadLoop Type="Self"/>)", {"2:16 unknown-type > self"}},
         {R"(<Roads Type=""/>)", {"2:8 unknown-type"}},
+        {"\U0001F525\n\U0001F525<Roads Type=''/>", {"2:1 empty-record", "3:9 unknown-type"}},
         {R"(<Self_RoadLoop/>)", {"2:1 unknown-type > self"}},
         {R"(<Self_RoadLoop type="self"/>)", {"2:1 unknown-type > self", "2:16 unread-attribute > Type"}},
         {R"(<Self_Roadloop Type="self"/>)", {"2:1 unknown-name > Self_RoadLoop"}},
