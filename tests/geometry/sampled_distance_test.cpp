@@ -78,6 +78,10 @@ struct Kinds {
     Maker second;
 };
 
+void PrintTo(const Kinds& kinds, std::ostream* out) {
+    *out << kinds.name;
+}
+
 class SampledDistance : public testing::TestWithParam<Kinds> {};
 
 /// The nearest points must be points of the solids and as far apart as the distance says: it is not too
@@ -124,5 +128,4 @@ INSTANTIATE_TEST_SUITE_P(Solids, SampledDistance,
                                          Kinds{"tiltedPrismAndPlate", tiltedPrism, tiltedPlate},
                                          Kinds{"cylinders", leaningCylinder, leaningCylinder},
                                          Kinds{"cylinderAndTube", leaningCylinder, anyTube},
-                                         Kinds{"tubes", levelTube, anyTube}),
-                         [](const auto& kinds) { return kinds.param.name; });
+                                         Kinds{"tubes", levelTube, anyTube}));
