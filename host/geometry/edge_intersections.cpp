@@ -17,6 +17,8 @@ public:
 
     void add(const CVec2<double>& candidate) {
         const double onFirst = nearestFraction(m_first, candidate);
+        if (isInStretch(onFirst))
+            return;
         const CVec2<double> point = pointAt(m_first, onFirst);
         if (!(length(point - candidate) <= g_touchDistance) || !isOnSecond(candidate))
             return;
@@ -27,19 +29,33 @@ public:
             m_points.push_back({point, onFirst, nearestFraction(m_second, candidate)});
     }
 
-    /// Whether the edges share a stretch between two of the points.
-    bool runAlong() {
+    /// Between which of the points so far the edges run along each other; points added later do not lie
+    /// there.
+    void findStretches() {
         std::sort(m_points.begin(), m_points.end(),
                   [](const EdgeIntersection& a, const EdgeIntersection& b) { return a.onFirst < b.onFirst; });
-        return std::adjacent_find(m_points.begin(), m_points.end(),
-                                  [&](const EdgeIntersection& from, const EdgeIntersection& to) {
-                                      return isOnSecond(pointAt(m_first, 0.5 * (from.onFirst + to.onFirst)));
-                                  }) != m_points.end();
+        for (std::size_t i = 1; i < m_points.size(); ++i) {
+            const Stretch stretch{m_points[i - 1].onFirst, m_points[i].onFirst};
+            if (isOnSecond(pointAt(m_first, 0.5 * (stretch.from + stretch.to))))
+                m_stretches.push_back(stretch);
+        }
     }
 
     std::vector<EdgeIntersection> take() { return std::move(m_points); }
 
 private:
+    /// Fractions of the first edge.
+    struct Stretch {
+        double from;
+        double to;
+    };
+
+    bool isInStretch(double onFirst) const {
+        return std::any_of(m_stretches.begin(), m_stretches.end(), [&](const Stretch& stretch) {
+            return stretch.from <= onFirst && onFirst <= stretch.to;
+        });
+    }
+
     bool isOnSecond(const CVec2<double>& point) const {
         return length(pointAt(m_second, nearestFraction(m_second, point)) - point) <= g_touchDistance;
     }
@@ -47,6 +63,7 @@ private:
     const Edge2d& m_first;
     const Edge2d& m_second;
     std::vector<EdgeIntersection> m_points;
+    std::vector<Stretch> m_stretches;
 };
 
 void addLineWithLine(const Edge2d& first, const Edge2d& second, SharedPoints& shared) {
@@ -94,8 +111,7 @@ std::vector<EdgeIntersection> edgeIntersections(const Edge2d& first, const Edge2
     SharedPoints shared(first, second);
     for (const CVec2<double>& end : {first.start, first.end, second.start, second.end})
         shared.add(end);
-    if (shared.runAlong())
-        return shared.take();
+    shared.findStretches();
     if (first.isArc() && second.isArc())
         first.radius() <= second.radius() ? addArcWithArc(first, second, shared)
                                           : addArcWithArc(second, first, shared);
