@@ -22,9 +22,11 @@ CPlaneCurve3d::CPlaneCurve3d(const CVec3<double>& start, const CVec3<double>& en
         return;
     const CVec3<double> u = through - start;
     const CVec3<double> v = end - start;
-    const CVec3<double> normal = cross(u, v);
     const double uu = dot(u, u);
     const double vv = dot(v, v);
+    // By rounding the product of all but parallel sides leans along them, and the arc would with it.
+    const CVec3<double> product = cross(u, v);
+    const CVec3<double> normal = product - v * (dot(product, v) / vv);
     const double area = length(normal);
     const double longestSide = std::sqrt(std::max({uu, vv, dot(v - u, v - u)}));
     // Points this near to one line cannot be told from it.

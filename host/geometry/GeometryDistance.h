@@ -15,8 +15,8 @@ class CBody;
 /// mm. Beyond, the spacing of doubles (5e-7 mm at 4e9) limits both.
 ///
 /// The tolerance is the precision a caller needs; the result is as stated whatever it says. A null body, one
-/// without points, not finite, or reaching beyond 1e12 mm measures 1e100, and the closest points stay as
-/// given.
+/// without points, not finite, reaching beyond 1e12 mm, or a tube of a greater length, measures 1e100, and
+/// the closest points stay as given.
 double GeometryDistance(const CBody* a, const CBody* b, CVec3<double>& onA, CVec3<double>& onB,
                         double tolerance);
 

@@ -90,3 +90,19 @@ TEST(ExactDistance, isThatOfBentCablesHoweverFlat) {
         EXPECT_NEAR(measured(*cable, *beside), 1000, 1e-5) << sagitta;
     }
 }
+
+TEST(ExactDistance, ofSlopingCablesIsThatOfStraightOnesWhereTheyAreFlat) {
+    const hrx::CVec3<double> start(7620, -13042, 4500);
+    const hrx::CVec3<double> run(-14903, 19157, 4038);
+    hrx::GBodyBuilder builder(true, true);
+    const Body straight(builder.CylinderBody(start, start + run, 10));
+    const Body below = raised(at(rectangle(30000, 9000), 0, 4216), 4000);
+    for (const double sagitta : {1e-3, 1e-4, 1e-5, 4e-6}) {
+        const hrx::CVec3<double> sideways =
+            hrx::CVec3<double>(run.y, -run.x, 0) * (sagitta / std::hypot(run.x, run.y));
+        const hrx::CPlaneCurve3d path(start, start + run, start + run * 0.5 + sideways);
+        const Body bent(builder.SweepBody(polygon({circle(10)}), path));
+        ASSERT_TRUE(bent) << sagitta;
+        EXPECT_NEAR(measured(*bent, *below), measured(*straight, *below), sagitta + 1e-5) << sagitta;
+    }
+}
