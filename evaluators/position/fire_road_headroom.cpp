@@ -10,6 +10,7 @@
 #include "evaluators/position/clearance_body.h"
 #include "evaluators/position/poster_headroom.h"
 #include "evaluators/violation_record.h"
+#include "geometry/CExtents3.h"
 #include "site/CheckObserver.h"
 #include "site/element_body.h"
 #include "site/element_type_identifiers.h"
@@ -140,15 +141,13 @@ bool overlaps(double lowest, double highest, double bodyLowest, double bodyHighe
 Records checkModelExtents(const Roads& roads, const NUX3dsBaseObject& model,
                           const NuxStandardCheckRule& rule) {
     // Without extents a model is beyond everything.
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    hrx::CVec3<double> low{kInfinity, kInfinity, kInfinity};
-    hrx::CVec3<double> high;
-    model.GetGeomExtents(low, high);
+    hrx::CExtents3 extents;
+    model.GetGeomExtents(extents.low, extents.high);
     return intrusions(roads, model, rule, [&](const hrx::CExtrudedBody& clearance) {
         const hrx::CExtents3 room = clearance.GetExtents();
-        return overlaps(low.x, high.x, room.low.x, room.high.x) &&
-               overlaps(low.y, high.y, room.low.y, room.high.y) &&
-               overlaps(low.z, high.z, room.low.z, room.high.z);
+        return overlaps(extents.low.x, extents.high.x, room.low.x, room.high.x) &&
+               overlaps(extents.low.y, extents.high.y, room.low.y, room.high.y) &&
+               overlaps(extents.low.z, extents.high.z, room.low.z, room.high.z);
     });
 }
 

@@ -7,6 +7,7 @@
 #include "evaluators/position/workshop_use.h"
 #include "evaluators/violation_record.h"
 #include "geometry/CArc2d.h"
+#include "geometry/CExtents3.h"
 #include "geometry/CLine2d.h"
 #include "geometry/CPositionJudge.h"
 #include "geometry/DistEpsilon.h"
@@ -17,7 +18,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 
 namespace {
 
@@ -73,11 +73,9 @@ Elements collect(const UdDbBlock& modelSpace, const QString& ruleName) {
 
 bool isRaised(const NUXServiceCableObject& cable) {
     // Without extents a cable is above everything.
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    hrx::CVec3<double> lowest{kInfinity, kInfinity, kInfinity};
-    hrx::CVec3<double> highest;
-    cable.GetGeomExtents(lowest, highest);
-    return !(lowest.z < hrx::g_DistEpsilon);
+    hrx::CExtents3 extents;
+    cable.GetGeomExtents(extents.low, extents.high);
+    return !(extents.low.z < hrx::g_DistEpsilon);
 }
 
 std::vector<hrx::PolyPt2d> planOutline(const NUXBaseObject& area) {
