@@ -12,16 +12,20 @@ public:
 
     /// Whether the identifier, turned into a QString by the host, equals the field exactly.
     bool matches(const std::wstring& identifier) const {
-        return m_isPlain ? equalsUpToTerminator(identifier) : equalsConverted(identifier);
+        return m_isPlain && !mayBeginWithMark(identifier) ? equalsUpToTerminator(identifier)
+                                                          : equalsConverted(identifier);
     }
 
 private:
-    // Two wide strings give the same text without surrogates only when they are equal up to the terminator,
-    // so the usual field is compared without a conversion for each element.
+    // The usual field is compared without a conversion for each element: the identifiers that give such a
+    // text equal it up to the terminator, but for a byte order mark in front, which conversion takes off.
     bool equalsUpToTerminator(const std::wstring& identifier) const {
         const std::size_t length = m_wideField.size();
         return identifier.size() >= length && identifier[length] == L'\0' &&
                std::wmemcmp(identifier.data(), m_wideField.data(), length) == 0;
+    }
+    static bool mayBeginWithMark(const std::wstring& identifier) {
+        return static_cast<char32_t>(identifier[0]) >= QChar::ByteOrderMark;
     }
     bool equalsConverted(const std::wstring& identifier) const;
 

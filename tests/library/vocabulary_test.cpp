@@ -39,6 +39,8 @@ TEST(IdentifierField, MatchesTheWholeTextAndNothingElse) {
         {"食堂", L"食", false},
         {"A" + QString(QChar(0)), std::wstring(L"A\0", 2), false},
         {QString::fromUcs4(U"\U0001F525"), L"\U0001F525", true},
+        {"食堂", L"\uFEFF食堂", true},
+        {QString(QChar(0xFEFF)) + "食堂", L"\uFEFF食堂", false},
     };
     for (const Row& row : rows)
         EXPECT_EQ(IdentifierField(row.field).matches(row.identifier), row.matches) << row.field.toStdString();
