@@ -48,11 +48,13 @@ std::string inputText(const std::string& fileName, const std::string& what) {
     QFile file;
     openPatiently(file, fileName);
     std::string text;
-    for (QByteArray part = file.read(kPart); !part.isEmpty(); part = file.read(kPart)) {
+    QByteArray part;
+    do {
+        part = file.read(kPart);
         text.append(part.constData(), static_cast<std::size_t>(part.size()));
         if (text.size() > kLargestInput)
             throw InputError(refusal + "more than 256 MiB");
-    }
+    } while (part.size() == kPart); // a shorter one is the last: who types would have to end the input twice
     if (file.error() != QFileDevice::NoError)
         failToRead(fileName, file.errorString());
     if (text.empty() && isPipe(file.handle()))
