@@ -125,11 +125,13 @@ TEST(SiteFile, OfHundredThousandsOfPointsAndObjectsIsCheckedInSeconds) {
     Json yard = {{"class", "woodYard"}, {"handle", 101}};
     Json wall = {{"class", "wall"}, {"handle", 102}, {"start", {0, 0}}, {"end", {9, 0}}};
     for (int i = 0; i < 200000; ++i) {
-        const double angle = i * 1e-5 * M_PI;
+        // Long spikes: each lies beside all others, whichever way but one is looked.
         if (i % 2 == 0)
-            yard["polyline"].push_back({4e4 * std::cos(angle), 4e4 * std::sin(angle)});
+            yard["polyline"].push_back({i % 4 == 0 ? -4e4 : 4e4, 0.4 * i});
         wall["doors"].push_back({{"distance", i}, {"door", nullptr}});
     }
+    for (const double y : {8e4, 0.0})
+        yard["polyline"].push_back({-5e4, y});
     site["objects"].push_back(std::move(yard));
     site["objects"].push_back(std::move(wall));
     const std::clock_t start = std::clock();
