@@ -2,22 +2,13 @@
 #include "base/rooted_file_name.h"
 #include "cad/UdApDocManager.h"
 #include "elements/NUX3dsObject.h"
-#include "elements/NUXPrefabHouseObject.h"
-#include "elements/NUXRoadObject.h"
 #include "elements/NUXServiceCableObject.h"
 #include "elements/NUXYardOBJObject.h"
 
 #include <gtest/gtest.h>
 
 TEST(Casts, FindEveryViewOfAnObject) {
-    const NUXRoadObject road{NUXRoadParams()};
-    EXPECT_EQ(NUXPrefabHouseObject::Cast(&road), nullptr);
-    EXPECT_EQ(NUX3dsBaseObject::Cast(&road), nullptr);
     EXPECT_EQ(NUXElementObject::Cast(nullptr), nullptr);
-    const UdDbPlainObject plain;
-    EXPECT_EQ(NUXElementObject::Cast(&plain), nullptr);
-    EXPECT_EQ(NUX3dsBaseObject::Cast(&plain), nullptr);
-
     UdDbDocument document;
     NUXYardOBJObject& yard = document.append(std::make_unique<NUXYardOBJObject>(NUXYardOBJParams()), 7);
     yard.attachView(std::make_unique<NUX3dsObject>(L"KIND", NUX3dsParams()));
