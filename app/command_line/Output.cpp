@@ -2,36 +2,55 @@
 
 #include "InputError.h"
 
-#include <cerrno>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
 #include <cstdio>
 #include <unistd.h>
 
-Output::Output(const QString& fileName) : m_name(fileName) {
-    if (fileName.isEmpty())
-        return;
-    m_file = std::make_unique<QSaveFile>(fileName);
-    if (!m_file->open(QIODevice::WriteOnly))
-        fail();
+namespace {
+
+std::unique_ptr<QFileDevice> openedStandardOutput() {
+    auto file = std::make_unique<QFile>();
+    file->open(stdout, QIODevice::WriteOnly);
+    return file;
+}
+
+/// A file to be replaced as a whole; devices and pipes take what is written to them.
+std::unique_ptr<QFileDevice> openedFile(const QString& fileName) {
+    const QFileInfo existing(fileName);
+    std::unique_ptr<QFileDevice> file;
+    if (existing.exists() && !existing.isFile())
+        file = std::make_unique<QFile>(fileName);
+    else
+        file = std::make_unique<QSaveFile>(fileName);
+    file->open(QIODevice::WriteOnly);
+    return file;
+}
+
+} // namespace
+
+Output::Output(const QString& fileName)
+    : m_name(fileName.isEmpty() ? QStringLiteral("standard output") : fileName),
+      m_file(fileName.isEmpty() ? openedStandardOutput() : openedFile(fileName)) {
+    require(m_file->isOpen());
 }
 
 void Output::write(const std::string& piece) {
-    const bool isWritten = m_file ? m_file->write(piece.data(), qint64(piece.size())) == qint64(piece.size())
-                                  : std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size();
-    if (!isWritten)
-        fail();
+    require(m_file->write(piece.data(), qint64(piece.size())) == qint64(piece.size()));
 }
 
 void Output::commit() {
-    if (m_file ? !m_file->commit() : std::fflush(stdout) != 0)
-        fail();
+    auto* const replacement = qobject_cast<QSaveFile*>(m_file.get());
+    require(replacement ? replacement->commit() : m_file->flush());
 }
 
 bool Output::isTerminal() const {
-    return !m_file && isatty(STDOUT_FILENO) == 1;
+    return isatty(m_file->handle()) == 1;
 }
 
-void Output::fail() const {
-    const QString reason = m_file ? m_file->errorString() : qt_error_string(errno);
-    const QString name = m_file ? m_name : QStringLiteral("standard output");
-    throw InputError((name + ": cannot be written: " + reason).toStdString());
+void Output::require(bool succeeded) const {
+    if (!succeeded)
+        throw InputError((m_name + ": cannot be written: " + m_file->errorString()).toStdString());
 }

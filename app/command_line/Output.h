@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QSaveFile>
+#include <QFileDevice>
 #include <QString>
 
 #include <memory>
 #include <string>
 
-/// Where results go: standard output, or a file that takes the place of an older one only when all is
-/// written. Every failure to write throws InputError.
+/// Where results go: standard output, a device or a pipe, or a file that takes the place of an older one only
+/// when all is written. Every failure to write throws InputError.
 class Output {
 public:
     /// An empty name stands for standard output.
@@ -21,8 +21,8 @@ public:
     bool isTerminal() const;
 
 private:
-    [[noreturn]] void fail() const;
+    void require(bool succeeded) const;
 
     QString m_name;
-    std::unique_ptr<QSaveFile> m_file; ///< null for standard output
+    std::unique_ptr<QFileDevice> m_file;
 };

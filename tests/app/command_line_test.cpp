@@ -126,6 +126,8 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          "firecheck: No such command: \"chekc\". Try \"firecheck --help\".\n", 2},
         {"firecheck check fine.json --rules rules.xml > /dev/full", "",
          kMention + "firecheck: standard output: cannot be written: No space left on device\n", 2},
+        {"mkfifo pipe; cat pipe & firecheck check fine.json --rules rules.xml --output pipe", kFineReport,
+         kMention, 0},
         {"firecheck show-rules rules.xml",
          "\"#comment\"\n  - name: \"#comment\"\n\"Self_RoadMinWidth\"\n  - name: \"Self_RoadMinWidth\"\n"
          "    type: \"self\"\n    elementType: \"NUX_EDO_TYPE_ROAD\"\n    standard: \"clause 1\"\n"
