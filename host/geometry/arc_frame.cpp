@@ -1,6 +1,5 @@
 #include "geometry/arc_frame.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace hrx {
@@ -18,16 +17,13 @@ ArcFrame::ArcFrame(const Edge2d& arc) {
 }
 
 double ArcFrame::signedGap(const CVec2<double>& local) const {
-    const double value = equation(local);
-    return value / (1.0 + std::sqrt(std::max(0.0, 1.0 + curvature * value)));
+    return equation(local) / (1.0 + length(fromCentre(local)));
 }
 
 CVec2<double> ArcFrame::footOf(const CVec2<double>& local) const {
-    const double gap = signedGap(local);
-    const double scale = 1.0 + curvature * gap; // distance from the centre, in radii
-    if (!(scale > 0.0))
-        return {};
-    return {local.x / scale, (local.y + gap) / scale};
+    const CVec2<double> arm = fromCentre(local);
+    const double size = length(arm);
+    return size > 0.0 ? pointInDirection(arm * (1.0 / size)) : CVec2<double>();
 }
 
 bool ArcFrame::facesArc(const CVec2<double>& local) const {

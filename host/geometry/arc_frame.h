@@ -16,6 +16,10 @@ struct ArcFrame {
         return apex + along * local.x + inward * local.y;
     }
 
+    /// From the centre to a point, in radii. Exact near the centre, where the equation says nothing of it.
+    CVec2<double> fromCentre(const CVec2<double>& local) const {
+        return {curvature * local.x, curvature * local.y - 1.0};
+    }
     /// Value of the circle's equation; the sign tells inside (negative) from outside.
     double equation(const CVec2<double>& local) const {
         return curvature * dot(local, local) - 2.0 * local.y;

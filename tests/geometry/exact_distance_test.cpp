@@ -50,6 +50,7 @@ const std::vector<Pair>& pairs() {
         {"square in a square hole", frame, at(rectangle(4000, 4000), 5000, 0), 1000},
         {"inside a bend, outside the road", {arcStrip(8000, 12000, 1.5 * kPi)}, {circle(1000)}, 7000},
         {"on the chord of a bend", {arcStrip(8000, 12000, 1.5 * kPi)}, at(circle(1000), -9500, 0), 0},
+        {"beside the centre of a bend", {arcStrip(38000, 42000, 1.5 * kPi)}, {rectangle(1e-7, 1e-7)}, 38000},
         {"half circle added", sided(1), at(circle(500), 8000, 3000), 0},
         {"half circle taken off", sided(-1), at(circle(500), 8000, 3000), 2500},
         {"three-quarter circle",
