@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <exception>
 
+using namespace firecheck;
+
 namespace {
 
 constexpr const char* kHelp =
@@ -27,8 +29,6 @@ constexpr const char* kHelp =
       Finds what the checker passes over in silence in a rule file.
   firecheck site-schema [--format json|markdown] [--output FILE]
       Writes the JSON Schema of site files, or the list of their classes and keys.
-  firecheck rules-page CASES [--output DIRECTORY]
-      Writes the case files of a directory as a page, rules.md, and its plans.
   firecheck --help | --version
 
 Results go to standard output or the file named by --output, which is replaced only
@@ -57,8 +57,6 @@ int run(const QStringList& words) {
         return listRulesCommand(rest);
     if (command == "plan")
         return planCommand(rest);
-    if (command == "rules-page")
-        return rulesPageCommand(rest);
     if (command == "show-rules")
         return showRulesCommand(rest);
     if (command == "site-schema")

@@ -6,44 +6,30 @@ set(library_sources
     engine/NUXCheck.cpp
     engine/NUXRule.cpp
     engine/NuxFireStandardCheck.cpp
+    evaluators/CheckObserver.cpp
     evaluators/distant/DistanceCondition.cpp
     evaluators/distant/NUXRelElementTypeDistantRule.cpp
     evaluators/distant/pair_distance.cpp
-    evaluators/distant/pair_walk.cpp
     evaluators/distant/spacing_walk.cpp
     evaluators/position/NUXRelElementTypePositionRule.cpp
-    evaluators/position/cable_body.cpp
-    evaluators/position/clearance_body.cpp
     evaluators/position/door_to_door.cpp
     evaluators/position/fire_extinguisher_box.cpp
     evaluators/position/fire_road_headroom.cpp
+    evaluators/position/headroom_bodies.cpp
     evaluators/position/overhead_cable.cpp
-    evaluators/position/poster_headroom.cpp
-    evaluators/position/wall_corner.cpp
+    evaluators/rule_catalogue.cpp
     evaluators/self/NUXElementTypeRule.cpp
-    evaluators/self/identified_roads.cpp
-    evaluators/self/one_door_to_road_loop.cpp
-    evaluators/self/prefab_house_floor_area.cpp
-    evaluators/self/prefab_house_room_area.cpp
-    evaluators/self/prefab_house_stairs.cpp
-    evaluators/self/road_loop.cpp
-    evaluators/self/road_min_width.cpp
+    evaluators/self/prefab_house.cpp
+    evaluators/self/road_network.cpp
     evaluators/without/NUXWithoutElementTypeRule.cpp
-    evaluators/without/required_use.cpp
     rules_config/NUXRuleConfigFile.cpp
     rules_config/NuxStandardCheckRule.cpp
-    rules_config/rule_document.cpp
+    rules_config/read_rules.cpp
     rules_config/rule_file_bounds.cpp
-    site/CheckObserver.cpp
     site/IdentifierField.cpp
-    site/element_body.cpp
-    site/house_footprint.cpp
+    site/bodies.cpp
     site/min_body_distance.cpp
-    site/outline_ptr.cpp
-    site/polyline_outline.cpp
-    site/raised_outline.cpp
-    site/rectangle_outline.cpp
-    site/yard_or_3ds_body.cpp)
+    site/outlines.cpp)
 
 get_filename_component(library_root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
 list(TRANSFORM library_sources PREPEND ${library_root}/)

@@ -1,12 +1,12 @@
 #include "engine/NuxFireStandardCheck.h"
 
 #include "cad/UdApDocManager.h"
+#include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
 #include "rules_config/NUXRuleConfigFile.h"
-#include "site/CheckObserver.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ UdDbBlock* currentModelSpace() {
 
 std::vector<NuxStandardCheckRule> judge(NUXRule& evaluator, UdDbBlock* modelSpace,
                                         const NuxStandardCheckRule& rule) {
-    CheckObserver* observer = checkObserver();
+    firestandard::CheckObserver* observer = firestandard::checkObserver();
     if (observer)
         observer->beginRule(rule);
     std::vector<NuxStandardCheckRule> records = evaluator.check(modelSpace, rule);
@@ -72,7 +72,7 @@ NUXRule* NuxFireStandardCheck::evaluatorOf(const QString& ruleType) const {
 void NuxFireStandardCheck::judgeRules(const QString& ruleKey, const std::vector<NuxStandardCheckRule>& rules,
                                       UdDbBlock* modelSpace) {
     // Deliberate: set once for the entry and carried over from record to record and from rule to rule, so
-    // that a record without an element lies beside those of the last element.
+    // that a record without an element lies beside those of the last element, where hosts look for it.
     QString filingKey = ruleKey;
     for (const NuxStandardCheckRule& stored : rules) {
         NUXRule* evaluator = evaluatorOf(stored.type);
@@ -95,7 +95,7 @@ void NuxFireStandardCheck::resetCheckState() {
     }
 }
 
-// Deliberate: keyed by the filing key alone, unlike the flags that DoCheck builds.
+// Deliberate: keyed by the filing key alone, unlike the flags that DoCheck builds; hosts read both.
 void NuxFireStandardCheck::clearMapRulesCheckState() {
     m_mapRulesCheckState.clear();
     for (auto entry = m_mapRules.cbegin(); entry != m_mapRules.cend(); ++entry)

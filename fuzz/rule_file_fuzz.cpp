@@ -1,13 +1,12 @@
-// Any bytes as a rule file: the store must survive them and file each rule under its key.
+// Any bytes as a rule file: reading must survive them and file each rule under its key.
 
-#include "RuleStoreAccess.h"
+#include "RuleFileInPlace.h"
 #include "require.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const RuleStoreAccess access;
-    const NUXRuleConfigFile store =
-        access.load(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
-    const auto& rules = store.getAllRuleMap();
+    static const RuleFileInPlace ruleFile;
+    const auto rules =
+        ruleFile.rulesOf(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
         require(!entry->empty(), "an entry has rules");
         for (const NuxStandardCheckRule& rule : *entry) {

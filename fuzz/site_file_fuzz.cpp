@@ -4,6 +4,8 @@
 #include "require.h"
 #include "site_file/site_reader.h"
 
+using namespace firecheck;
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {
         const Site site = parseSite(std::string(reinterpret_cast<const char*>(data), size), "site.json");

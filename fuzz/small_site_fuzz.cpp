@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace firecheck;
+
 namespace {
 
 constexpr int kMostObjects = 12;

@@ -8,8 +8,6 @@
 
 #include <vector>
 
-class QDomNode;
-
 /// The rules of the rule file, read once in the life of the process.
 ///
 /// A rule is filed under its rule key: its name or, for rules of type "without", the element type directly
@@ -33,12 +31,9 @@ public:
     QMap<QString, std::vector<NuxStandardCheckRule>> getRuleMapFromType(const QString& type) const;
 
 private:
-    friend struct RuleStoreAccess; // for white-box tests, which read more than one file
-
     NUXRuleConfigFile();
 
     void loadFile();
-    NuxStandardCheckRule analyzeRule(const QDomNode& node);
 
     QMap<QString, std::vector<NuxStandardCheckRule>> m_ruleMap;
     QString m_configFilePath;

@@ -10,6 +10,8 @@
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 
+namespace firestandard {
+
 namespace {
 
 constexpr int kDeepestNesting = 256;
@@ -80,5 +82,7 @@ bool isWithinBounds(const QByteArray& ruleFile) {
     reader.parse(source);
     return handler.isWithinBounds();
 }
+
+} // namespace firestandard
 
 QT_WARNING_POP

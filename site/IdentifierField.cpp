@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace firestandard {
+
 IdentifierField::IdentifierField(const QString& field)
     : m_field(field), m_wideField(field.toStdWString()),
       m_isPlain(std::none_of(field.cbegin(), field.cend(),
@@ -12,3 +14,5 @@ IdentifierField::IdentifierField(const QString& field)
 bool IdentifierField::equalsConverted(const std::wstring& identifier) const {
     return WcharArrayToQString(identifier.c_str()) == m_field;
 }
+
+} // namespace firestandard

@@ -5,6 +5,8 @@
 #include <cwchar>
 #include <string>
 
+namespace firestandard {
+
 /// A rule field that holds an element type identifier, ready to be compared with what elements report.
 class IdentifierField {
 public:
@@ -33,3 +35,5 @@ private:
     std::wstring m_wideField;
     bool m_isPlain; ///< neither surrogates nor terminators
 };
+
+} // namespace firestandard

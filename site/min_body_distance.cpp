@@ -1,27 +1,32 @@
 #include "site/min_body_distance.h"
 
 #include "geometry/GeometryDistance.h"
-#include "site/CheckObserver.h"
 
-double minBodyDistance(BodyList first, BodyList second) {
-    double least = kNoBodyDistance;
+namespace firestandard {
+
+std::optional<Contact> leastContact(const BodyList& first, const BodyList& second) {
+    std::optional<Contact> least;
     for (const auto& a : first) {
         for (const auto& b : second) {
-            hrx::CVec3<double> onA;
-            hrx::CVec3<double> onB;
-            const double distance = hrx::GeometryDistance(a.get(), b.get(), onA, onB, 0.1);
-            if (distance < least) {
-                least = distance;
-                if (CheckObserver* observer = checkObserver())
-                    observer->measured(distance, onA, onB);
-            }
+            Contact contact;
+            contact.distance =
+                hrx::GeometryDistance(a.get(), b.get(), contact.onFirst, contact.onSecond, 0.1);
+            if (contact.distance < (least ? least->distance : kNoBodyDistance))
+                least = contact;
         }
     }
-    deleteBodies(first, second);
     return least;
 }
 
-void deleteBodies(BodyList& first, BodyList& second) {
+} // namespace firestandard
+
+double minBodyDistance(firestandard::BodyList first, firestandard::BodyList second) {
+    const auto contact = firestandard::leastContact(first, second);
+    deleteBodies(first, second);
+    return contact ? contact->distance : firestandard::kNoBodyDistance;
+}
+
+void deleteBodies(firestandard::BodyList& first, firestandard::BodyList& second) {
     first.clear();
     second.clear();
 }

@@ -5,6 +5,8 @@
 #include <memory>
 #include <type_traits>
 
+namespace firestandard {
+
 enum class WalkStep { Continue, Stop };
 
 /// Visits every object of the container in its order. `visit` takes a UdDbObject*, null for an object that
@@ -21,3 +23,5 @@ template <class Visit> void walkModelSpace(const UdDbObjContainer& modelSpace, V
             return;
     }
 }
+
+} // namespace firestandard

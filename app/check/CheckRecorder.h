@@ -1,49 +1,44 @@
 #pragma once
 
+#include "evaluators/CheckObserver.h"
 #include "rules_config/NuxStandardCheckRule.h"
-#include "site/CheckObserver.h"
 
 #include <chrono>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
-/// The distance by which a rule judged two elements, mm.
-struct JudgedPair {
-    long long element = 0;
-    long long other = 0;
-    double distance = 0.0;
+namespace firecheck {
 
-    /// Closest points; nothing when the rule took the distance for granted instead of measuring solids.
-    struct Points {
-        hrx::CVec3<double> onElement;
-        hrx::CVec3<double> onOther;
-    };
-    std::optional<Points> points;
+/// A measured comparison that takes part in a violation.
+struct Offence {
+    long long element = 0;
+    long long other = 0; ///< 0 for an element judged by itself
+    firestandard::Measurement measurement;
+    std::optional<firestandard::Contact> contact; ///< nothing when the rule took the distance for granted
 };
 
-struct JudgedValue {
+struct UnjudgedElement {
     long long element = 0;
-    double value = 0.0;
-    double limit = 0.0;
+    firestandard::NotJudged why;
 };
 
 /// What one rule looked at during a check.
 struct RuleRun {
     NuxStandardCheckRule rule;
-    std::size_t found = 0;                  ///< elements that it found to judge
-    std::size_t pairCount = 0;              ///< pairs that it judged by distance
-    std::vector<JudgedValue> values;        ///< by ascending handle
-    std::vector<JudgedPair> offendingPairs; ///< those that break the rule, by ascending handle
-    std::optional<long long> unmeasured;    ///< the last element found, when it was compared with nothing
+    std::size_t judged = 0;                ///< elements that it compared
+    std::size_t pairCount = 0;             ///< pairs that it judged by distance
+    std::vector<Offence> offences;         ///< by ascending handle of the element
+    std::vector<UnjudgedElement> unjudged; ///< elements that it compared with nothing, as it came to them
     std::chrono::nanoseconds time{0};
 };
 
-/// Watches a check as long as it lives. Of the pairs it keeps those that reports name, so that it needs no
+/// Watches a check as long as it lives. Of what it is told it keeps what reports name, so that it needs no
 /// more memory than the results.
-class CheckRecorder : public CheckObserver {
+class CheckRecorder : public firestandard::CheckObserver {
 public:
-    CheckRecorder() { setCheckObserver(this); }
-    ~CheckRecorder() override { setCheckObserver(nullptr); }
+    CheckRecorder() { firestandard::setCheckObserver(this); }
+    ~CheckRecorder() override { firestandard::setCheckObserver(nullptr); }
     CheckRecorder(const CheckRecorder&) = delete;
     CheckRecorder& operator=(const CheckRecorder&) = delete;
 
@@ -52,19 +47,24 @@ public:
 
     void beginRule(const NuxStandardCheckRule& rule) override;
     void endRule() override;
-    void found(const UdDbObject& element) override;
-    void valued(const UdDbObject& element, double value, double limit) override;
-    void measured(double distance, const hrx::CVec3<double>& onFirst,
-                  const hrx::CVec3<double>& onSecond) override;
-    void judgedPair(const UdDbObject& element, const UdDbObject& other, double distance) override;
+    void compared(const firestandard::Comparison& comparison) override;
+    void notJudged(const UdDbObject& element, firestandard::NotJudged why) override;
+    void pairNotJudged(const UdDbObject&, const UdDbObject&, firestandard::NotJudged) override {}
 
 private:
-    /// Files the pairs of the element that came last.
-    void keepOffendingPairs();
+    struct TakenUp {
+        bool isJudged = false;
+        std::optional<firestandard::NotJudged> why;
+    };
+
+    TakenUp& takenUp(const UdDbObject& element);
 
     std::vector<RuleRun> m_runs;
-    std::vector<JudgedPair> m_pairsOfElement;
-    std::optional<JudgedPair::Points> m_lastMeasured;
-    long long m_lastFound = 0;
+    std::unordered_map<long long, TakenUp> m_takenUp; ///< the elements of the rule that is running
+    std::vector<long long> m_order;                   ///< in which they came
+    long long m_lastHandle = 0;
+    TakenUp* m_last = nullptr; ///< that handle's entry; rules mostly stay with one element for a while
     std::chrono::steady_clock::time_point m_begin;
 };
+
+} // namespace firecheck

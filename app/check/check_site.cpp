@@ -5,21 +5,19 @@
 #include "check/element_noun.h"
 #include "check/judged_rules.h"
 #include "check/record_measures.h"
-#include "elements/NUX3dsBaseObject.h"
 #include "engine/NUXCheck.h"
 #include "engine/NuxFireStandardCheck.h"
+#include "evaluators/rule_catalogue.h"
+#include "report/plan/plan_shapes.h"
 #include "report/sentence.h"
-#include "rules/vocabulary.h"
-#include "site/element_type_identifiers.h"
-#include "site_plan/plan_shapes.h"
 
 #include <algorithm>
 #include <map>
 #include <set>
 
-namespace {
+namespace firecheck {
 
-constexpr double kMetresPerMillimetre = 1e-3;
+namespace {
 
 /// A document that is open and current as long as this lives.
 class CurrentDocument {
@@ -140,33 +138,24 @@ std::vector<Finding> findings(const SiteReport& report, const RuleRuns& runs) {
     return result;
 }
 
-bool isKnownType(const NuxStandardCheckRule& rule) {
-    const auto& types = ruleTypes();
-    return std::find(types.begin(), types.end(), rule.type.toStdString()) != types.end();
-}
-
-std::vector<NotJudged> notJudged(const CurrentDocument& document, const std::vector<JudgedRule>& judged) {
-    std::vector<NotJudged> result;
+std::vector<PassedOver> notJudged(const CurrentDocument& document, const std::vector<JudgedRule>& judged) {
+    std::vector<PassedOver> result;
     for (const JudgedRule& entry : judged) {
         const NuxStandardCheckRule& rule = entry.rule;
         const std::string what = "rule " + rule.name.toStdString();
-        if (!isKnownType(rule))
-            result.push_back({what, "no evaluator is of type \"" + rule.type.toStdString() + "\""});
-        else if (entry.verdict == JudgedRule::Verdict::NoEvaluator)
-            result.push_back({what, "no evaluator knows this rule"});
+        if (entry.verdict != JudgedRule::Verdict::NoEvaluator)
+            continue;
+        const auto& types = firestandard::ruleTypes();
+        const bool isOfKnownType = std::any_of(
+            types.begin(), types.end(), [&](const char* type) { return rule.type == QLatin1String(type); });
+        result.push_back({what, isOfKnownType
+                                    ? "no evaluator knows this rule"
+                                    : "no evaluator is of type \"" + rule.type.toStdString() + "\""});
     }
     for (const auto& object : document.objects())
         if (!object->opens())
             result.push_back({"object #" + std::to_string(object->Handle().GetID()), "it does not open"});
     return result;
-}
-
-bool hasBoxes(const CurrentDocument& document) {
-    const auto& objects = document.objects();
-    return std::any_of(objects.begin(), objects.end(), [](const std::unique_ptr<UdDbObject>& object) {
-        const auto* model = object->opens() ? NUX3dsBaseObject::Cast(object.get()) : nullptr;
-        return model && model->getModelKind() == NUX_EDO_TYPE_FIREEXTINGUISHERBOX;
-    });
 }
 
 /// What stands in the plan: the name without its remarks in brackets, else noun and handle.
@@ -213,8 +202,10 @@ SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& rule
     report.counts = countsByRule(report, rules);
     report.elements = labels(report, document, site.labels);
     report.findings = findings(report, runs);
-    report.judged = judgedRules(report, runs, rules, hasBoxes(document));
+    report.judged = judgedRules(report, runs, rules);
     report.notJudged = notJudged(document, report.judged);
     report.plan = plan(document, site.labels);
     return report;
 }
+
+} // namespace firecheck

@@ -11,6 +11,8 @@
 #include <map>
 #include <string_view>
 
+namespace firecheck {
+
 namespace {
 
 std::wstring identifierOf(const UdDbObject& object) {
@@ -91,3 +93,5 @@ std::string elementNoun(const UdDbObject& object) {
     const QString end = QString::fromStdWString(identifier).section('_', -1).toLower();
     return end.isEmpty() ? "object" : end.toStdString();
 }
+
+} // namespace firecheck

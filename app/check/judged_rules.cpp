@@ -1,12 +1,17 @@
 #include "check/judged_rules.h"
 
-#include "evaluators/position/fire_extinguisher_box.h"
+#include "evaluators/rule_catalogue.h"
 #include "rules/rule_fields.h"
-#include "rules/vocabulary.h"
+#include "rules/rule_wording.h"
 
 #include <algorithm>
 #include <set>
 #include <vector>
+
+namespace firecheck {
+
+using firestandard::NotJudged;
+using firestandard::RuleRow;
 
 namespace {
 
@@ -18,33 +23,39 @@ QString textsOf(const NuxStandardCheckRule& rule) {
     return texts;
 }
 
-/// Absence and distance rules are judged under any name.
-bool hasEvaluator(const NuxStandardCheckRule& rule) {
-    if (rule.type == QLatin1String("without") || rule.type == QLatin1String("distant"))
-        return true;
-    const RuleName* known = findRuleName(rule.name.toStdString());
-    return known && known->type == rule.type.toStdString();
-}
-
-JudgedRule::Verdict verdictOf(const JudgedRule& judged) {
-    if (!hasEvaluator(judged.rule))
+JudgedRule::Verdict verdictOf(const JudgedRule& judged, const RuleRun* run) {
+    if (!firestandard::isJudged(judged.rule))
         return JudgedRule::Verdict::NoEvaluator;
-    if (judged.violations > 0 || judged.rule.type == QLatin1String("without"))
-        return JudgedRule::Verdict::Judged;
-    const bool compares =
-        judged.rule.type == QLatin1String("distant") || isFireExtinguisherBoxRule(judged.rule.name);
-    const bool hasCompared = !compares || judged.pairs > 0;
-    return judged.found > 0 && hasCompared ? JudgedRule::Verdict::Judged
-                                           : JudgedRule::Verdict::NothingToJudge;
+    const bool isAbsenceRule = judged.rule.type == QLatin1String("without");
+    return judged.violations > 0 || isAbsenceRule || (run && run->judged > 0)
+               ? JudgedRule::Verdict::Judged
+               : JudgedRule::Verdict::NothingToJudge;
 }
 
-std::string noteOf(const JudgedRule& judged, const RuleRun& run, bool hasBoxes) {
-    if (isFireExtinguisherBoxRule(run.rule.name) && hasBoxes && run.unmeasured)
-        return "ended at #" + std::to_string(*run.unmeasured) +
+std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
+    const auto end = std::find_if(run.unjudged.begin(), run.unjudged.end(), [](const UnjudgedElement& one) {
+        return one.why == NotJudged::NoBoxMeasurable;
+    });
+    if (end != run.unjudged.end())
+        return "ended at #" + std::to_string(end->element) +
                ", to which no box has a measurable distance; what follows it in the drawing was not judged";
-    if (run.rule.name == QLatin1String("Position_FireRoad") && judged.found > 0)
-        return "looks at the last object of the drawing only";
-    return {};
+    const RuleRow* row = firestandard::findRule(rule.name, rule.type);
+    const bool hasFound = run.judged > 0 || !run.unjudged.empty();
+    return row && hasFound ? findRuleWording(row->name)->note : std::string();
+}
+
+/// Elements of another use are not what the rule is about.
+void takeFrom(const RuleRun& run, JudgedRule& judged) {
+    judged.found = run.judged;
+    for (const UnjudgedElement& element : run.unjudged) {
+        if (element.why == NotJudged::OtherUse)
+            continue;
+        ++judged.found;
+        ++judged.unjudged[element.why];
+    }
+    judged.pairs = run.pairCount;
+    judged.time = run.time;
+    judged.note = noteOf(judged.rule, run);
 }
 
 } // namespace
@@ -60,7 +71,7 @@ const RuleRun* RuleRuns::of(const NuxStandardCheckRule& rule) const {
 }
 
 std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& runs,
-                                    const std::vector<NuxStandardCheckRule>& rules, bool hasBoxes) {
+                                    const std::vector<NuxStandardCheckRule>& rules) {
     QMap<QString, std::vector<qint64>> handlesByRule;
     for (const Finding& finding : report.findings) {
         const NuxStandardCheckRule& record = report.record(finding);
@@ -81,14 +92,12 @@ std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& ru
         offending.erase(0);
         judged.offending = offending.size();
         const RuleRun* run = runs.of(rule);
-        if (run) {
-            judged.found = run->found;
-            judged.pairs = run->pairCount;
-            judged.time = run->time;
-            judged.note = noteOf(judged, *run, hasBoxes);
-        }
-        judged.verdict = verdictOf(judged);
+        if (run)
+            takeFrom(*run, judged);
+        judged.verdict = verdictOf(judged, run);
         result.push_back(std::move(judged));
     }
     return result;
 }
+
+} // namespace firecheck

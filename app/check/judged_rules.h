@@ -5,13 +5,14 @@
 
 #include <QMap>
 
+namespace firecheck {
+
 /// The runs of a check, each found again by the texts of its rule, which records are copies of. Rules that
 /// are equal in all texts share the first of their runs.
 class RuleRuns {
 public:
     explicit RuleRuns(std::vector<RuleRun> runs);
 
-    const std::vector<RuleRun>& all() const { return m_runs; }
     /// Null for a rule that was not run.
     const RuleRun* of(const NuxStandardCheckRule& rule) const;
 
@@ -20,7 +21,8 @@ private:
     QMap<QString, std::size_t> m_indexByTexts;
 };
 
-/// What became of each rule of the map, in its order. `hasBoxes` tells whether the site has any extinguisher
-/// box. Reads the findings of the report.
+/// The outcome of each rule of the map, in its order. Reads the findings of the report.
 std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& runs,
-                                    const std::vector<NuxStandardCheckRule>& rules, bool hasBoxes);
+                                    const std::vector<NuxStandardCheckRule>& rules);
+
+} // namespace firecheck

@@ -3,5 +3,9 @@
 #include "check/CheckRecorder.h"
 #include "report/Finding.h"
 
-/// What the rule of `run` measured about the elements of one of its records, from the nearest on.
+namespace firecheck {
+
+/// What the rule of `run` measured about the elements of one of its records, distances from the nearest on.
 std::vector<Measure> recordMeasures(const NuxStandardCheckRule& record, const RuleRun& run);
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include "InputError.h"
 #include "command_line/Output.h"
 
+namespace firecheck {
+
 AcceptOptions::AcceptOptions(const Options& options) : m_target(options.value("write-accept")) {
     const auto source = options.value("accept");
     if ((source || m_target) && options.arguments().size() > 1)
@@ -19,3 +21,5 @@ void AcceptOptions::applyTo(SiteReport& report) const {
     output.write(acceptFileText(report));
     output.commit();
 }
+
+} // namespace firecheck

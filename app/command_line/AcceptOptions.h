@@ -1,9 +1,11 @@
 #pragma once
 
-#include "accept/accept_file.h"
+#include "check/accept_file.h"
 #include "command_line/Options.h"
 
 #include <optional>
+
+namespace firecheck {
 
 /// What --accept and --write-accept do with the report of the one site that they go with. Throws InputError
 /// for several sites, and for a file that cannot be used.
@@ -18,3 +20,5 @@ private:
     std::vector<Acceptance> m_acceptances;
     std::optional<QString> m_target;
 };
+
+} // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include "InputError.h"
 
+namespace firecheck {
+
 Options::Options(const QStringList& words, const QStringList& valueOptions, const QStringList& flags) {
     for (const QString& option : valueOptions)
         m_parser.addOption({option, {}, "value"});
@@ -28,3 +30,5 @@ QString Options::format(const QStringList& allowed) const {
                          allowed.join(", ").toStdString() + ".");
     return format;
 }
+
+} // namespace firecheck

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace firecheck {
+
 /// The options and arguments of one command. Throws InputError for options that it does not have.
 class Options {
 public:
@@ -22,3 +24,5 @@ public:
 private:
     QCommandLineParser m_parser;
 };
+
+} // namespace firecheck

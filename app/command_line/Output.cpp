@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+namespace firecheck {
+
 namespace {
 
 std::unique_ptr<QFileDevice> openedStandardOutput() {
@@ -54,3 +56,5 @@ void Output::require(bool succeeded) const {
     if (!succeeded)
         throw InputError((m_name + ": cannot be written: " + m_file->errorString()).toStdString());
 }
+
+} // namespace firecheck

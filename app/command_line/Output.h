@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace firecheck {
+
 /// Where results go: standard output, a device or a pipe, or a file that takes the place of an older one only
 /// when all is written. Every failure to write throws InputError.
 class Output {
@@ -26,3 +28,5 @@ private:
     QString m_name;
     std::unique_ptr<QFileDevice> m_file;
 };
+
+} // namespace firecheck

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace firecheck {
+
 namespace {
 
 std::unique_ptr<ReportWriter> writerFor(const QString& format, Output& output) {
@@ -102,3 +104,5 @@ int checkCommand(const QStringList& words) {
         output.commit();
     return status;
 }
+
+} // namespace firecheck

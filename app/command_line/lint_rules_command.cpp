@@ -6,6 +6,8 @@
 #include "lint/lint_rule_file.h"
 #include "rules/rule_file.h"
 
+namespace firecheck {
+
 int lintRulesCommand(const QStringList& words) {
     const Options options(words, {"format", "output"});
     const QStringList files = options.arguments();
@@ -22,3 +24,5 @@ int lintRulesCommand(const QStringList& words) {
     output.commit();
     return findings.empty() ? kNothingFound : kViolationsFound;
 }
+
+} // namespace firecheck

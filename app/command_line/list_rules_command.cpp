@@ -4,6 +4,8 @@
 #include "command_line/commands.h"
 #include "rules/vocabulary_report.h"
 
+namespace firecheck {
+
 namespace {
 
 std::string vocabularyAs(const QString& format) {
@@ -24,3 +26,5 @@ int listRulesCommand(const QStringList& words) {
     output.commit();
     return kNothingFound;
 }
+
+} // namespace firecheck

@@ -3,8 +3,10 @@
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
-#include "report/html/plan_svg.h"
+#include "report/plan/plan_svg.h"
 #include "site_file/site_reader.h"
+
+namespace firecheck {
 
 int planCommand(const QStringList& words) {
     const Options options(words, {"rules", "output"});
@@ -21,3 +23,5 @@ int planCommand(const QStringList& words) {
     output.commit();
     return kNothingFound;
 }
+
+} // namespace firecheck

@@ -5,6 +5,8 @@
 #include "rules/rule_fields.h"
 #include "rules/rule_file.h"
 
+namespace firecheck {
+
 namespace {
 
 std::string rulesAsJson(const RuleMap& rules) {
@@ -50,3 +52,5 @@ int showRulesCommand(const QStringList& words) {
     output.commit();
     return kNothingFound;
 }
+
+} // namespace firecheck

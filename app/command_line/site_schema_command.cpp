@@ -5,6 +5,8 @@
 #include "site_file/site_reference.h"
 #include "site_file/site_schema.h"
 
+namespace firecheck {
+
 int siteSchemaCommand(const QStringList& words) {
     const Options options(words, {"format", "output"});
     if (!options.arguments().isEmpty())
@@ -15,3 +17,5 @@ int siteSchemaCommand(const QStringList& words) {
     output.commit();
     return kNothingFound;
 }
+
+} // namespace firecheck

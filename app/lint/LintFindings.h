@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace firecheck {
+
 /// Something in a rule file that the library passes over in silence.
 struct LintFinding {
     Place place;
@@ -29,3 +31,5 @@ private:
     std::vector<LintFinding>& m_findings;
     const std::string m_rule;
 };
+
+} // namespace firecheck

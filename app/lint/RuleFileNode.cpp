@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 namespace {
 
 constexpr int kLevelsBelowRoot = 3; // groups, rules, texts
@@ -123,3 +125,5 @@ std::string RuleFileNode::value(const std::string& wanted) const {
 RuleFileNode readRuleFileNodes(const std::string& fileName) {
     return NodeReader(fileName).document();
 }
+
+} // namespace firecheck

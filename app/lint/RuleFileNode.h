@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace firecheck {
+
 /// Where something stands in a file; both count from 1, columns in characters.
 struct Place {
     int line = 1;
@@ -34,3 +36,5 @@ struct RuleFileNode {
 /// The document element of a rule file, with as many levels below it as the rule store looks at: groups,
 /// rules and their texts. Throws InputError for a file that cannot be read or is not well-formed XML.
 RuleFileNode readRuleFileNodes(const std::string& fileName);
+
+} // namespace firecheck

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 namespace {
 
 bool isBreak(const QString& text, int index) {
@@ -56,3 +58,5 @@ std::map<QString, Place> XmlPlaces::attributePlaces(qint64 tagOffset, qint64 tag
     }
     return places;
 }
+
+} // namespace firecheck

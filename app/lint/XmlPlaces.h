@@ -7,6 +7,8 @@
 #include <map>
 #include <vector>
 
+namespace firecheck {
+
 /// Finds lines and columns in the text of an XML document. Tokens are given by where a QXmlStreamReader stood
 /// before it read them; it may already have taken the "<" of a tag by then.
 class XmlPlaces {
@@ -26,3 +28,5 @@ private:
     std::vector<int> m_lineStarts;
     std::vector<int> m_secondUnits; ///< of the characters that take two
 };
+
+} // namespace firecheck

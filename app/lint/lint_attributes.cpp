@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 void lintUnknownAttributes(const RuleFileNode& node, const std::vector<std::string>& read,
                            LintFindings& findings) {
     for (const RuleFileAttribute& attribute : node.attributes) {
@@ -18,3 +20,5 @@ void lintUnknownAttributes(const RuleFileNode& node, const std::vector<std::stri
 std::string nearestOf(const std::string& text, const std::vector<std::string>& candidates) {
     return nearestName(text, candidates).value_or(std::string());
 }
+
+} // namespace firecheck

@@ -9,6 +9,8 @@
 #include <cmath>
 #include <optional>
 
+namespace firecheck {
+
 namespace {
 
 const std::string kLess = "less";
@@ -144,3 +146,5 @@ private:
 void lintDistanceRule(const RuleFileNode& rule, bool areTypesRight, LintFindings& findings) {
     DistanceRuleLinter(rule, findings).lint(areTypesRight);
 }
+
+} // namespace firecheck

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 namespace {
 
 /// `expected` is the identifier of the rule's name; empty when the name does not tell.
@@ -55,3 +57,5 @@ bool lintElementTypes(const RuleFileNode& rule, const std::vector<std::string>& 
     }
     return isRight;
 }
+
+} // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include "lint/LintFindings.h"
 
+namespace firecheck {
+
 struct RuleName;
 
 /// Judges "ElementType" and "ReferenceElementType": those that the rule reads (`read`) must be there, must be
@@ -9,3 +11,5 @@ struct RuleName;
 /// descriptive, but must be identifiers. Answers whether nothing was found.
 bool lintElementTypes(const RuleFileNode& rule, const std::vector<std::string>& read, const RuleName* known,
                       LintFindings& findings);
+
+} // namespace firecheck

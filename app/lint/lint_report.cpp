@@ -2,6 +2,8 @@
 
 #include "text/printable.h"
 
+namespace firecheck {
+
 std::string lintReportText(const std::string& fileName, const std::vector<LintFinding>& findings) {
     const std::string file = printable(fileName);
     std::string text;
@@ -32,3 +34,5 @@ Json lintReportJson(const std::string& fileName, const std::vector<LintFinding>&
 std::string countedFindings(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " finding" : " findings");
 }
+
+} // namespace firecheck

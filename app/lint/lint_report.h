@@ -1,7 +1,9 @@
 #pragma once
 
+#include "json/Json.h"
 #include "lint/LintFindings.h"
-#include "site_file/Json.h"
+
+namespace firecheck {
 
 /// One line for each finding, with its place, and a line that sums up.
 std::string lintReportText(const std::string& fileName, const std::vector<LintFinding>& findings);
@@ -10,3 +12,5 @@ Json lintReportJson(const std::string& fileName, const std::vector<LintFinding>&
 
 /// "1 finding", "2 findings".
 std::string countedFindings(std::size_t count);
+
+} // namespace firecheck

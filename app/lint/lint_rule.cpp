@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <set>
 
+namespace firecheck {
+
 namespace {
 
 const std::vector<std::string> kAttributes = {"Type",        "ElementType",          "PropertyType",
@@ -110,3 +112,5 @@ void lintRule(const RuleFileNode& rule, LintFindings& findings) {
                      "Without a \"PropertyType\" the name means nothing: any " + known->elementType +
                          " satisfies the rule.");
 }
+
+} // namespace firecheck

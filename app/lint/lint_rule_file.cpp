@@ -9,6 +9,8 @@
 #include <map>
 #include <tuple>
 
+namespace firecheck {
+
 namespace {
 
 using Kind = RuleFileNode::Kind;
@@ -88,3 +90,5 @@ std::vector<LintFinding> lintRuleFile(const std::string& fileName) {
         throw InputError(fileName + ": expected at least one rule");
     return findings;
 }
+
+} // namespace firecheck

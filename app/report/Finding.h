@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+namespace firecheck {
+
+inline constexpr double kMetresPerMillimetre = 1e-3;
+
 /// A point in plan, metres.
 struct PlanPoint {
     double x = 0.0;
@@ -39,3 +43,5 @@ struct Finding {
     std::string sentence;          ///< what is wrong, as a planner would say it; UTF-8, names as given
     std::optional<std::string> acceptedBecause;
 };
+
+} // namespace firecheck

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace firecheck {
+
 /// Writes the reports of one call, site after site, so that no more than one is held at a time.
 class ReportWriter {
 public:
@@ -38,3 +40,5 @@ std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink);
 
 /// One page for a browser, complete in itself: the plan of each site, and its violations linked with it.
 std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink);
+
+} // namespace firecheck

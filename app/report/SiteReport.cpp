@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 std::size_t SiteReport::acceptedCount() const {
     return static_cast<std::size_t>(
         std::count_if(findings.begin(), findings.end(),
@@ -24,3 +26,5 @@ std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStand
         handles.assign(record.relatedHandles.begin(), record.relatedHandles.end());
     return handles;
 }
+
+} // namespace firecheck

@@ -1,16 +1,20 @@
 #pragma once
 
+#include "evaluators/CheckObserver.h"
 #include "report/Finding.h"
+#include "report/plan/PlanShape.h"
 #include "rules_config/NuxStandardCheckRule.h"
-#include "site_plan/PlanShape.h"
 
 #include <QString>
 
 #include <chrono>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+namespace firecheck {
 
 /// An element as reports name it. Texts are UTF-8; class and name are empty where the site file gives none,
 /// the identifier where the object has none or does not open.
@@ -28,22 +32,23 @@ struct RuleCount {
     std::size_t violations = 0;
 };
 
-/// What became of one rule of the rule file. Rules that are equal in all their texts share an entry.
+/// The outcome of one rule of the rule file. Rules that are equal in all their texts share an entry.
 struct JudgedRule {
     enum class Verdict { Judged, NothingToJudge, NoEvaluator };
 
     NuxStandardCheckRule rule;
     Verdict verdict = Verdict::Judged;
-    std::size_t found = 0;      ///< elements to judge; of an absence rule, those that it looks for (0 or 1)
-    std::size_t pairs = 0;      ///< pairs of elements compared by distance
-    std::size_t offending = 0;  ///< elements that break the rule
+    std::size_t found = 0; ///< elements to judge; of an absence rule, those that it looks for (0 or 1)
+    std::map<firestandard::NotJudged, std::size_t> unjudged; ///< those of them that it did not judge, by why
+    std::size_t pairs = 0;                                   ///< pairs of elements compared by distance
+    std::size_t offending = 0;                               ///< elements that break the rule
     std::size_t violations = 0; ///< records, those about the site as a whole included
     std::string note;           ///< what else there is to know of this judgement; mostly empty
     std::chrono::nanoseconds time{0};
 };
 
 /// A rule or an object that was passed over, and why.
-struct NotJudged {
+struct PassedOver {
     std::string what;
     std::string reason;
 };
@@ -62,7 +67,7 @@ struct SiteReport {
     std::vector<RuleCount> counts;      ///< rules with violations, in the order of the rule map
     std::vector<ElementLabel> elements; ///< those that the results name, by ascending handle
     std::vector<JudgedRule> judged;     ///< in the order of the rule map
-    std::vector<NotJudged> notJudged;
+    std::vector<PassedOver> notJudged;
     std::vector<PlanShape> plan; ///< every element that can be drawn, in the order of the drawing
     std::vector<std::string> staleAcceptances; ///< accepted violations that are no longer there
 
@@ -80,3 +85,5 @@ struct SiteReport {
 /// The elements that a finding relates to: from the nearest on where their distances are known, else in the
 /// order of the record.
 std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStandardCheckRule& record);
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace firecheck {
+
 namespace {
 
 const char* const kByteOrderMark = "\xEF\xBB\xBF"; // tells spreadsheets that the text is UTF-8
@@ -111,3 +113,5 @@ private:
 std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink) {
     return std::make_unique<CsvReportWriter>(std::move(sink));
 }
+
+} // namespace firecheck

@@ -1,6 +1,8 @@
 #include "report/ReportWriter.h"
 #include "rules/rule_fields.h"
 
+namespace firecheck {
+
 namespace {
 
 std::string decimal(long long handle) {
@@ -119,7 +121,7 @@ Json judgedJson(const SiteReport& report) {
 
 Json notJudgedJson(const SiteReport& report) {
     Json notJudged = Json::array();
-    for (const NotJudged& passedOver : report.notJudged)
+    for (const PassedOver& passedOver : report.notJudged)
         notJudged.push_back({{"what", passedOver.what}, {"reason", passedOver.reason}});
     return notJudged;
 }
@@ -208,3 +210,5 @@ private:
 std::unique_ptr<ReportWriter> jsonReportWriter(ReportWriter::Sink sink) {
     return std::make_unique<JsonReportWriter>(std::move(sink));
 }
+
+} // namespace firecheck

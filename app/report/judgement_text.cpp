@@ -1,5 +1,9 @@
 #include "report/judgement_text.h"
 
+namespace firecheck {
+
+using firestandard::NotJudged;
+
 namespace {
 
 std::string offendersText(const JudgedRule& judged) {
@@ -8,20 +12,85 @@ std::string offendersText(const JudgedRule& judged) {
     return judged.violations > 0 ? "the site as a whole offends" : "none offends";
 }
 
+/// Why elements were not judged: "on the ground".
+const char* reasonText(NotJudged why) {
+    switch (why) {
+    case NotJudged::NoOutline:
+        return "without an outline";
+    case NotJudged::OutlineCrossesItself:
+        return "with an outline that crosses itself";
+    case NotJudged::NoCentreLine:
+        return "without a centre line that could be joined";
+    case NotJudged::OnTheGround:
+        return "on the ground";
+    case NotJudged::NoRooms:
+        return "without rooms";
+    case NotJudged::NoNeighbour:
+        return "without a neighbour that has a door";
+    case NotJudged::NothingToCompare:
+        return "nothing to compare with";
+    case NotJudged::NeverMeasured:
+        return "with nothing but elements that are never measured against";
+    case NotJudged::OtherUse:
+        return "of another use";
+    case NotJudged::DidNotOpen:
+        return "with a door that does not open";
+    case NotJudged::NoBoxMeasurable:
+        return "to which no box has a measurable distance";
+    case NotJudged::RuleEndedBefore:
+        return "after the end of the rule";
+    }
+    return "";
+}
+
+/// The note says it already where a rule ended early.
+bool isInNote(NotJudged why) {
+    return why == NotJudged::NoBoxMeasurable || why == NotJudged::RuleEndedBefore;
+}
+
+/// Why elements were not judged; with their numbers where there are several reasons.
+std::string reasonsText(const JudgedRule& judged) {
+    std::string text;
+    for (const auto& [why, count] : judged.unjudged) {
+        if (isInNote(why))
+            continue;
+        const std::string number = judged.unjudged.size() > 1 ? std::to_string(count) + " " : "";
+        text += (text.empty() ? "" : ", ") + number + reasonText(why);
+    }
+    return text;
+}
+
+std::string nothingJudgedText(const JudgedRule& judged) {
+    if (judged.found == 0)
+        return "nothing to judge";
+    const std::string reasons = reasonsText(judged);
+    return "nothing to judge: " + std::to_string(judged.found) + " found" +
+           (reasons.empty() ? "" : ", " + reasons);
+}
+
+std::string judgedText(const JudgedRule& judged) {
+    const std::string text = std::to_string(judged.found) + " found, " + offendersText(judged);
+    std::size_t unjudged = 0;
+    for (const auto& entry : judged.unjudged)
+        unjudged += entry.second;
+    if (unjudged == 0)
+        return text;
+    const std::string reasons = reasonsText(judged);
+    return text + ", " + std::to_string(unjudged) + " not judged" + (reasons.empty() ? "" : ": " + reasons);
+}
+
 std::string verdictText(const JudgedRule& judged) {
     switch (judged.verdict) {
     case JudgedRule::Verdict::NoEvaluator:
         return "no evaluator knows this rule";
     case JudgedRule::Verdict::NothingToJudge:
-        return judged.found == 0
-                   ? "nothing to judge"
-                   : "nothing to judge: " + std::to_string(judged.found) + " found, nothing to compare with";
+        return nothingJudgedText(judged);
     case JudgedRule::Verdict::Judged:
         break;
     }
     if (judged.rule.type == QLatin1String("without"))
         return judged.violations > 0 ? "looked for, missing" : "looked for, present";
-    return std::to_string(judged.found) + " found, " + offendersText(judged);
+    return judgedText(judged);
 }
 
 } // namespace
@@ -29,3 +98,5 @@ std::string verdictText(const JudgedRule& judged) {
 std::string judgementText(const JudgedRule& judged) {
     return verdictText(judged) + (judged.note.empty() ? "" : " (" + judged.note + ")");
 }
+
+} // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace firecheck {
+
 namespace {
 
 constexpr int kFewestDecimals = 2;
@@ -40,3 +42,5 @@ std::string limitText(const Measure& measure) {
         text += (text.empty() ? "at most " : " and at most ") + withUnit(*measure.maximum, measure);
     return text;
 }
+
+} // namespace firecheck

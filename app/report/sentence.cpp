@@ -1,21 +1,27 @@
 #include "report/sentence.h"
 
-#include "evaluators/position/fire_extinguisher_box.h"
-#include "evaluators/position/overhead_cable.h"
+#include "evaluators/rule_catalogue.h"
 #include "report/measure_text.h"
+#include "text/number_word.h"
 
 #include <QStringList>
+
+namespace firecheck {
 
 namespace {
 
 constexpr std::size_t kMostNamed = 3; ///< elements that one sentence names before it counts the others
+
+using firestandard::RuleTest;
 
 /// What a sentence is made of.
 struct Subject {
     const SiteReport& report;
     const NuxStandardCheckRule& record;
     const std::vector<Measure>& measures;
+    const firestandard::RuleRow* row; ///< the catalogue's; null for a name that it does not have
 
+    double fixedLimit(std::size_t index = 0) const { return row->fixedLimits[index]; }
     std::string element() const { return elementPhrase(report, record.handle); }
 };
 
@@ -61,7 +67,7 @@ std::string distanceSentence(const Subject& subject) {
 
 std::string boxSentence(const Subject& subject) {
     Measure limit;
-    limit.maximum = kMaximumBoxDistance / 1000.0;
+    limit.maximum = subject.fixedLimit() * kMetresPerMillimetre;
     const std::string asked = "; the code asks for one " + limitText(limit) + " away that does not touch it";
     if (subject.measures.empty())
         return subject.element() + " has no extinguisher box, nor has the site any" + asked;
@@ -90,9 +96,9 @@ std::string widthSentence(const Subject& subject) {
 }
 
 std::string stairsSentence(const Subject& subject) {
-    return subject.element() +
-           " has no stair at each end; the code asks for both where a house has three or more "
-           "floors, or more than 200 m² a floor";
+    return subject.element() + " has no stair at each end; the code asks for both where a house has " +
+           numberWord(static_cast<int>(subject.fixedLimit(1))) + " or more floors, or more than " +
+           QString::number(subject.fixedLimit()).toStdString() + " m² a floor";
 }
 
 std::string loopSentence(const Subject&) {
@@ -109,7 +115,9 @@ std::string gatesSentence(const Subject& subject) {
 }
 
 std::string headroomSentence(const Subject& subject) {
-    return relatedList(subject) + " reaches into the 4.00 m above " + subject.element() +
+    Measure height;
+    height.value = subject.fixedLimit() * kMetresPerMillimetre;
+    return relatedList(subject) + " reaches into the " + valueText(height) + " above " + subject.element() +
            " that the code asks to keep clear";
 }
 
@@ -131,22 +139,40 @@ std::string plainSentence(const Subject& subject) {
     return element + ": " + what + (related.empty() ? "" : " (" + related + ")");
 }
 
-struct Wording {
-    const char* ruleName;
-    bool needsMeasure;
-    std::string (*sentence)(const Subject&);
-};
+std::string measuredSentence(const Subject& subject) {
+    switch (subject.row->test) {
+    case RuleTest::PrefabHouseFloorArea:
+        return floorAreaSentence(subject);
+    case RuleTest::PrefabHouseRoomArea:
+        return roomAreaSentence(subject);
+    case RuleTest::RoadMinWidth:
+        return widthSentence(subject);
+    default:
+        return plainSentence(subject);
+    }
+}
 
-constexpr Wording kWordings[] = {
-    {"Self_PrefabHouseFloorArea", true, floorAreaSentence},
-    {"Self_PrefabHouseRoomArea", true, roomAreaSentence},
-    {"Self_PrefabHouseStairs", false, stairsSentence},
-    {"Self_RoadMinWidth", true, widthSentence},
-    {"Self_RoadLoop", false, loopSentence},
-    {"Self_OneDoorToRoadLoop", false, oneGateSentence},
-    {"Position_DoorToDoor", false, gatesSentence},
-    {"Position_FireRoad", false, headroomSentence},
-};
+/// For rules that the catalogue knows.
+std::string knownSentence(const Subject& subject) {
+    switch (subject.row->test) {
+    case RuleTest::FireExtinguisherBox:
+        return boxSentence(subject);
+    case RuleTest::OverheadCable:
+        return cableSentence(subject);
+    case RuleTest::PrefabHouseStairs:
+        return stairsSentence(subject);
+    case RuleTest::RoadLoop:
+        return loopSentence(subject);
+    case RuleTest::OneDoorToRoadLoop:
+        return oneGateSentence(subject);
+    case RuleTest::DoorToDoor:
+        return gatesSentence(subject);
+    case RuleTest::FireRoadHeadroom:
+        return headroomSentence(subject);
+    default:
+        return subject.measures.empty() ? plainSentence(subject) : measuredSentence(subject);
+    }
+}
 
 } // namespace
 
@@ -161,17 +187,12 @@ std::string elementPhrase(const SiteReport& report, long long handle) {
 
 std::string sentenceOf(const SiteReport& report, const NuxStandardCheckRule& record,
                        const std::vector<Measure>& measures) {
-    const Subject subject{report, record, measures};
+    const Subject subject{report, record, measures, firestandard::findRule(record.name, record.type)};
     if (record.type == QLatin1String("without"))
         return absenceSentence(subject);
     if (record.type == QLatin1String("distant") && !measures.empty())
         return distanceSentence(subject);
-    if (isFireExtinguisherBoxRule(record.name))
-        return boxSentence(subject);
-    if (isOverheadCableRule(record.name))
-        return cableSentence(subject);
-    for (const Wording& wording : kWordings)
-        if (record.name == QLatin1String(wording.ruleName) && !(wording.needsMeasure && measures.empty()))
-            return wording.sentence(subject);
-    return plainSentence(subject);
+    return subject.row ? knownSentence(subject) : plainSentence(subject);
 }
+
+} // namespace firecheck

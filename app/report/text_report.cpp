@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 namespace {
 
 constexpr std::size_t kMostPlaced = 4; ///< elements whose place is told, the offending one included
@@ -48,7 +50,7 @@ public:
         writeJudged(report);
         if (!report.notJudged.empty())
             write("\nNot judged\n");
-        for (const NotJudged& passedOver : report.notJudged)
+        for (const PassedOver& passedOver : report.notJudged)
             write("  " + printable(passedOver.what) + ": " + printable(passedOver.reason) + "\n");
     }
 
@@ -137,3 +139,5 @@ private:
 std::unique_ptr<ReportWriter> textReportWriter(ReportWriter::Sink sink, bool coloured) {
     return std::make_unique<TextReportWriter>(std::move(sink), coloured);
 }
+
+} // namespace firecheck

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <set>
 
+namespace firecheck {
+
 namespace {
 
 const std::string kElementFamily = "NUX_ELEMENT_TYPE_";
@@ -57,3 +59,5 @@ std::string reportedInstead(const std::string& name) {
     const std::string other = inOtherFamily(name);
     return judged.count(other) > 0 && judged.count(name) == 0 ? other : std::string();
 }
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace firecheck {
+
 /// Every element type identifier, each spelt as elements report it.
 const std::vector<std::string>& elementTypeNames();
 
@@ -12,3 +14,5 @@ bool isElementTypeName(const std::string& text);
 /// checks speak of only the other spelling; empty when there is none. Roads, for one, are NUX_EDO_TYPE_ROAD
 /// and never NUX_ELEMENT_TYPE_ROAD.
 std::string reportedInstead(const std::string& name);
+
+} // namespace firecheck

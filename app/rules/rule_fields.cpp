@@ -1,5 +1,7 @@
 #include "rules/rule_fields.h"
 
+namespace firecheck {
+
 const std::array<RuleTextField, 13>& ruleTextFields() {
     using Rule = NuxStandardCheckRule;
     static const std::array<RuleTextField, 13> fields = {{
@@ -26,3 +28,5 @@ Json ruleTexts(const NuxStandardCheckRule& rule) {
         texts[name] = (rule.*member).toStdString();
     return texts;
 }
+
+} // namespace firecheck

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "json/Json.h"
 #include "rules_config/NuxStandardCheckRule.h"
-#include "site_file/Json.h"
 
 #include <array>
+
+namespace firecheck {
 
 struct RuleTextField {
     const char* name;
@@ -15,3 +17,5 @@ const std::array<RuleTextField, 13>& ruleTextFields();
 
 /// An object of all thirteen texts.
 Json ruleTexts(const NuxStandardCheckRule& rule);
+
+} // namespace firecheck

@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace firecheck {
+
 std::string defaultRuleFile() {
     const QString fileName = "FireStandardCheck.xml";
     const QString installed =
@@ -30,10 +32,10 @@ void requireWellFormed(const std::string& fileName) {
     if (!file.open(QIODevice::ReadOnly))
         throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
     QBuffer content;
-    if (file.size() <= kLargestRuleFile)
+    if (file.size() <= firestandard::kLargestRuleFile)
         content.setData(file.read(file.size()));
     content.open(QIODevice::ReadOnly);
-    if (file.size() > kLargestRuleFile || !isWithinBounds(content.data()))
+    if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content.data()))
         throw InputError(fileName + ": too large, too deeply nested or too many entities for a rule file");
     QDomDocument document;
     QString reason;
@@ -52,3 +54,5 @@ const RuleMap& loadRules(const std::string& fileName) {
         throw InputError(fileName + ": expected at least one rule");
     return rules;
 }
+
+} // namespace firecheck

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace firecheck {
+
 using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
 
 /// The rule file in use where none is named: the one installed beside the executable or, in a source tree
@@ -22,3 +24,5 @@ void requireWellFormed(const std::string& fileName);
 /// process, so this is called once. Throws InputError for a file that cannot be read, is not well-formed XML,
 /// or holds no rule.
 const RuleMap& loadRules(const std::string& fileName);
+
+} // namespace firecheck

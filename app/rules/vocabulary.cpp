@@ -1,10 +1,99 @@
 #include "rules/vocabulary.h"
 
-#include "rules/rule_families.h"
+#include "rules/rule_wording.h"
+#include "site/element_type_identifiers.h"
+#include "text/number_word.h"
+
+#include <QString>
 
 #include <algorithm>
 
+namespace firecheck {
+
+using firestandard::AttributesRead;
+using firestandard::DistanceRow;
+using firestandard::RequiredUse;
+using firestandard::RuleRow;
+using firestandard::RuleTest;
+
 namespace {
+
+std::string text(std::wstring_view identifier) {
+    return QString::fromWCharArray(identifier.data(), static_cast<int>(identifier.size())).toStdString();
+}
+
+QString useText(const RequiredUse& use) {
+    return use.of == RequiredUse::Of::ClosedHouse ? QString::fromStdString(text(use.name))
+                                                  : QString::number(use.code);
+}
+
+/// What the explained catalogue has for a wording with placeholders.
+std::string filledIn(const char* wording, const RuleRow& row) {
+    QString filled = QString::fromUtf8(wording);
+    filled.replace("{use}", useText(row.use));
+    filled.replace("{limit}", QString::number(row.fixedLimits[0]));
+    filled.replace("{floors}", QString::fromStdString(numberWord(static_cast<int>(row.fixedLimits[1]))));
+    return filled.toStdString();
+}
+
+/// What absence rules have in common, whatever their names.
+const std::string kOfAnyFacility =
+    "With an empty PropertyType any element of the type will do; a 3-D model of the type always does.";
+
+std::string peculiarityOf(const RuleRow& row, const RuleWording& wording) {
+    const std::string own = filledIn(wording.peculiarity, row);
+    if (row.test != RuleTest::RequiredFacility)
+        return own;
+    return own.empty() ? kOfAnyFacility : kOfAnyFacility + " " + own;
+}
+
+std::vector<std::string> namesOf(const AttributesRead& read) {
+    std::vector<std::string> names;
+    const auto add = [&names](bool isRead, const char* name) {
+        if (isRead)
+            names.push_back(name);
+    };
+    add(read.elementType, "ElementType");
+    add(read.referenceElementType, "ReferenceElementType");
+    add(read.propertyType, "PropertyType");
+    add(read.constraintCondition, "ConstraintCondition");
+    add(read.distantValue, "DistantValue");
+    return names;
+}
+
+std::vector<RuleName> explained(const std::vector<RuleRow>& rows) {
+    std::vector<RuleName> names;
+    for (const RuleRow& row : rows) {
+        const RuleWording& wording = *findRuleWording(row.name);
+        names.push_back({&row, row.name, row.type, text(row.elementType), text(row.referenceElementType),
+                         namesOf(row.reads()), filledIn(wording.judges, row), filledIn(wording.limits, row),
+                         peculiarityOf(row, wording)});
+    }
+    return names;
+}
+
+std::string noteOn(std::wstring_view elementType) {
+    if (elementType == NUX_ELEMENT_TYPE_PREFABHOUSE)
+        return "Stairs included; of the roads only fire roads count; prefab houses among themselves are "
+               "measured once a pair, and reported under the earlier.";
+    if (elementType == NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION)
+        return "A rule from transformer substations to themselves spaces the total step-down substations "
+               "instead, once a pair.";
+    if (elementType == NUX_EDO_TYPE_ROAD)
+        return "Fire roads only; other roads are passed over.";
+    return {};
+}
+
+std::vector<DistanceMeasure> explained(const std::vector<DistanceRow>& rows) {
+    std::vector<DistanceMeasure> measures;
+    for (const DistanceRow& row : rows) {
+        std::vector<std::string> references;
+        for (const std::wstring_view reference : row.referenceElementTypes)
+            references.push_back(text(reference));
+        measures.push_back({text(row.elementType), std::move(references), noteOn(row.elementType)});
+    }
+    return measures;
+}
 
 template <class Entry>
 const Entry* find(const std::vector<Entry>& entries, std::string Entry::*key, const std::string& wanted) {
@@ -13,17 +102,10 @@ const Entry* find(const std::vector<Entry>& entries, std::string Entry::*key, co
     return found == entries.end() ? nullptr : &*found;
 }
 
-std::vector<RuleName> allRuleNames() {
-    std::vector<RuleName> names;
-    for (const auto& family : {selfRuleNames(), distantRuleNames(), positionRuleNames(), withoutRuleNames()})
-        names.insert(names.end(), family.begin(), family.end());
-    return names;
-}
-
 } // namespace
 
 const std::vector<RuleName>& ruleNames() {
-    static const std::vector<RuleName> names = allRuleNames();
+    static const std::vector<RuleName> names = explained(firestandard::ruleCatalogue());
     return names;
 }
 
@@ -32,48 +114,22 @@ const RuleName* findRuleName(const std::string& name) {
 }
 
 const std::vector<std::string>& ruleTypes() {
-    static const std::vector<std::string> types = {"self", "distant", "position", "without"};
+    static const std::vector<std::string> types(firestandard::ruleTypes().begin(),
+                                                firestandard::ruleTypes().end());
     return types;
 }
 
 std::vector<std::string> attributesRead(const std::string& type) {
-    if (type == "distant")
-        return {"ElementType", "ReferenceElementType", "ConstraintCondition", "DistantValue"};
-    if (type == "without")
-        return {"ElementType", "PropertyType"};
-    return {};
+    return namesOf(firestandard::attributesRead(QString::fromStdString(type)));
 }
 
 const std::vector<DistanceMeasure>& distanceMeasures() {
-    static const std::vector<DistanceMeasure> measures = {
-        {"NUX_ELEMENT_TYPE_PREFABHOUSE",
-         {"NUX_ELEMENT_TYPE_PREFABHOUSE", "NUX_ELEMENT_TYPE_FUTUREHOUSE",
-          "NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION", "NUX_ELEMENT_TYPE_OPENHOUSE", "NUX_EDO_TYPE_WOODYARD",
-          "NUX_EDO_TYPE_TEMPLATEYARD", "NUX_EDO_TYPE_ELECTRICALMECHANICALYARD", "NUX_EDO_TYPE_ROAD"},
-         "Stairs included; of the roads only fire roads count; prefab houses among themselves are measured "
-         "once a "
-         "pair, and reported under the earlier."},
-        {"NUX_ELEMENT_TYPE_FUTUREHOUSE",
-         {"NUX_ELEMENT_TYPE_BOXHOUSE", "NUX_ELEMENT_TYPE_CLOSEHOUSE", "NUX_ELEMENT_TYPE_CHAYANTING",
-          "NUX_ELEMENT_TYPE_MIXSITE", "NUX_ELEMENT_TYPE_OPENHALFHOUSE", "NUX_ELEMENT_TYPE_OPENHOUSE",
-          "NUX_EDO_TYPE_ANQUANJT", "NUX_EDO_TYPE_WOODYARD", "NUX_EDO_TYPE_TEMPLATEYARD",
-          "NUX_EDO_TYPE_ELECTRICALMECHANICALYARD"},
-         ""},
-        {"NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION",
-         {"NUX_ELEMENT_TYPE_TRANSFORMERSUBSTATION", "NUX_ELEMENT_TYPE_TOTALSTEPDOWNSUBSTATION",
-          "NUX_ELEMENT_TYPE_OPENHOUSE", "NUX_EDO_TYPE_WOODYARD", "NUX_EDO_TYPE_TEMPLATEYARD",
-          "NUX_EDO_TYPE_ELECTRICALMECHANICALYARD"},
-         "A rule from transformer substations to themselves spaces the total step-down substations instead, "
-         "once a "
-         "pair."},
-        {"NUX_EDO_TYPE_ROAD",
-         {"NUX_ELEMENT_TYPE_FUTUREHOUSE", "NUX_EDO_TYPE_WOODYARD", "NUX_EDO_TYPE_TEMPLATEYARD",
-          "NUX_EDO_TYPE_ELECTRICALMECHANICALYARD"},
-         "Fire roads only; other roads are passed over."},
-    };
+    static const std::vector<DistanceMeasure> measures = explained(firestandard::distanceCatalogue());
     return measures;
 }
 
 const DistanceMeasure* findDistanceMeasure(const std::string& elementType) {
     return find(distanceMeasures(), &DistanceMeasure::elementType, elementType);
 }
+
+} // namespace firecheck

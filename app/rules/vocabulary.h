@@ -1,10 +1,15 @@
 #pragma once
 
+#include "evaluators/rule_catalogue.h"
+
 #include <string>
 #include <vector>
 
-/// A rule name that an evaluator knows. Texts are one sentence or empty.
+namespace firecheck {
+
+/// A rule name that an evaluator knows, explained. Texts are one sentence or two, or empty.
 struct RuleName {
+    const firestandard::RuleRow* row;
     std::string name;
     std::string type;                 ///< of the evaluator that knows it
     std::string elementType;          ///< identifier of the elements that the name is about
@@ -15,9 +20,7 @@ struct RuleName {
     std::string peculiarity;
 };
 
-/// The reference types that elements of one type have a distance to. Any other pair of that first type is
-/// passed over. A site element of a first type without a measure counts as 0 m from everything, and so does
-/// every 3-D model.
+/// The reference types that elements of one type have a distance to (see firestandard::DistanceRow).
 struct DistanceMeasure {
     std::string elementType;
     std::vector<std::string> referenceElementTypes;
@@ -41,3 +44,5 @@ const std::vector<DistanceMeasure>& distanceMeasures();
 
 /// Nullptr when the type has no measure.
 const DistanceMeasure* findDistanceMeasure(const std::string& elementType);
+
+} // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include "rules/vocabulary.h"
 
+namespace firecheck {
+
 namespace {
 
 std::string joined(const std::vector<std::string>& parts, const std::string& quote = {}) {
@@ -85,3 +87,5 @@ std::string vocabularyMarkdown() {
                 cell(joined(measure.referenceElementTypes, "`")) + cell(measure.note) + "\n";
     return text;
 }
+
+} // namespace firecheck

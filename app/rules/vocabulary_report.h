@@ -1,8 +1,10 @@
 #pragma once
 
-#include "site_file/Json.h"
+#include "json/Json.h"
 
 #include <string>
+
+namespace firecheck {
 
 // The rule names and the distances that are measured, in three forms of the same content.
 
@@ -10,3 +12,5 @@ std::string vocabularyText();
 Json vocabularyJson();
 /// The page of the documentation.
 std::string vocabularyMarkdown();
+
+} // namespace firecheck

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+namespace firecheck {
+
 /// What a site file says of an object for people's sake.
 struct ObjectLabel {
     std::string className;
@@ -18,3 +20,5 @@ struct Site {
     std::unique_ptr<UdDbDocument> document;
     std::map<long long, ObjectLabel> labels; ///< by handle, one for every object
 };
+
+} // namespace firecheck

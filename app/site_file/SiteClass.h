@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cad/UdDb3dsImage.h"
-#include "site_file/Field.h"
+#include "json/Field.h"
 
 #include <functional>
 #include <map>
@@ -10,6 +10,8 @@
 #include <string>
 #include <type_traits>
 #include <vector>
+
+namespace firecheck {
 
 /// What objects of a site file say about each other, to be set when all of them exist.
 class ObjectLinks {
@@ -74,3 +76,5 @@ SiteClass siteClass(std::string name, std::string identifier, std::string doc, F
     };
     return result;
 }
+
+} // namespace firecheck

@@ -1,6 +1,8 @@
 #include "elements/NUXElementObject.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 SiteClass element() {
@@ -30,3 +32,5 @@ SiteClass drawing() {
 std::vector<SiteClass> bareClasses() {
     return {element(), drawing()};
 }
+
+} // namespace firecheck

@@ -5,6 +5,8 @@
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 SiteClass prefabHouse() {
@@ -71,3 +73,5 @@ std::vector<SiteClass> buildingClasses() {
         footprintClass<NUXBaseObject>("building", "", "any other element with a footprint", none),
     };
 }
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include "elements/NUXTowerCraneObject.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 SiteClass towerCrane() {
@@ -77,3 +79,5 @@ std::vector<SiteClass> equipmentClasses() {
                                                       placeFields()),
     };
 }
+
+} // namespace firecheck

@@ -1,5 +1,7 @@
 #include "site_file/footprint_fields.h"
 
+namespace firecheck {
+
 namespace {
 
 /// A circle's radius point: to the right of its centre unless given.
@@ -95,3 +97,5 @@ Fields<NUXBaseParams> unusedFootprintFields() {
     return {elevationField(), shapeKindField(),
             nestedField("footprint", shapeFields(), "footprint that the element reports beside its place")};
 }
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include "elements/NUXBaseObject.h"
 #include "site_file/SiteClass.h"
 
+namespace firecheck {
+
 /// The keys that give a footprint and the shape kind that selects it, as rectangle, circle or polyline.
 Fields<NUXBaseParams> footprintFields();
 
@@ -34,3 +36,5 @@ SiteClass footprintClass(std::string name, std::string identifier, std::string d
     result.furtherSchema = footprintSchema();
     return result;
 }
+
+} // namespace firecheck

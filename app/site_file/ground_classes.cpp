@@ -5,6 +5,8 @@
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 SiteClass yardMesh() {
@@ -39,3 +41,5 @@ std::vector<SiteClass> groundClasses() {
         footprintClass<NUXCrossObject>("crossing", "NUX_EDO_TYPE_CROSS_ROAD", "a crossing of roads", none),
     };
 }
+
+} // namespace firecheck

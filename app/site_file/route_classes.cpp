@@ -3,6 +3,8 @@
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 Field<NUXRoadParams> outlineField() {
@@ -76,3 +78,5 @@ SiteClass serviceCable() {
 std::vector<SiteClass> routeClasses() {
     return {road(), serviceCable()};
 }
+
+} // namespace firecheck

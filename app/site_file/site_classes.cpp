@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+namespace firecheck {
+
 const std::vector<SiteClass>& siteClasses() {
     static const std::vector<SiteClass> all = [] {
         std::vector<SiteClass> classes;
@@ -14,3 +16,5 @@ const std::vector<SiteClass>& siteClasses() {
     }();
     return all;
 }
+
+} // namespace firecheck

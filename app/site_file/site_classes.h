@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace firecheck {
+
 /// Every class that a site file may name. This table is all there is to know about them: the reader, the
 /// schema and the documentation are made from it.
 const std::vector<SiteClass>& siteClasses();
@@ -15,3 +17,5 @@ std::vector<SiteClass> routeClasses();
 std::vector<SiteClass> wallClasses();
 std::vector<SiteClass> equipmentClasses();
 std::vector<SiteClass> bareClasses();
+
+} // namespace firecheck

@@ -1,5 +1,7 @@
 #include "site_file/site_keys.h"
 
+namespace firecheck {
+
 namespace {
 
 Field<ObjectHead> handleField() {
@@ -74,3 +76,5 @@ std::vector<KeyShape> siteKeys() {
              true,
              {{"type", "array"}, {"items", {{"$ref", "#/definitions/object"}}}}}};
 }
+
+} // namespace firecheck

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace firecheck {
+
 /// What every object of a site file may say of itself, whatever its class.
 struct ObjectHead {
     long long handle = 0;
@@ -29,3 +31,5 @@ inline const std::string kObjectsKey = "objects";
 
 /// Keys of the site as a whole.
 std::vector<KeyShape> siteKeys();
+
+} // namespace firecheck

@@ -1,13 +1,15 @@
 #include "site_file/site_reader.h"
 
 #include "InputError.h"
-#include "site_file/parse_json.h"
+#include "json/parse_json.h"
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
 #include "text/input_text.h"
 #include "text/nearest_name.h"
 
 #include <QString>
+
+namespace firecheck {
 
 namespace {
 
@@ -133,3 +135,5 @@ Site parseSite(const std::string& text, const std::string& name) {
 Site loadSite(const std::string& fileName) {
     return parseSite(inputText(fileName, "a site file"), fileName);
 }
+
+} // namespace firecheck

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "site_file/Json.h"
+#include "json/Json.h"
 #include "site_file/Site.h"
 
 #include <string>
+
+namespace firecheck {
 
 // A site is read whole or not at all: each of these throws InputError, whose text names the place and what
 // was expected there.
@@ -17,3 +19,5 @@ Site parseSite(const std::string& text, const std::string& name);
 
 /// Reads a site from its JSON value. Errors start with a JSON pointer.
 Site readSite(const Json& value);
+
+} // namespace firecheck

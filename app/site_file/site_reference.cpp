@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace firecheck {
+
 namespace {
 
 std::string tupleText(const Json& schema) {
@@ -97,3 +99,5 @@ std::string siteReference() {
     text.pop_back();
     return text;
 }
+
+} // namespace firecheck

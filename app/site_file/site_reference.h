@@ -2,5 +2,9 @@
 
 #include <string>
 
+namespace firecheck {
+
 /// Every class of site files with its keys, in Markdown.
 std::string siteReference();
+
+} // namespace firecheck

@@ -3,6 +3,8 @@
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
 
+namespace firecheck {
+
 namespace {
 
 /// Keys that many classes share are defined once.
@@ -80,3 +82,5 @@ Json siteSchema() {
     schema["definitions"] = std::move(definitions);
     return schema;
 }
+
+} // namespace firecheck

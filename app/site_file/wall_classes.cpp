@@ -4,6 +4,8 @@
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
 
+namespace firecheck {
+
 namespace {
 
 SiteClass door() {
@@ -141,3 +143,5 @@ SiteClass wall() {
 std::vector<SiteClass> wallClasses() {
     return {wall(), door()};
 }
+
+} // namespace firecheck

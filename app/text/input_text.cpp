@@ -10,6 +10,8 @@
 #include <poll.h>
 #include <sys/stat.h>
 
+namespace firecheck {
+
 namespace {
 
 constexpr std::size_t kLargestInput = 256 * 1024 * 1024;
@@ -61,3 +63,5 @@ std::string inputText(const std::string& fileName, const std::string& what) {
         throw InputError(refusal + "a pipe that nothing was written to");
     return text;
 }
+
+} // namespace firecheck

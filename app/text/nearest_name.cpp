@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+namespace firecheck {
+
 namespace {
 
 std::string lowerCase(std::string text) {
@@ -48,3 +50,5 @@ std::optional<std::string> nearestName(const std::string& name, const std::vecto
     }
     return nearest;
 }
+
+} // namespace firecheck

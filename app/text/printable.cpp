@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace firecheck {
+
 std::string printable(const std::string& utf8) {
     QString text = QString::fromStdString(utf8);
     for (QChar& character : text) {
@@ -12,3 +14,5 @@ std::string printable(const std::string& utf8) {
     }
     return text.toStdString();
 }
+
+} // namespace firecheck

@@ -7,8 +7,10 @@
 #include "elements/NUXServiceCableObject.h"
 #include "elements/NUXTotalStepDownSubstationObject.h"
 #include "elements/NUXYardObject.h"
-#include "evaluators/without/required_use.h"
+#include "evaluators/without/NUXWithoutElementTypeRule.h"
 #include "site/model_space_walk.h"
+
+using namespace firestandard;
 
 namespace {
 
@@ -32,7 +34,7 @@ public:
 
 private:
     template <class Visit> void visitAll(Visit&& visit) {
-        walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
+        walkModelSpace(m_modelSpace, [&](UdDbObject* object) {
             ++m_visits;
             return visit(object);
         });
@@ -68,13 +70,14 @@ private:
     }
 
     void walkUntilFound() {
-        visitAll([&](const UdDbObject* object) {
+        NUXWithoutElementTypeRule evaluator;
+        visitAll([&](UdDbObject* object) {
             bool isFound = false;
             if (const auto* model = NUX3dsBaseObject::Cast(object))
                 isFound = model->getModelKind() == m_firstType;
-            else if (const auto* element = NUXElementObject::Cast(object))
+            else if (auto* element = NUXElementObject::Cast(object))
                 isFound = element->getElementType() == m_firstType &&
-                          (m_rule.propertyType.isEmpty() || hasRequiredUse(element, m_rule.name));
+                          (m_rule.propertyType.isEmpty() || evaluator.isRequiredUse(element, m_rule));
             return isFound ? WalkStep::Stop : WalkStep::Continue;
         });
     }

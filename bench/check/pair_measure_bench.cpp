@@ -2,9 +2,10 @@
 
 #include "RandomSite.h"
 #include "bare_walk.h"
+#include "cad/UdDbBlock.h"
 #include "elements/NUXElementObject.h"
+#include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/distant/pair_distance.h"
-#include "evaluators/distant/pair_walk.h"
 #include "shipped_rules.h"
 
 #include <benchmark/benchmark.h>
@@ -17,12 +18,13 @@ using Append = void (*)(RandomSite& site);
 /// on this site, so nothing is measured.
 void visitOfPairWalk(benchmark::State& state) {
     const auto document = randomSite(1000);
-    const UdDbBlock& modelSpace = *document->GetModelSpace();
+    UdDbBlock* modelSpace = document->GetModelSpace();
     NuxStandardCheckRule rule = shippedRule("Distant_PrefabHouseToWoodFactory");
     rule.referenceElementType = QStringLiteral("NUX_ELEMENT_TYPE_BOXHOUSE");
-    const std::size_t visits = bareWalk(modelSpace, rule);
+    const std::size_t visits = bareWalk(*modelSpace, rule);
+    NUXRelElementTypeDistantRule evaluator;
     for ([[maybe_unused]] auto _ : state)
-        benchmark::DoNotOptimize(checkAllPairs(modelSpace, rule));
+        benchmark::DoNotOptimize(evaluator.check(modelSpace, rule));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(visits));
 }
 
@@ -50,11 +52,10 @@ void pairMeasure(benchmark::State& state, Append appendFirst) {
         elements.push_back(NUXElementObject::Cast(object.get()));
         types.push_back(elements.back()->getElementType());
     }
-    const NuxStandardCheckRule rule;
     for ([[maybe_unused]] auto _ : state)
         for (std::size_t i = 0; i < elements.size(); i += 2)
             benchmark::DoNotOptimize(
-                pairDistance({elements[i], types[i]}, {elements[i + 1], types[i + 1]}, rule));
+                pairDistance({elements[i], types[i]}, {elements[i + 1], types[i + 1]}, nullptr));
     state.SetItemsProcessed(state.iterations() * pairs);
 }
 

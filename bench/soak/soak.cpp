@@ -18,6 +18,8 @@
 #include <malloc.h>
 #include <unistd.h>
 
+using namespace firecheck;
+
 namespace {
 
 constexpr unsigned kRounds = 10;

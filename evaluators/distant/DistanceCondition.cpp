@@ -1,18 +1,17 @@
 #include "evaluators/distant/DistanceCondition.h"
 
+#include "evaluators/rule_catalogue.h"
+
 #include <QStringList>
 
-namespace {
-
-constexpr double kMillimetresPerMetre = 1000.0;
-
-} // namespace
+namespace firestandard {
 
 DistanceCondition::DistanceCondition(const NuxStandardCheckRule& rule) : m_word(Word::Unknown) {
     const QStringList parts =
         rule.distantValue.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
     m_minimum = parts[0].toDouble() * kMillimetresPerMetre;
-    // Deliberate: the mark itself is no number of metres and is not multiplied.
+    // Deliberate: the mark itself is no number of metres and is not multiplied, so that a rule without a
+    // maximum has none.
     m_maximum = parts.size() > 1 ? parts[1].toDouble() * kMillimetresPerMetre : kNoDistanceMark;
     if (rule.constraintCondition == QLatin1String("less"))
         m_word = Word::Less;
@@ -33,3 +32,14 @@ bool DistanceCondition::isDistanceViolated(double distance) const {
     }
     return false;
 }
+
+std::optional<double> DistanceCondition::minimum() const {
+    return m_word == Word::Unknown ? std::nullopt : std::optional(m_minimum);
+}
+
+std::optional<double> DistanceCondition::maximum() const {
+    const bool isJudgedBy = m_word == Word::LessOrMore && m_maximum < kNoDistanceMark;
+    return isJudgedBy ? std::optional(m_maximum) : std::nullopt;
+}
+
+} // namespace firestandard

@@ -2,6 +2,10 @@
 
 #include "rules_config/NuxStandardCheckRule.h"
 
+#include <optional>
+
+namespace firestandard {
+
 /// A measured distance strictly above this is none; also the maximum of a rule that names none.
 inline constexpr double kNoDistanceMark = 99999999999.0;
 
@@ -17,8 +21,9 @@ public:
     /// Both limits pass; no distance at all, above kNoDistanceMark, offends; a NaN passes.
     bool isDistanceViolated(double distance) const;
 
-    double minimum() const { return m_minimum; }
-    double maximum() const { return m_maximum; }
+    // The limits that distances are judged by; nothing where the condition does not judge by one.
+    std::optional<double> minimum() const;
+    std::optional<double> maximum() const;
 
 private:
     enum class Word { Less, LessOrMore, Unknown };
@@ -27,3 +32,5 @@ private:
     double m_minimum;
     double m_maximum;
 };
+
+} // namespace firestandard

@@ -3,16 +3,13 @@
 #include "cad/UdDbBlock.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXTotalStepDownSubstationObject.h"
+#include "evaluators/RuleOutcome.h"
 #include "evaluators/distant/DistanceCondition.h"
-#include "evaluators/violation_record.h"
-#include "site/CheckObserver.h"
-#include "site/element_body.h"
-#include "site/min_body_distance.h"
 #include "site/model_space_walk.h"
 
-namespace {
+using namespace firestandard;
 
-constexpr double kBodyHeight = 1.0;
+namespace {
 
 template <class Element> std::vector<const Element*> collect(const UdDbBlock& modelSpace) {
     std::vector<const Element*> elements;
@@ -23,62 +20,74 @@ template <class Element> std::vector<const Element*> collect(const UdDbBlock& mo
     return elements;
 }
 
-template <class Element>
-std::vector<NuxStandardCheckRule> checkSpacing(const UdDbBlock& modelSpace, const NuxStandardCheckRule& rule,
-                                               double (*pairDistance)(const Element&, const Element&)) {
-    const DistanceCondition condition(rule);
-    const std::vector<const Element*> elements = collect<Element>(modelSpace);
-    std::vector<NuxStandardCheckRule> violations;
-    for (std::size_t i = 0; i < elements.size(); ++i) {
-        observeFound(*elements[i]);
-        std::vector<qint64> offending;
-        for (std::size_t j = i + 1; j < elements.size(); ++j) {
-            const double distance = pairDistance(*elements[i], *elements[j]);
-            if (distance > kNoDistanceMark)
-                continue;
-            observePair(*elements[i], *elements[j], distance);
-            if (condition.isDistanceViolated(distance))
-                offending.push_back(elements[j]->Handle().GetID());
+std::optional<Contact> prefabHousePairDistance(const NUXPrefabHouseObject& first,
+                                               const NUXPrefabHouseObject& second) {
+    return leastContact(houseWithStairBodies(first), houseWithStairBodies(second));
+}
+
+std::optional<Contact> substationPairDistance(const NUXTotalStepDownSubstationObject& first,
+                                              const NUXTotalStepDownSubstationObject& second) {
+    return leastContact(elementBodies(&first), elementBodies(&second));
+}
+
+template <class Element> class SpacingWalk {
+public:
+    using PairMeasure = std::optional<Contact>(const Element& first, const Element& second);
+
+    SpacingWalk(const UdDbBlock& modelSpace, const NuxStandardCheckRule& rule, PairMeasure* measure)
+        : m_elements(collect<Element>(modelSpace)), m_measure(measure), m_condition(rule), m_outcome(rule) {}
+
+    std::vector<NuxStandardCheckRule> violations() {
+        std::vector<bool> isCompared(m_elements.size());
+        for (std::size_t i = 0; i < m_elements.size(); ++i) {
+            std::vector<qint64> offending;
+            for (std::size_t j = i + 1; j < m_elements.size(); ++j) {
+                const auto contact = m_measure(*m_elements[i], *m_elements[j]);
+                if (!contact || contact->distance > kNoDistanceMark)
+                    continue;
+                isCompared[i] = isCompared[j] = true;
+                const bool offends = m_condition.isDistanceViolated(contact->distance);
+                if (offends)
+                    offending.push_back(m_elements[j]->Handle().GetID());
+                if (CheckObserver* observer = m_outcome.observer())
+                    observer->compared({*m_elements[i], m_elements[j], offends,
+                                        Measurement{Quantity::Distance, contact->distance,
+                                                    m_condition.minimum(), m_condition.maximum()},
+                                        contact});
+            }
+            if (CheckObserver* observer = m_outcome.observer())
+                tellOfAlone(*observer, *m_elements[i], isCompared[i]);
+            if (!offending.empty())
+                m_outcome.addViolation(*m_elements[i]).relatedHandles = std::move(offending);
         }
-        if (offending.empty())
-            continue;
-        violations.push_back(violationOf(rule, *elements[i]));
-        violations.back().relatedHandles = std::move(offending);
+        return m_outcome.takeViolations();
     }
-    return violations;
-}
 
-BodyList houseBodies(const NUXPrefabHouseObject& house) {
-    BodyList bodies;
-    bodies.push_back(buildHouseWithStairBody(house, kBodyHeight));
-    return bodies;
-}
+private:
+    /// An element that was compared from the other side only has nothing of its own to answer for.
+    void tellOfAlone(CheckObserver& observer, const Element& element, bool isCompared) const {
+        if (isCompared)
+            observer.compared({element});
+        else
+            observer.notJudged(element, m_measure(element, element) ? NotJudged::NothingToCompare
+                                                                    : whyNoBody(&element));
+    }
 
-BodyList substationBodies(const NUXTotalStepDownSubstationObject& substation) {
-    BodyList bodies;
-    BodyPtr body;
-    if (buildElementBody(&substation, kBodyHeight, body))
-        bodies.push_back(std::move(body));
-    return bodies;
-}
+    const std::vector<const Element*> m_elements;
+    PairMeasure* const m_measure;
+    const DistanceCondition m_condition;
+    RuleOutcome m_outcome;
+};
 
 } // namespace
 
 std::vector<NuxStandardCheckRule> checkPrefabHouseSpacing(const UdDbBlock& modelSpace,
                                                           const NuxStandardCheckRule& rule) {
-    return checkSpacing<NUXPrefabHouseObject>(modelSpace, rule, prefabHousePairDistance);
+    return SpacingWalk<NUXPrefabHouseObject>(modelSpace, rule, prefabHousePairDistance).violations();
 }
 
 std::vector<NuxStandardCheckRule> checkSubstationSpacing(const UdDbBlock& modelSpace,
                                                          const NuxStandardCheckRule& rule) {
-    return checkSpacing<NUXTotalStepDownSubstationObject>(modelSpace, rule, substationPairDistance);
-}
-
-double prefabHousePairDistance(const NUXPrefabHouseObject& first, const NUXPrefabHouseObject& second) {
-    return minBodyDistance(houseBodies(first), houseBodies(second));
-}
-
-double substationPairDistance(const NUXTotalStepDownSubstationObject& first,
-                              const NUXTotalStepDownSubstationObject& second) {
-    return minBodyDistance(substationBodies(first), substationBodies(second));
+    return SpacingWalk<NUXTotalStepDownSubstationObject>(modelSpace, rule, substationPairDistance)
+        .violations();
 }

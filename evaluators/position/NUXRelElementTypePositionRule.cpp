@@ -4,8 +4,11 @@
 #include "evaluators/position/fire_extinguisher_box.h"
 #include "evaluators/position/fire_road_headroom.h"
 #include "evaluators/position/overhead_cable.h"
+#include "evaluators/rule_catalogue.h"
 
-// Deliberate: this evaluator sets no label and keeps the base's "RuleType".
+using namespace firestandard;
+
+// Deliberate: this evaluator sets no label and keeps the base's "RuleType", which hosts have always read.
 NUXRelElementTypePositionRule::NUXRelElementTypePositionRule() = default;
 
 bool NUXRelElementTypePositionRule::removeWithoutRules(NUXElementObject*, void*,
@@ -15,15 +18,19 @@ bool NUXRelElementTypePositionRule::removeWithoutRules(NUXElementObject*, void*,
 
 std::vector<NuxStandardCheckRule> NUXRelElementTypePositionRule::check(UdDbBlock* modelSpace,
                                                                        const NuxStandardCheckRule& rule) {
-    if (!modelSpace)
+    const RuleRow* row = findRule(rule.name, QStringLiteral("position"));
+    if (!modelSpace || !row)
         return {};
-    if (isFireExtinguisherBoxRule(rule.name))
-        return checkFireExtinguisherBoxes(*modelSpace, rule);
-    if (isOverheadCableRule(rule.name))
-        return checkOverheadCables(*modelSpace, rule);
-    if (rule.name == QLatin1String("Position_DoorToDoor"))
+    switch (row->test) {
+    case RuleTest::FireExtinguisherBox:
+        return checkFireExtinguisherBoxes(*modelSpace, rule, *row);
+    case RuleTest::OverheadCable:
+        return checkOverheadCables(*modelSpace, rule, *row);
+    case RuleTest::DoorToDoor:
         return checkDoorToDoor(*modelSpace, rule);
-    if (rule.name == QLatin1String("Position_FireRoad"))
+    case RuleTest::FireRoadHeadroom:
         return checkFireRoadHeadroom(*modelSpace, rule);
-    return {};
+    default:
+        return {};
+    }
 }

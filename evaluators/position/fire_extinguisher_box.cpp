@@ -4,41 +4,22 @@
 #include "elements/NUX3dsBaseObject.h"
 #include "elements/NUXOpenHouseObject.h"
 #include "elements/NUXPrefabHouseObject.h"
-#include "evaluators/position/workshop_use.h"
-#include "evaluators/violation_record.h"
-#include "site/CheckObserver.h"
+#include "evaluators/RuleOutcome.h"
 #include "site/IdentifierField.h"
-#include "site/element_body.h"
 #include "site/element_type_identifiers.h"
-#include "site/min_body_distance.h"
 #include "site/model_space_walk.h"
-#include "site/yard_or_3ds_body.h"
 
 #include <algorithm>
 #include <iterator>
 #include <string_view>
 
+namespace firestandard {
+
 namespace {
 
 constexpr double kMinimumBoxDistance = 0.0;
-constexpr double kNotMeasurable =
-    99999999999.0; // deliberate: itself not measurable, unlike in the distance rules
-constexpr double kBodyHeight = 1.0;
-
-constexpr const char* kYardAndHouseRules[] = {
-    "Position_FireExtinguisherBoxToWoodYard",
-    "Position_FireExtinguisherBoxToTemplateYard",
-    "Position_FireExtinguisherBoxToElectricalMechanicalYard",
-    "Position_FireExtinguisherBoxToPrefabHouse",
-    "Position_FireExtinguisherBoxToCloseHouse",
-    "Position_FireExtinguisherBoxToTransformerSubstation",
-};
-
-constexpr WorkshopUse kWorkshopUses[] = {
-    {"Position_FireExtinguisherBoxToWoodFactory", 2},
-    {"Position_FireExtinguisherBoxToWoodWorkingFactory", 3},
-    {"Position_FireExtinguisherBoxToEletricalMechanicalFactory", 4},
-};
+// Deliberate: itself not measurable, unlike in the distance rules, where the mark still is a distance.
+constexpr double kNotMeasurable = 99999999999.0;
 
 constexpr std::wstring_view kTypesWithElementBody[] = {
     NUX_EDO_TYPE_TEMPLATEYARD,
@@ -60,117 +41,137 @@ Boxes collectBoxes(const UdDbBlock& modelSpace) {
     return boxes;
 }
 
-/// How one element stands to the boxes of the site.
-struct Placement {
-    double nearest = kNotMeasurable;
-    Boxes misplaced;
-
-    bool isMeasurable() const { return nearest < kNotMeasurable; }
-    bool isServed() const { return isRight(nearest); }
-
-    static bool isRight(double distance) {
-        return distance > kMinimumBoxDistance && distance <= kMaximumBoxDistance;
-    }
+struct ExaminedElement {
+    const NUXElementObject* element;
+    std::wstring_view type;
 };
 
-Placement placementOf(const NUXElementObject& element, std::wstring_view type, const Boxes& boxes,
-                      const QString& ruleName) {
-    Placement placement;
-    for (const UdDbObject* box : boxes) {
-        const double distance = boxDistance(element, type, *box, ruleName);
-        if (!(distance < kNotMeasurable))
-            continue;
-        observePair(element, *box, distance);
-        placement.nearest = std::min(placement.nearest, distance);
-        if (!Placement::isRight(distance))
-            placement.misplaced.push_back(box);
+bool isWorkshopOfRule(const NUXOpenHouseObject* shed, const RuleRow& row) {
+    return shed && row.use.isOpenShedOf(shed->openHouseUse());
+}
+
+struct BoxDistance {
+    double distance;
+    std::optional<Contact> contact; ///< nothing where the distance is none or was not measured
+};
+
+BoxDistance between(const BodyList& element, const UdDbObject& box) {
+    const auto contact = leastContact(element, yardOr3dsBodies(&box));
+    return {contact ? contact->distance : kNoBodyDistance, contact};
+}
+
+/// The clear distance in millimetres between an element and a box, both as solids 1.0 high. kNoBodyDistance
+/// when either has no body, as an open shed of another use than the rule asks for; 0.0 when the element only
+/// claims to be an open shed.
+BoxDistance boxDistance(const ExaminedElement& examined, const UdDbObject& box, const RuleRow& row) {
+    const auto& [element, type] = examined;
+    if (std::find(std::begin(kTypesWithElementBody), std::end(kTypesWithElementBody), type) !=
+        std::end(kTypesWithElementBody))
+        return between(elementBodies(element), box);
+    if (type == NUX_ELEMENT_TYPE_PREFABHOUSE) {
+        const auto* house = NUXPrefabHouseObject::Cast(element);
+        return between(house ? houseWithStairBodies(*house) : BodyList(), box);
     }
-    return placement;
+    if (type == NUX_ELEMENT_TYPE_OPENHOUSE) {
+        const auto* shed = NUXOpenHouseObject::Cast(element);
+        if (!shed)
+            return {0.0, std::nullopt};
+        if (isWorkshopOfRule(shed, row))
+            return between(elementBodies(element), box);
+    }
+    return {kNoBodyDistance, std::nullopt};
 }
 
-bool needsBox(const NUXElementObject& element, std::wstring_view type, const QString& ruleName) {
-    if (type != NUX_ELEMENT_TYPE_OPENHOUSE)
-        return true;
-    const auto* shed = NUXOpenHouseObject::Cast(&element);
-    return shed && isWorkshopOfRule(kWorkshopUses, ruleName, shed->openHouseUse());
+bool isRight(double distance) {
+    return distance > kMinimumBoxDistance && distance <= kMaximumBoxDistance;
 }
 
-BodyList listOf(BodyPtr body) {
-    BodyList bodies;
-    if (body)
-        bodies.push_back(std::move(body));
-    return bodies;
-}
+class BoxWalk {
+public:
+    BoxWalk(const UdDbBlock& modelSpace, const NuxStandardCheckRule& rule, const RuleRow& row)
+        : m_modelSpace(modelSpace), m_boxes(collectBoxes(modelSpace)), m_row(row),
+          m_examinedType(rule.elementType), m_outcome(rule) {}
 
-BodyList elementBodies(const NUXElementObject& element) {
-    BodyPtr body;
-    buildElementBody(&element, kBodyHeight, body);
-    return listOf(std::move(body));
-}
+    std::vector<NuxStandardCheckRule> violations() {
+        walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
+            const auto* element = NUXElementObject::Cast(object);
+            if (!element)
+                return WalkStep::Continue;
+            const std::wstring type = element->getElementType();
+            if (!m_examinedType.matches(type))
+                return WalkStep::Continue;
+            if (m_hasEnded)
+                m_outcome.observer()->notJudged(*element, NotJudged::RuleEndedBefore);
+            else if (m_boxes.empty())
+                judgeWithoutBoxes({element, type});
+            else
+                judge({element, type});
+            return m_hasEnded && !m_outcome.observer() ? WalkStep::Stop : WalkStep::Continue;
+        });
+        return m_outcome.takeViolations();
+    }
 
-BodyList boxBodies(const UdDbObject& box) {
-    BodyPtr body;
-    buildYardOr3dsBody(&box, body);
-    return listOf(std::move(body));
-}
+private:
+    void judgeWithoutBoxes(const ExaminedElement& examined) {
+        const bool isOtherShed = examined.type == NUX_ELEMENT_TYPE_OPENHOUSE &&
+                                 !isWorkshopOfRule(NUXOpenHouseObject::Cast(examined.element), m_row);
+        if (!isOtherShed)
+            m_outcome.addViolation(*examined.element);
+        CheckObserver* observer = m_outcome.observer();
+        if (observer && isOtherShed)
+            observer->notJudged(*examined.element, NotJudged::OtherUse);
+        else if (observer)
+            observer->compared({*examined.element, nullptr, true});
+    }
+
+    void judge(const ExaminedElement& examined) {
+        CheckObserver* const observer = m_outcome.observer();
+        double nearest = kNotMeasurable;
+        Boxes misplaced;
+        std::vector<Comparison> comparisons; // whether they offend is known after the last box
+        for (const UdDbObject* box : m_boxes) {
+            const auto [distance, contact] = boxDistance(examined, *box, m_row);
+            if (!(distance < kNotMeasurable))
+                continue;
+            nearest = std::min(nearest, distance);
+            if (!isRight(distance))
+                misplaced.push_back(box);
+            if (observer)
+                comparisons.push_back({*examined.element, box, !isRight(distance),
+                                       atMost(Quantity::Distance, distance, kMaximumBoxDistance), contact});
+        }
+        if (!(nearest < kNotMeasurable)) {
+            m_hasEnded = true;
+            if (observer)
+                observer->notJudged(*examined.element, NotJudged::NoBoxMeasurable);
+            return;
+        }
+        const bool offends = !isRight(nearest);
+        for (Comparison& comparison : comparisons) {
+            comparison.offends = comparison.offends && offends;
+            observer->compared(comparison);
+        }
+        if (!offends)
+            return;
+        NuxStandardCheckRule& violation = m_outcome.addViolation(*examined.element);
+        for (const UdDbObject* box : misplaced)
+            relate(violation, *box);
+    }
+
+    const UdDbBlock& m_modelSpace;
+    const Boxes m_boxes;
+    const RuleRow& m_row;
+    const IdentifierField m_examinedType;
+    RuleOutcome m_outcome;
+    bool m_hasEnded = false; ///< after that the walk only goes on to tell what was not judged
+};
 
 } // namespace
 
-bool isFireExtinguisherBoxRule(const QString& ruleName) {
-    const auto isName = [&](const char* name) { return ruleName == QLatin1String(name); };
-    const auto isRow = [&](const WorkshopUse& row) { return isName(row.ruleName); };
-    return std::any_of(std::begin(kYardAndHouseRules), std::end(kYardAndHouseRules), isName) ||
-           std::any_of(std::begin(kWorkshopUses), std::end(kWorkshopUses), isRow);
-}
-
 std::vector<NuxStandardCheckRule> checkFireExtinguisherBoxes(const UdDbBlock& modelSpace,
-                                                             const NuxStandardCheckRule& rule) {
-    const Boxes boxes = collectBoxes(modelSpace);
-    const IdentifierField examinedType(rule.elementType);
-    std::vector<NuxStandardCheckRule> violations;
-    walkModelSpace(modelSpace, [&](const UdDbObject* object) {
-        const auto* element = NUXElementObject::Cast(object);
-        if (!element)
-            return WalkStep::Continue;
-        const std::wstring type = element->getElementType();
-        if (!examinedType.matches(type))
-            return WalkStep::Continue;
-        observeFound(*object);
-        if (boxes.empty()) {
-            if (needsBox(*element, type, rule.name))
-                violations.push_back(violationOf(rule, *object));
-            return WalkStep::Continue;
-        }
-        const Placement placement = placementOf(*element, type, boxes, rule.name);
-        if (!placement.isMeasurable())
-            return WalkStep::Stop;
-        if (!placement.isServed()) {
-            violations.push_back(violationOf(rule, *object));
-            for (const UdDbObject* box : placement.misplaced)
-                relate(violations.back(), *box);
-        }
-        return WalkStep::Continue;
-    });
-    return violations;
+                                                             const NuxStandardCheckRule& rule,
+                                                             const RuleRow& row) {
+    return BoxWalk(modelSpace, rule, row).violations();
 }
 
-double boxDistance(const NUXElementObject& element, std::wstring_view type, const UdDbObject& box,
-                   const QString& ruleName) {
-    const bool hasElementBody = std::find(std::begin(kTypesWithElementBody), std::end(kTypesWithElementBody),
-                                          type) != std::end(kTypesWithElementBody);
-    if (hasElementBody)
-        return minBodyDistance(elementBodies(element), boxBodies(box));
-    if (type == NUX_ELEMENT_TYPE_PREFABHOUSE) {
-        const auto* house = NUXPrefabHouseObject::Cast(&element);
-        return minBodyDistance(listOf(house ? buildHouseWithStairBody(*house, kBodyHeight) : nullptr),
-                               boxBodies(box));
-    }
-    if (type == NUX_ELEMENT_TYPE_OPENHOUSE) {
-        const auto* shed = NUXOpenHouseObject::Cast(&element);
-        if (!shed)
-            return 0.0;
-        if (isWorkshopOfRule(kWorkshopUses, ruleName, shed->openHouseUse()))
-            return minBodyDistance(elementBodies(element), boxBodies(box));
-    }
-    return kNoBodyDistance;
-}
+} // namespace firestandard

@@ -6,15 +6,11 @@
 #include "elements/NUXRoadObject.h"
 #include "elements/NUXServiceCableObject.h"
 #include "elements/NUXTowerCraneObject.h"
-#include "evaluators/position/cable_body.h"
-#include "evaluators/position/clearance_body.h"
-#include "evaluators/position/poster_headroom.h"
-#include "evaluators/violation_record.h"
+#include "evaluators/RuleOutcome.h"
+#include "evaluators/position/headroom_bodies.h"
+#include "geometry/BodyDistance.h"
 #include "geometry/CExtents3.h"
-#include "site/CheckObserver.h"
-#include "site/element_body.h"
 #include "site/element_type_identifiers.h"
-#include "site/min_body_distance.h"
 #include "site/model_space_walk.h"
 
 #include <algorithm>
@@ -22,12 +18,14 @@
 #include <limits>
 #include <string_view>
 
+namespace firestandard {
+
 namespace {
 
 using Roads = std::vector<const NUXRoadObject*>;
-using Records = std::vector<NuxStandardCheckRule>;
 
-constexpr double kElementBodyHeight = 1000.0;
+constexpr double kElementBodyHeight = 1000.0; // millimetres
+constexpr double kTouchDistance = 0.001;      // millimetres; distances up to it count as touching
 
 constexpr std::wstring_view kAllowedElements[] = {
     NUX_EDO_TYPE_ROAD,
@@ -48,89 +46,11 @@ bool contains(const std::wstring_view (&list)[count], const std::wstring& identi
     return std::find(std::begin(list), std::end(list), identifier) != std::end(list);
 }
 
-NuxStandardCheckRule intrusion(const NUXRoadObject& road, const UdDbObject& intruder,
-                               const NuxStandardCheckRule& rule) {
-    NuxStandardCheckRule record = violationOf(rule, road);
-    relate(record, intruder);
-    return record;
-}
-
-/// One record for each road with a clearance body into which the intruder reaches.
-template <class Intrudes>
-Records intrusions(const Roads& roads, const UdDbObject& intruder, const NuxStandardCheckRule& rule,
-                   Intrudes&& reachesInto) {
-    Records records;
-    for (const NUXRoadObject* road : roads) {
-        const auto clearance = buildClearanceBody(*road);
-        if (clearance && reachesInto(*clearance))
-            records.push_back(intrusion(*road, intruder, rule));
-    }
-    return records;
-}
-
-Records checkPoster(const Roads& roads, const NUXPosterObject& poster, const NuxStandardCheckRule& rule) {
-    const auto body = buildPosterBody(poster);
-    if (!body)
-        return {};
-    return intrusions(roads, poster, rule, [&](const hrx::CExtrudedBody& clearance) {
-        return posterIntrudes(poster, clearance, *body);
-    });
-}
-
-Records checkCable(const Roads& roads, const NUXServiceCableObject& cable, const NuxStandardCheckRule& rule) {
-    const auto body = buildCableBody(cable);
-    if (!body)
-        return {};
-    return intrusions(roads, cable, rule,
-                      [&](const hrx::CExtrudedBody& clearance) { return intrudes(clearance, *body); });
-}
-
-Records checkTowerCrane(const Roads& roads, const NUXTowerCraneObject& crane,
-                        const NuxStandardCheckRule& rule) {
-    const auto base = crane.getTowerBaseBody();
-    const auto frontJib = crane.getTowerQianBiBody();
-    const auto counterJib = crane.getTowerHouBiBody();
-    return intrusions(roads, crane, rule, [&](const hrx::CExtrudedBody& clearance) {
-        double least = kNoBodyDistance;
-        for (const auto* part : {&base, &frontJib, &counterJib}) {
-            if (*part)
-                least = std::min(least, clearanceDistance(clearance, **part));
-        }
-        return least <= kTouchDistance;
-    });
-}
-
-bool isSpecialElement(const std::wstring& type) {
-    return type == NUX_ELEMENT_TYPE_POSTER || type == NUX_EDO_TYPE_SERVICECABLE ||
-           type == NUX_EDO_TYPE_TOWERCRANE;
-}
-
-Records checkSpecialElement(const Roads& roads, const NUXElementObject& element, const std::wstring& type,
-                            const NuxStandardCheckRule& rule) {
-    if (type == NUX_ELEMENT_TYPE_POSTER) {
-        if (const auto* poster = NUXPosterObject::Cast(&element))
-            return checkPoster(roads, *poster, rule);
-    } else if (type == NUX_EDO_TYPE_SERVICECABLE) {
-        if (const auto* cable = NUXServiceCableObject::Cast(&element))
-            return checkCable(roads, *cable, rule);
-    } else if (const auto* crane = NUXTowerCraneObject::Cast(&element)) {
-        return checkTowerCrane(roads, *crane, rule);
-    }
-    return {};
-}
-
-/// Appends the intrusions of an ordinary element; false when it has no body, which ends its check.
-bool appendElementIntrusions(const Roads& roads, const NUXElementObject& element,
-                             const NuxStandardCheckRule& rule, Records& records) {
-    for (const NUXRoadObject* road : roads) {
-        const auto clearance = buildClearanceBody(*road);
-        BodyPtr body;
-        if (!buildElementBody(&element, kElementBodyHeight, body))
-            return false;
-        if (clearance && intrudes(*clearance, *body))
-            records.push_back(intrusion(*road, element, rule));
-    }
-    return true;
+/// Nothing when one of the two cannot be measured.
+std::optional<Contact> contactOf(const hrx::CExtrudedBody& clearance, const hrx::CBody& body) {
+    Contact contact;
+    contact.distance = hrx::BodyDistance(&clearance, &body, contact.onFirst, contact.onSecond, 0.1);
+    return contact.distance < kNoBodyDistance ? std::optional(contact) : std::nullopt;
 }
 
 bool overlaps(double lowest, double highest, double bodyLowest, double bodyHighest) {
@@ -138,36 +58,10 @@ bool overlaps(double lowest, double highest, double bodyLowest, double bodyHighe
     return !(lowest - kEpsilon > bodyHighest) && !(bodyLowest > highest + kEpsilon);
 }
 
-Records checkModelExtents(const Roads& roads, const NUX3dsBaseObject& model,
-                          const NuxStandardCheckRule& rule) {
-    // Without extents a model is beyond everything.
-    hrx::CExtents3 extents;
-    model.GetGeomExtents(extents.low, extents.high);
-    return intrusions(roads, model, rule, [&](const hrx::CExtrudedBody& clearance) {
-        const hrx::CExtents3 room = clearance.GetExtents();
-        return overlaps(extents.low.x, extents.high.x, room.low.x, room.high.x) &&
-               overlaps(extents.low.y, extents.high.y, room.low.y, room.high.y) &&
-               overlaps(extents.low.z, extents.high.z, room.low.z, room.high.z);
-    });
-}
-
-Records checkObject(const Roads& roads, const UdDbObject* object, const NuxStandardCheckRule& rule) {
-    Records records;
-    if (const auto* element = NUXElementObject::Cast(object)) {
-        const std::wstring type = element->getElementType();
-        if (contains(kAllowedElements, type))
-            return records;
-        if (isSpecialElement(type))
-            return checkSpecialElement(roads, *element, type, rule);
-        if (!appendElementIntrusions(roads, *element, rule, records))
-            return records;
-    }
-    const auto* model = NUX3dsBaseObject::Cast(object);
-    if (!model || contains(kAllowedModels, model->getModelKind()))
-        return records;
-    const Records ofExtents = checkModelExtents(roads, *model, rule);
-    records.insert(records.end(), ofExtents.begin(), ofExtents.end());
-    return records;
+bool overlap(const hrx::CExtents3& extents, const hrx::CExtents3& room) {
+    return overlaps(extents.low.x, extents.high.x, room.low.x, room.high.x) &&
+           overlaps(extents.low.y, extents.high.y, room.low.y, room.high.y) &&
+           overlaps(extents.low.z, extents.high.z, room.low.z, room.high.z);
 }
 
 Roads collectFireRoads(const UdDbBlock& modelSpace) {
@@ -180,18 +74,160 @@ Roads collectFireRoads(const UdDbBlock& modelSpace) {
     return roads;
 }
 
+/// The fire roads of the site against one object.
+class HeadroomCheck {
+public:
+    HeadroomCheck(const Roads& roads, const NuxStandardCheckRule& rule) : m_roads(roads), m_outcome(rule) {}
+
+    std::vector<NuxStandardCheckRule> violationsOf(const UdDbObject* object) {
+        judge(object);
+        return m_outcome.takeViolations();
+    }
+
+private:
+    void judge(const UdDbObject* object) {
+        const auto* model = NUX3dsBaseObject::Cast(object);
+        if (const auto* element = NUXElementObject::Cast(object)) {
+            const std::wstring type = element->getElementType();
+            if (contains(kAllowedElements, type))
+                return tellAllowed(element);
+            if (type == NUX_ELEMENT_TYPE_POSTER)
+                return judgePoster(*element);
+            if (type == NUX_EDO_TYPE_SERVICECABLE)
+                return judgeCable(*element);
+            if (type == NUX_EDO_TYPE_TOWERCRANE)
+                return judgeTowerCrane(*element);
+            if (!judgeElement(*element) || !model)
+                return;
+        }
+        if (model && !contains(kAllowedModels, model->getModelKind()))
+            return judgeExtents(*model);
+        tellAllowed(object);
+    }
+
+    void judgePoster(const NUXElementObject& element) {
+        const auto* poster = NUXPosterObject::Cast(&element);
+        const auto body = poster ? buildPosterBody(*poster) : nullptr;
+        if (!body)
+            return tellWithoutBody(element);
+        forEachClearance(element, [&](const hrx::CExtrudedBody& clearance) {
+            return isFitForMeasuring(*poster, clearance, *body) ? contactOf(clearance, *body) : std::nullopt;
+        });
+    }
+
+    void judgeCable(const NUXElementObject& element) {
+        const auto* cable = NUXServiceCableObject::Cast(&element);
+        const auto body = cable ? buildCableBody(*cable) : nullptr;
+        if (!body)
+            return tellWithoutBody(element);
+        forEachClearance(element,
+                         [&](const hrx::CExtrudedBody& clearance) { return contactOf(clearance, *body); });
+    }
+
+    void judgeTowerCrane(const NUXElementObject& element) {
+        const auto* crane = NUXTowerCraneObject::Cast(&element);
+        if (!crane)
+            return tellWithoutBody(element);
+        const auto base = crane->getTowerBaseBody();
+        const auto frontJib = crane->getTowerQianBiBody();
+        const auto counterJib = crane->getTowerHouBiBody();
+        forEachClearance(element, [&](const hrx::CExtrudedBody& clearance) {
+            std::optional<Contact> least;
+            for (const auto* part : {&base, &frontJib, &counterJib}) {
+                if (!*part)
+                    continue;
+                const std::optional<Contact> contact = contactOf(clearance, **part);
+                if (contact && (!least || contact->distance < least->distance))
+                    least = contact;
+            }
+            return least;
+        });
+    }
+
+    /// False when the element has no body, which ends its check.
+    bool judgeElement(const NUXElementObject& element) {
+        BodyPtr body;
+        if (!buildElementBody(&element, kElementBodyHeight, body)) {
+            tellWithoutBody(element);
+            return false;
+        }
+        forEachClearance(element,
+                         [&](const hrx::CExtrudedBody& clearance) { return contactOf(clearance, *body); });
+        return true;
+    }
+
+    void judgeExtents(const NUX3dsBaseObject& model) {
+        // Without extents a model is beyond everything.
+        hrx::CExtents3 extents;
+        model.GetGeomExtents(extents.low, extents.high);
+        for (const NUXRoadObject* road : m_roads) {
+            const auto clearance = buildClearanceBody(*road);
+            if (clearance)
+                conclude({*road, &model, overlap(extents, clearance->GetExtents())});
+            else
+                tellNotJudged(*road, NotJudged::NoOutline);
+        }
+    }
+
+    /// `measure` answers the contact of a clearance body with the object; nothing where it has none.
+    template <class Measure> void forEachClearance(const UdDbObject& object, Measure&& measure) {
+        for (const NUXRoadObject* road : m_roads) {
+            const auto clearance = buildClearanceBody(*road);
+            const std::optional<Contact> contact = clearance ? measure(*clearance) : std::nullopt;
+            if (contact)
+                conclude({*road, &object, contact->distance <= kTouchDistance,
+                          atLeast(Quantity::Clearance, contact->distance, kTouchDistance), contact});
+            else
+                tellNotJudged(*road, clearance ? NotJudged::NothingToCompare : NotJudged::NoOutline);
+        }
+    }
+
+    void conclude(const Comparison& comparison) {
+        if (comparison.offends)
+            relate(m_outcome.addViolation(comparison.element), *comparison.other);
+        if (CheckObserver* observer = m_outcome.observer())
+            observer->compared(comparison);
+    }
+
+    /// Null is an object that did not open.
+    void tellAllowed(const UdDbObject* object) const {
+        CheckObserver* const observer = m_outcome.observer();
+        for (const NUXRoadObject* road : observer ? m_roads : Roads()) {
+            if (object)
+                observer->compared({*road, object});
+            else
+                observer->notJudged(*road, NotJudged::NothingToCompare);
+        }
+    }
+
+    void tellWithoutBody(const NUXElementObject& element) const {
+        CheckObserver* const observer = m_outcome.observer();
+        for (const NUXRoadObject* road : observer ? m_roads : Roads()) {
+            observer->pairNotJudged(*road, element, whyNoBody(&element));
+            observer->notJudged(*road, NotJudged::NothingToCompare);
+        }
+    }
+
+    void tellNotJudged(const NUXRoadObject& road, NotJudged why) const {
+        if (CheckObserver* observer = m_outcome.observer())
+            observer->notJudged(road, why);
+    }
+
+    const Roads& m_roads;
+    RuleOutcome m_outcome;
+};
+
 } // namespace
 
 std::vector<NuxStandardCheckRule> checkFireRoadHeadroom(const UdDbBlock& modelSpace,
                                                         const NuxStandardCheckRule& rule) {
     const Roads roads = collectFireRoads(modelSpace);
-    for (const NUXRoadObject* road : roads)
-        observeFound(*road);
     if (roads.empty())
         return {};
-    // Deliberate: each object's records replace those of the one before it, so only the last object needs a
-    // check.
+    // Each object's records replace those of the one before it, so only the last object needs a check.
     const UdDbObject* last = nullptr;
     walkModelSpace(modelSpace, [&](const UdDbObject* object) { last = object; });
-    return checkObject(roads, last, rule);
+    return HeadroomCheck(roads, rule).violationsOf(last);
 }
+
+} // namespace firestandard

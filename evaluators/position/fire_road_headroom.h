@@ -6,11 +6,15 @@
 
 class UdDbBlock;
 
-/// Nothing but roads, washing pools, doors, vehicles and construction machines may reach into the headroom
-/// above a fire road. One record for each road and intruder: the road with the intruder as its related
-/// element.
+namespace firestandard {
+
+/// Nothing but roads, washing pools, doors, vehicles, construction machines and weighbridges may reach into
+/// the headroom above a fire road. One record for each road and intruder: the road with the intruder as its
+/// related element.
 ///
-/// Deliberate: the records are those of the last object of the model space alone, be it one that intrudes
-/// nowhere.
+/// Deliberate: the records are those of the last object of the model space alone, even if it intrudes
+/// nowhere; existing results are read so.
 std::vector<NuxStandardCheckRule> checkFireRoadHeadroom(const UdDbBlock& modelSpace,
                                                         const NuxStandardCheckRule& rule);
+
+} // namespace firestandard

@@ -4,34 +4,21 @@
 #include "elements/NUXOpenHouseObject.h"
 #include "elements/NUXServiceCableObject.h"
 #include "elements/NUXYardObject.h"
-#include "evaluators/position/workshop_use.h"
-#include "evaluators/violation_record.h"
+#include "evaluators/RuleOutcome.h"
 #include "geometry/CArc2d.h"
 #include "geometry/CExtents3.h"
 #include "geometry/CLine2d.h"
 #include "geometry/CPositionJudge.h"
 #include "geometry/DistEpsilon.h"
-#include "site/CheckObserver.h"
 #include "site/element_type_identifiers.h"
 #include "site/model_space_walk.h"
-#include "site/rectangle_outline.h"
+#include "site/outlines.h"
 
 #include <algorithm>
-#include <iterator>
+
+namespace firestandard {
 
 namespace {
-
-constexpr const char* kYardRules[] = {
-    "Position_WireToWoodYard",
-    "Position_WireToTemplateYard",
-    "Position_WireToElectricalMechanicalYard",
-};
-
-constexpr WorkshopUse kWorkshopUses[] = {
-    {"Position_WireToWoodFactory", 2},
-    {"Position_WireToWoodWorkingFactory", 3},
-    {"Position_WireToEletricalMechanicalFactory", 4},
-};
 
 // The position values of a curve that meets the boundary of an area and of one that lies inside it.
 constexpr int kMeetsBoundary = 0;
@@ -53,17 +40,17 @@ const NUXBaseObject* asYard(const UdDbObject* object) {
     return isJudged ? yard : nullptr;
 }
 
-const NUXBaseObject* asWorkshop(const UdDbObject* object, const QString& ruleName) {
+const NUXBaseObject* asWorkshop(const UdDbObject* object, const RuleRow& row) {
     const auto* shed = NUXOpenHouseObject::Cast(object);
-    return shed && isWorkshopOfRule(kWorkshopUses, ruleName, shed->openHouseUse()) ? shed : nullptr;
+    return shed && row.use.isOpenShedOf(shed->openHouseUse()) ? shed : nullptr;
 }
 
-Elements collect(const UdDbBlock& modelSpace, const QString& ruleName) {
+Elements collect(const UdDbBlock& modelSpace, const RuleRow& row) {
     Elements elements;
     walkModelSpace(modelSpace, [&](const UdDbObject* object) {
         if (const NUXBaseObject* yard = asYard(object))
             elements.yards.push_back(yard);
-        else if (const NUXBaseObject* workshop = asWorkshop(object, ruleName))
+        else if (const NUXBaseObject* workshop = asWorkshop(object, row))
             elements.workshops.push_back(workshop);
         if (const auto* cable = NUXServiceCableObject::Cast(object))
             elements.cables.push_back(cable);
@@ -81,7 +68,8 @@ bool isRaised(const NUXServiceCableObject& cable) {
 std::vector<hrx::PolyPt2d> planOutline(const NUXBaseObject& area) {
     std::vector<hrx::PolyPt2d> points;
     if (area.m_shapeKind == kRectangleShape) {
-        // Deliberate: the angle is taken to be in degrees, whatever a host's NUXRectParam makes of it.
+        // Deliberate: the angle is taken to be in degrees, whatever a host's NUXRectParam makes of it, as
+        // drawings of every host have been judged.
         const hrx::CVec3<double> centre = area.getPtRectCenter();
         for (const hrx::CVec2<double>& corner : turnedRectangleCorners(
                  {centre.x, centre.y}, area.getRectWidthL(), area.getRectHigh(), area.getRectAngle()))
@@ -90,7 +78,7 @@ std::vector<hrx::PolyPt2d> planOutline(const NUXBaseObject& area) {
         area.GetPolyPts(points);
     } else if (area.m_shapeKind == kCircleShape) {
         // Deliberate: only the x of the radius point counts, the circle is taken through its horizontal
-        // diameter.
+        // diameter; existing drawings keep their radius point there.
         const hrx::CVec3<double> centre = area.getPtCircleCenter();
         const hrx::CVec3<double> radiusPoint = area.getPtCircleRadir();
         points.push_back({radiusPoint.x, centre.y, 1.0});
@@ -106,38 +94,69 @@ std::unique_ptr<hrx::CCurve2d> planCurve(const NUXServiceCableObject& cable) {
 }
 
 bool runsOver(const NUXServiceCableObject& cable, const hrx::CPolygon& outline) {
-    if (!isRaised(cable))
-        return false;
     const auto curve = planCurve(cable);
     const int position = hrx::CPositionJudge().GetCurvePolygonPosition(curve.get(), &outline);
     return position == kMeetsBoundary || position == kInside;
 }
 
-} // namespace
+class CableWalk {
+public:
+    CableWalk(const UdDbBlock& modelSpace, const NuxStandardCheckRule& rule, const RuleRow& row)
+        : m_elements(collect(modelSpace, row)), m_outcome(rule) {}
 
-bool isOverheadCableRule(const QString& ruleName) {
-    const auto isName = [&](const char* name) { return ruleName == QLatin1String(name); };
-    const auto isRow = [&](const WorkshopUse& row) { return isName(row.ruleName); };
-    return std::any_of(std::begin(kYardRules), std::end(kYardRules), isName) ||
-           std::any_of(std::begin(kWorkshopUses), std::end(kWorkshopUses), isRow);
-}
+    std::vector<NuxStandardCheckRule> violations() {
+        leaveOutThoseOnTheGround();
+        std::vector<bool> isCompared(m_elements.cables.size());
+        for (const auto* areas : {&m_elements.yards, &m_elements.workshops})
+            for (const NUXBaseObject* area : *areas)
+                judge(*area, isCompared);
+        if (CheckObserver* observer = m_outcome.observer())
+            for (std::size_t i = 0; i < isCompared.size(); ++i)
+                if (!isCompared[i])
+                    observer->notJudged(*m_elements.cables[i], NotJudged::NothingToCompare);
+        return m_outcome.takeViolations();
+    }
 
-std::vector<NuxStandardCheckRule> checkOverheadCables(const UdDbBlock& modelSpace,
-                                                      const NuxStandardCheckRule& rule) {
-    const Elements elements = collect(modelSpace, rule.name);
-    for (const NUXServiceCableObject* cable : elements.cables)
-        observeFound(*cable);
-    std::vector<NuxStandardCheckRule> violations;
-    for (const auto* areas : {&elements.yards, &elements.workshops}) {
-        for (const NUXBaseObject* area : *areas) {
-            const OutlinePtr outline(new hrx::CPolygon(planOutline(*area)));
-            for (const NUXServiceCableObject* cable : elements.cables) {
-                if (!runsOver(*cable, *outline))
-                    continue;
-                violations.push_back(violationOf(rule, *cable));
-                relate(violations.back(), *area);
+private:
+    void leaveOutThoseOnTheGround() {
+        auto& cables = m_elements.cables;
+        const auto firstOnTheGround =
+            std::stable_partition(cables.begin(), cables.end(),
+                                  [](const NUXServiceCableObject* cable) { return isRaised(*cable); });
+        if (CheckObserver* observer = m_outcome.observer())
+            std::for_each(firstOnTheGround, cables.end(), [&](const NUXServiceCableObject* cable) {
+                observer->notJudged(*cable, NotJudged::OnTheGround);
+            });
+        cables.erase(firstOnTheGround, cables.end());
+    }
+
+    void judge(const NUXBaseObject& area, std::vector<bool>& isCompared) {
+        const std::vector<hrx::PolyPt2d> points = planOutline(area);
+        const OutlinePtr outline(new hrx::CPolygon(points));
+        for (std::size_t i = 0; i < m_elements.cables.size(); ++i) {
+            const NUXServiceCableObject& cable = *m_elements.cables[i];
+            const bool offends = runsOver(cable, *outline);
+            if (offends)
+                relate(m_outcome.addViolation(cable), area);
+            CheckObserver* observer = m_outcome.observer();
+            if (observer && points.empty()) {
+                observer->pairNotJudged(cable, area, NotJudged::NoOutline);
+            } else if (observer) {
+                isCompared[i] = true;
+                observer->compared({cable, &area, offends});
             }
         }
     }
-    return violations;
+
+    Elements m_elements;
+    RuleOutcome m_outcome;
+};
+
+} // namespace
+
+std::vector<NuxStandardCheckRule> checkOverheadCables(const UdDbBlock& modelSpace,
+                                                      const NuxStandardCheckRule& rule, const RuleRow& row) {
+    return CableWalk(modelSpace, rule, row).violations();
 }
+
+} // namespace firestandard

@@ -3,15 +3,50 @@
 #include "base/WcharArrayToQString.h"
 #include "cad/UdDbBlock.h"
 #include "elements/NUX3dsBaseObject.h"
-#include "elements/NUXElementObject.h"
-#include "evaluators/without/required_use.h"
-#include "site/CheckObserver.h"
+#include "elements/NUXCloseHouseObject.h"
+#include "elements/NUXOpenHouseObject.h"
+#include "elements/NUXPrefabHouseObject.h"
+#include "elements/NUXRoadObject.h"
+#include "elements/NUXWastePoolObject.h"
+#include "evaluators/RuleOutcome.h"
+#include "evaluators/rule_catalogue.h"
 #include "site/IdentifierField.h"
 #include "site/model_space_walk.h"
 
 #include <algorithm>
 
-// Deliberate: the label carries a stray "T".
+using namespace firestandard;
+
+namespace {
+
+bool hasUse(const NUXElementObject* element, const RequiredUse& use) {
+    switch (use.of) {
+    case RequiredUse::Of::FireRoad: {
+        const auto* road = NUXRoadObject::Cast(element);
+        return road && road->getIsFireRoad();
+    }
+    case RequiredUse::Of::PrefabHouse: {
+        const auto* house = NUXPrefabHouseObject::Cast(element);
+        return house && house->houseUse() == use.code;
+    }
+    case RequiredUse::Of::ClosedHouse: {
+        const auto* house = NUXCloseHouseObject::Cast(element);
+        return house && house->closeHouseUse() == use.name;
+    }
+    case RequiredUse::Of::WastePool: {
+        const auto* pool = NUXWastePoolObject::Cast(element);
+        return pool && pool->getObjectUse() == use.code;
+    }
+    default: {
+        const auto* shed = NUXOpenHouseObject::Cast(element);
+        return shed && use.isOpenShedOf(shed->openHouseUse());
+    }
+    }
+}
+
+} // namespace
+
+// Deliberate: the label carries a stray "T", which hosts have always read.
 NUXWithoutElementTypeRule::NUXWithoutElementTypeRule() {
     m_type = QStringLiteral("WithoutElementTypeTRule");
 }
@@ -41,26 +76,31 @@ std::vector<NuxStandardCheckRule> NUXWithoutElementTypeRule::check(UdDbBlock* mo
     if (!modelSpace)
         return {rule};
 
+    RuleOutcome outcome(rule);
+    CheckObserver* const observer = outcome.observer();
     const IdentifierField wantedType(rule.elementType);
     bool isPresent = false;
     walkModelSpace(*modelSpace, [&](UdDbObject* object) {
+        bool isOfType = false;
         // A 3-D model is never tried as a site element, nor asked for its use.
         if (const auto* model = NUX3dsBaseObject::Cast(object)) {
-            isPresent = wantedType.matches(model->getModelKind());
+            isPresent = isOfType = wantedType.matches(model->getModelKind());
         } else if (auto* element = NUXElementObject::Cast(object)) {
-            if (!wantedType.matches(element->getElementType()))
-                return WalkStep::Continue;
-            isPresent = rule.propertyType.isEmpty() || isRequiredUse(element, rule);
+            isOfType = wantedType.matches(element->getElementType());
+            isPresent = isOfType && (rule.propertyType.isEmpty() || isRequiredUse(element, rule));
         }
-        if (isPresent)
-            observeFound(*object);
+        if (observer && isPresent)
+            observer->compared({*object});
+        else if (observer && isOfType)
+            observer->notJudged(*object, NotJudged::OtherUse);
         return isPresent ? WalkStep::Stop : WalkStep::Continue;
     });
-    if (isPresent)
-        return {};
-    return {rule};
+    if (!isPresent)
+        outcome.addViolation();
+    return outcome.takeViolations();
 }
 
 bool NUXWithoutElementTypeRule::isRequiredUse(NUXElementObject* element, const NuxStandardCheckRule& rule) {
-    return hasRequiredUse(element, rule.name);
+    const RuleRow* row = findRule(rule.name, QStringLiteral("without"));
+    return row && hasUse(element, row->use);
 }

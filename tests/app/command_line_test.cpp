@@ -1,4 +1,4 @@
-#include "site_file/Json.h"
+#include "json/Json.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -6,6 +6,8 @@
 
 #include <fstream>
 #include <iterator>
+
+using namespace firecheck;
 
 namespace {
 

@@ -11,6 +11,8 @@
 
 #include <ctime>
 
+using namespace firecheck;
+
 namespace {
 
 Site siteOf(const std::string& objects) {

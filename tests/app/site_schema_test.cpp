@@ -10,6 +10,8 @@
 #include <QDir>
 #include <gtest/gtest.h>
 
+using namespace firecheck;
+
 namespace {
 
 bool readerAccepts(const Json& site) {

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace firecheck;
+
 namespace {
 
 /// A case file with one house and these cases.

@@ -2,13 +2,13 @@
 
 #include "InputError.h"
 #include "case_file/case_directory.h"
+#include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
 #include "rules/rule_fields.h"
 #include "rules/rule_file.h"
-#include "site/CheckObserver.h"
 #include "site_file/site_reader.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +17,9 @@
 #include <cmath>
 #include <map>
 #include <set>
+
+using namespace firecheck;
+using namespace firestandard;
 
 namespace {
 
@@ -31,37 +34,62 @@ public:
 
     void beginRule(const NuxStandardCheckRule&) override {}
     void endRule() override {}
-    void found(const UdDbObject& element) override { m_found.insert(element.Handle().GetID()); }
-    void valued(const UdDbObject& element, double value, double limit) override {
-        if (value != limit)
-            m_valued.insert(element.Handle().GetID());
+    void compared(const Comparison& comparison) override {
+        const qint64 element = comparison.element.Handle().GetID();
+        m_judged.insert(element);
+        expectConsistent(comparison);
+        if (comparison.offends)
+            m_offences.insert({element, comparison.other ? comparison.other->Handle().GetID() : 0});
     }
-    void measured(double distance, const hrx::CVec3<double>&, const hrx::CVec3<double>&) override {
-        m_measured = distance;
+    void notJudged(const UdDbObject& element, NotJudged why) override {
+        if (why != NotJudged::OtherUse)
+            m_passedOver[element.Handle().GetID()].insert(why);
     }
-    void judgedPair(const UdDbObject& element, const UdDbObject& other, double distance) override {
-        m_pairs.insert({element.Handle().GetID(), other.Handle().GetID()});
-        EXPECT_EQ(distance, m_measured) << "0 where nothing was measured";
-        m_measured = 0.0;
+    void pairNotJudged(const UdDbObject&, const UdDbObject&, NotJudged) override {}
+
+    bool hasJudged() const { return !m_judged.empty(); }
+
+    /// Each violation is told of as an offence with what it names, and nothing else is.
+    void expectToldOf(const std::vector<NuxStandardCheckRule>& records) const {
+        std::set<std::pair<qint64, qint64>> violations;
+        for (const NuxStandardCheckRule& record : records) {
+            // Doors are named where walls are judged, and the site as a whole where its roads are.
+            if (record.handle == 0 || record.name == "Position_DoorToDoor")
+                return;
+            for (const qint64 related : record.relatedHandles)
+                violations.insert({record.handle, related});
+            if (record.relatedHandles.empty())
+                violations.insert({record.handle, 0});
+        }
+        EXPECT_EQ(m_offences, violations);
     }
 
-    bool hasFound() const { return !m_found.empty(); }
-    void expectToldOf(const NuxStandardCheckRule& record) const {
-        EXPECT_EQ(hasFound(), record.type != "without");
-        const bool isOfDoors = record.name == "Position_DoorToDoor"; // it finds walls and names their doors
-        EXPECT_EQ(m_found.count(record.handle), record.handle != 0 && !isOfDoors ? 1u : 0u);
-        const bool hasValue = record.name.endsWith("Area") || record.name.endsWith("Width");
-        EXPECT_EQ(m_valued.count(record.handle), hasValue ? 1u : 0u);
-        const bool hasPairs = record.type == "distant" || record.name.contains("Box");
-        for (const qint64 related : record.relatedHandles)
-            EXPECT_EQ(m_pairs.count({record.handle, related}), hasPairs ? 1u : 0u) << related;
+    /// Of the elements that were compared with nothing, how many for each reason.
+    std::map<NotJudged, int> unjudged() const {
+        std::map<NotJudged, int> counts;
+        for (const auto& [element, reasons] : m_passedOver)
+            if (m_judged.count(element) == 0)
+                for (const NotJudged why : reasons)
+                    ++counts[why];
+        return counts;
     }
 
 private:
-    std::set<qint64> m_found;
-    std::set<qint64> m_valued;
-    std::set<std::pair<qint64, qint64>> m_pairs;
-    double m_measured = 0.0;
+    static void expectConsistent(const Comparison& comparison) {
+        if (!comparison.measurement)
+            return;
+        const auto& [quantity, value, minimum, maximum] = *comparison.measurement;
+        const bool isWithin = (!minimum || value >= *minimum) && (!maximum || value <= *maximum);
+        // A box may stand too near by touching, and one that does not serve is no offence beside one that
+        // does; what touches the headroom is in it; a corner offends by its doors.
+        EXPECT_TRUE(comparison.other || comparison.offends != isWithin) << value;
+        const double taken = quantity == Quantity::Distance ? 0.0 : value; // without being measured
+        EXPECT_EQ(value, comparison.contact ? comparison.contact->distance : taken);
+    }
+
+    std::set<qint64> m_judged;
+    std::set<std::pair<qint64, qint64>> m_offences;
+    std::map<qint64, std::set<NotJudged>> m_passedOver;
 };
 
 std::vector<NuxStandardCheckRule> check(const Json& siteJson, const NuxStandardCheckRule& rule) {
@@ -116,14 +144,15 @@ void judge(const Case& one, const Json& site, const char* placement) {
         expected.emplace_back(violation.element, violation.related);
     Violations found;
     const Watcher watcher;
-    for (const NuxStandardCheckRule& record : check(site, one.rule)) {
+    const std::vector<NuxStandardCheckRule> records = check(site, one.rule);
+    for (const NuxStandardCheckRule& record : records) {
         found.push_back({record.handle, {record.relatedHandles.begin(), record.relatedHandles.end()}});
         EXPECT_EQ(ruleTexts(record), ruleTexts(one.rule));
         EXPECT_FALSE(record.flag);
-        watcher.expectToldOf(record);
     }
+    watcher.expectToldOf(records);
     EXPECT_EQ(found, expected) << placement;
-    EXPECT_TRUE(one.rule.type != "without" || watcher.hasFound() == found.empty()) << placement;
+    EXPECT_TRUE(one.rule.type != "without" || watcher.hasJudged() == found.empty()) << placement;
 }
 
 } // namespace

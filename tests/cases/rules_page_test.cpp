@@ -6,6 +6,8 @@
 
 #include <set>
 
+using namespace firecheck;
+
 namespace {
 
 /// The page of one file with these cases, of rules "Without_A" and "Without_B".

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <random>
 
+using namespace firecheck;
+
 namespace {
 
 const QStringList kTypes =

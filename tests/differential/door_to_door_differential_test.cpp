@@ -4,13 +4,15 @@
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXWallObject.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
-#include "evaluators/position/wall_corner.h"
+#include "evaluators/position/door_to_door.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <optional>
 #include <random>
+
+using firestandard::WallAxis;
 
 namespace {
 
@@ -70,7 +72,7 @@ Records expectedRecords(const std::vector<Wall>& walls, int (&rowCounts)[4], int
             if (v == w || walls[v].doors.size() > 1)
                 continue;
             const std::optional<double> angle = angleByTable(walls[w], walls[v], row);
-            EXPECT_EQ(angle, cornerAngle(axisOf(walls[w]), axisOf(walls[v])));
+            EXPECT_EQ(angle, firestandard::cornerAngle(axisOf(walls[w]), axisOf(walls[v])));
             if (!angle || !(*angle > 1.5707963267948966))
                 continue;
             ++rowCounts[row];

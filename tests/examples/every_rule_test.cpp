@@ -8,6 +8,8 @@
 
 #include <set>
 
+using namespace firecheck;
+
 namespace {
 
 /// Another value for an attribute of a rule that cannot offend as shipped, or not together with the others.

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace firecheck;
+
 /// What a check of the site finds, sorted: each the rule's name, the offending element (0 for none), a colon
 /// and the related elements.
 inline std::vector<std::string> findings(const Json& site, const RuleMap& rules) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using firestandard::RuleMap;
+
 namespace {
 
 /// Rules of the types given, one letter each, named after their place: "wsw" makes W0 S1 W2.

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+using firestandard::RuleMap;
+
 namespace {
 
 NuxStandardCheckRule rule(const QString& type, const QString& name, const QString& elementType = {}) {

@@ -1,9 +1,7 @@
 #include "elements/NUXDoorObject.h"
 #include "geometry/CExtrudedBody.h"
-#include "site/element_body.h"
-#include "site/min_body_distance.h"
-#include "site/polyline_outline.h"
-#include "site/rectangle_outline.h"
+#include "site/bodies.h"
+#include "site/outlines.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +9,8 @@
 #include <cmath>
 #include <random>
 #include <sstream>
+
+using namespace firestandard;
 
 namespace {
 

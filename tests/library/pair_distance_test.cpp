@@ -1,12 +1,13 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/distant/DistanceCondition.h"
 #include "evaluators/distant/pair_distance.h"
-#include "site/min_body_distance.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+using namespace firestandard;
 
 TEST(DistanceCondition, TellsNoDistanceFromTheFarthest) {
     for (const char* word : {"less", "less or more", ""}) {
@@ -30,9 +31,9 @@ TEST(PairDistance, OfTwoPrefabHousesIsThatOfTheFirstFromTheOrigin) {
         const NUXPrefabHouseObject house(params);
         const NUXPrefabHouseObject other{NUXPrefabHouseParams()};
         const std::wstring type = house.getElementType();
-        EXPECT_EQ(pairDistance({&claimant, type}, {&house, type}, {}), kNoBodyDistance);
+        EXPECT_EQ(pairDistance({&claimant, type}, {&house, type}, nullptr).distance, kNoBodyDistance);
         const double gallery = side > 0.0 ? 500.0 : 0.0; // south of the house
-        EXPECT_NEAR(pairDistance({&house, type}, {&other, type}, {}), std::hypot(18000.0, 7000.0 - gallery),
-                    1e-4);
+        EXPECT_NEAR(pairDistance({&house, type}, {&other, type}, nullptr).distance,
+                    std::hypot(18000.0, 7000.0 - gallery), 1e-4);
     }
 }

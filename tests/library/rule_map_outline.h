@@ -1,16 +1,13 @@
 #pragma once
 
-#include "rules_config/NuxStandardCheckRule.h"
+#include "rules_config/read_rules.h"
 
-#include <QMap>
 #include <QStringList>
 
 #include <string>
 
-using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
-
 /// The records of a map as "key: name name; key: name".
-inline std::string outline(const RuleMap& rules) {
+inline std::string outline(const firestandard::RuleMap& rules) {
     QStringList entries;
     for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry) {
         QStringList names;

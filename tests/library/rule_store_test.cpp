@@ -1,12 +1,15 @@
-#include "RuleStoreAccess.h"
+#include "RuleFileInPlace.h"
 #include "rule_map_outline.h"
+#include "rules_config/NUXRuleConfigFile.h"
 
 #include <gtest/gtest.h>
+
+using firestandard::RuleMap;
 
 namespace {
 
 RuleMap rulesOf(const QByteArray& text) {
-    return RuleStoreAccess().load(text).getAllRuleMap();
+    return RuleFileInPlace().rulesOf(text);
 }
 
 } // namespace
@@ -61,22 +64,18 @@ TEST(RuleStore, ReadsARuleAsItStands) {
     EXPECT_FALSE(rule.flag);
 }
 
-TEST(RuleStore, SelectsByExactType) {
-    const NUXRuleConfigFile store = RuleStoreAccess().load(
-        "<a><g><R Type='self'/><R Type='distant'/><Q Type='self'/><P Type='selfish'/></g></a>");
-    EXPECT_EQ(outline(store.getRuleMapFromType("self")), "Q: Q; R: R");
-    EXPECT_EQ(outline(store.getRuleMapFromType("distant")), "R: R");
-    EXPECT_EQ(outline(store.getRuleMapFromType("Self")), "");
-}
-
-TEST(RuleStore, ReadsOnceAtTheFirstCall) {
-    const RuleStoreAccess first;
-    first.load("<a><g><First/></g></a>");
+TEST(RuleStore, ReadsOnceAtTheFirstCallAndSelectsByExactType) {
+    const RuleFileInPlace first;
+    first.write("<a><g><R Type='self'/><R Type='distant'/><Q Type='self'/><P Type='selfish'/></g></a>");
     NUXRuleConfigFile* store = NUXRuleConfigFile::Single();
-    const RuleStoreAccess second;
-    second.load("<a><g><Second/></g></a>");
+    const RuleFileInPlace second;
+    second.write("<a><g><Second Type='self'/></g></a>");
     store->setConfigFilePath(second.root.path());
     EXPECT_EQ(NUXRuleConfigFile::Single(), store);
-    EXPECT_EQ(outline(store->getAllRuleMap()), "First: First");
-    EXPECT_EQ(outline(NUXRuleConfigFile(*store).getAllRuleMap()), "First: First");
+    EXPECT_EQ(outline(store->getAllRuleMap()), "P: P; Q: Q; R: R R");
+    EXPECT_EQ(outline(NUXRuleConfigFile(*store).getAllRuleMap()), "P: P; Q: Q; R: R R");
+
+    EXPECT_EQ(outline(store->getRuleMapFromType("self")), "Q: Q; R: R");
+    EXPECT_EQ(outline(store->getRuleMapFromType("distant")), "R: R");
+    EXPECT_EQ(outline(store->getRuleMapFromType("Self")), "");
 }

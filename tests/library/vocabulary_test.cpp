@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+using namespace firestandard;
+
 namespace {
 
 #define TEXT(name) std::wstring(name),

@@ -5,6 +5,8 @@
 
 #include <set>
 
+using namespace firecheck;
+
 // Breaks the names and values of the shipped rule file, one at a time.
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace firecheck;
+
 namespace {
 
 using Expected = std::vector<std::string>;

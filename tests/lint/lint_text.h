@@ -7,6 +7,8 @@
 #include <fstream>
 #include <string>
 
+using namespace firecheck;
+
 /// Lints a rule file of this text.
 inline std::vector<LintFinding> lintText(const std::string& text) {
     static const QTemporaryDir directory;

@@ -5,7 +5,6 @@
 #include "rules/element_type_names.h"
 #include "rules/vocabulary.h"
 #include "rules/vocabulary_report.h"
-#include "site/min_body_distance.h"
 #include "site_file/site_reader.h"
 #include "source_file.h"
 
@@ -13,6 +12,11 @@
 
 #include <algorithm>
 #include <set>
+
+using namespace firecheck;
+using firestandard::findRule;
+using firestandard::kNoBodyDistance;
+using firestandard::RuleRow;
 
 // Holds the table of rule names against the shipped rule file and the distances against what is measured.
 
@@ -41,9 +45,8 @@ double distanceBetween(const std::string& first, const std::string& reference,
     const auto* otherElement = NUXElementObject::Cast(site.document->GetItem(2, UdDb::kForRead));
     const std::wstring firstType = firstElement->getElementType();
     const std::wstring otherType = otherElement->getElementType();
-    NuxStandardCheckRule rule;
-    rule.name = QString::fromStdString(ruleName);
-    return pairDistance({firstElement, firstType}, {otherElement, otherType}, rule);
+    const RuleRow* row = findRule(QString::fromStdString(ruleName), "distant");
+    return pairDistance({firstElement, firstType}, {otherElement, otherType}, row).distance;
 }
 
 TEST(RuleVocabulary, HoldsTheNamesOfTheShippedRuleFileWithTheirTypes) {

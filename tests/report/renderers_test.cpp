@@ -1,9 +1,9 @@
 #include "SchemaJudge.h"
-#include "accept/accept_file.h"
 #include "case_file/case_directory.h"
+#include "check/accept_file.h"
 #include "check/check_site.h"
 #include "report/ReportWriter.h"
-#include "report/html/plan_svg.h"
+#include "report/plan/plan_svg.h"
 #include "site_file/site_reader.h"
 #include "source_file.h"
 
@@ -11,6 +11,8 @@
 #include <QDomDocument>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
+
+using namespace firecheck;
 
 namespace {
 

@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace firecheck;
+
 // What the library passes over in silence, the checker refuses with a reason.
 TEST(RefusedRuleFile, IsNamedWithItsReason) {
     const QTemporaryDir directory;

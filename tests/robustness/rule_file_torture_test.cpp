@@ -1,4 +1,4 @@
-#include "RuleStoreAccess.h"
+#include "RuleFileInPlace.h"
 #include "source_file.h"
 
 #include <QDir>
@@ -7,14 +7,11 @@
 
 #include <sys/stat.h>
 
+using firestandard::RuleMap;
+
 namespace {
 
-using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
-
-class RuleFile : public testing::Test, protected RuleStoreAccess {
-protected:
-    RuleMap rulesOf(const QByteArray& text) const { return load(text).getAllRuleMap(); }
-};
+class RuleFile : public testing::Test, protected RuleFileInPlace {};
 
 QByteArray inGroup(const QByteArray& content, const QByteArray& prolog = QByteArray()) {
     return prolog + "<a><g>" + content + "</g></a>";
@@ -120,15 +117,15 @@ TEST_F(RuleFile, NeverReachesForAnotherFile) {
 
 TEST_F(RuleFile, ThatIsNoFileGivesNoRules) {
     ASSERT_TRUE(QDir().mkdir(fileName()));
-    EXPECT_EQ(countOf(load().getAllRuleMap()), 0) << "a directory";
+    EXPECT_EQ(countOf(read()), 0) << "a directory";
     ASSERT_TRUE(QDir().rmdir(fileName()));
 
     ASSERT_EQ(mkfifo(fileName().toLocal8Bit().constData(), 0600), 0);
-    EXPECT_EQ(countOf(load().getAllRuleMap()), 0) << "a pipe that nobody writes to";
+    EXPECT_EQ(countOf(read()), 0) << "a pipe that nobody writes to";
     ASSERT_TRUE(QFile::remove(fileName()));
 
     ASSERT_TRUE(QFile::link("/dev/zero", fileName()));
-    EXPECT_EQ(countOf(load().getAllRuleMap()), 0) << "an endless device";
+    EXPECT_EQ(countOf(read()), 0) << "an endless device";
     ASSERT_TRUE(QFile::remove(fileName()));
 }
 

@@ -16,6 +16,8 @@
 #include <sys/stat.h>
 #include <thread>
 
+using namespace firecheck;
+
 namespace {
 
 const std::string kChecked = "checked";

@@ -1,8 +1,10 @@
 #include "report/ReportWriter.h"
-#include "report/html/assets.h"
+#include "report/assets.h"
 #include "report/html/site_section.h"
 
 #include <QCryptographicHash>
+
+namespace firecheck {
 
 namespace {
 
@@ -49,3 +51,5 @@ private:
 std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink) {
     return std::make_unique<HtmlReportWriter>(std::move(sink));
 }
+
+} // namespace firecheck

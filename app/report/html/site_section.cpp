@@ -1,13 +1,15 @@
 #include "report/html/site_section.h"
 
-#include "report/html/escape.h"
-#include "report/html/plan_svg.h"
+#include "report/escape.h"
 #include "report/judgement_text.h"
+#include "report/plan/plan_svg.h"
 #include "report/sentence.h"
 
 #include <QStringList>
 
 #include <map>
+
+namespace firecheck {
 
 namespace {
 
@@ -238,7 +240,7 @@ private:
         if (m_report.notJudged.empty())
             return {};
         QString rows;
-        for (const NotJudged& passedOver : m_report.notJudged)
+        for (const PassedOver& passedOver : m_report.notJudged)
             rows += element("tr", {},
                             "<td>" + escaped(passedOver.what) + "</td><td>" + escaped(passedOver.reason) +
                                 "</td>");
@@ -260,3 +262,5 @@ private:
 void writeSiteSection(const SiteReport& report, std::size_t number, const ReportWriter::Sink& sink) {
     SiteSection(report, number, sink).write();
 }
+
+} // namespace firecheck

@@ -1,0 +1,229 @@
+#include "json/Codec.h"
+
+#include "text/nearest_name.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace firecheck {
+
+namespace {
+
+/// Coordinates up to which distances are measured; no other number needs more.
+constexpr double kGreatest = 1e12;
+
+double readNumber(const Json& value, const JsonPlace& place) {
+    if (!value.is_number())
+        refuseType(value, place, "a number");
+    const double result = value.get<double>();
+    if (!(std::abs(result) <= kGreatest))
+        refuse(place, "expected a number from -1e12 to 1e12");
+    return result;
+}
+
+Json numberSchema() {
+    return {{"type", "number"}, {"minimum", -kGreatest}, {"maximum", kGreatest}};
+}
+
+Json tupleSchema(std::size_t fewest, std::size_t most) {
+    return {{"type", "array"}, {"items", numberSchema()}, {"minItems", fewest}, {"maxItems", most}};
+}
+
+/// The numbers of a list of `fewest` to `most` numbers; missing ones are 0.
+std::array<double, 3> readTuple(const Json& value, const JsonPlace& place, std::size_t fewest,
+                                std::size_t most, const char* expected) {
+    if (!value.is_array() || value.size() < fewest || value.size() > most)
+        refuseType(value, place, expected);
+    std::array<double, 3> result{};
+    for (std::size_t i = 0; i < value.size(); ++i)
+        result.at(i) = readNumber(value[i], JsonPlace(place, i));
+    return result;
+}
+
+template <class T, class ReadItem>
+std::vector<T> readList(const Json& value, const JsonPlace& place, ReadItem readItem) {
+    if (!value.is_array())
+        refuseType(value, place, "a list");
+    std::vector<T> result;
+    result.reserve(value.size());
+    for (std::size_t i = 0; i < value.size(); ++i)
+        result.push_back(readItem(value[i], JsonPlace(place, i)));
+    return result;
+}
+
+Json listSchema(Json item) {
+    return {{"type", "array"}, {"items", std::move(item)}};
+}
+
+hrx::CVec3<double> readCorner(const Json& corners, const JsonPlace& place, const std::string& key) {
+    const auto found = corners.find(key);
+    if (found == corners.end())
+        refuse(place, "expected the key \"" + key + "\"");
+    const auto [x, y, z] = readTuple(*found, JsonPlace(place, key), 3, 3, "a point [x, y, z]");
+    return {x, y, z};
+}
+
+} // namespace
+
+void refuseType(const Json& value, const JsonPlace& place, const std::string& expected) {
+    std::string found = value.type_name();
+    if (value.is_array())
+        found = "list of " + std::to_string(value.size());
+    const bool startsWithVowel = found.front() == 'o' || found.front() == 'a';
+    const std::string article = value.is_null() ? "" : startsWithVowel ? "an " : "a ";
+    refuse(place, "expected " + expected + ", found " + article + found);
+}
+
+std::wstring wideText(const std::string& utf8) {
+    return QString::fromStdString(utf8).toStdWString();
+}
+
+Codec<bool> flag() {
+    return {{{"type", "boolean"}}, [](const Json& value, const JsonPlace& place) {
+                if (!value.is_boolean())
+                    refuseType(value, place, "true or false");
+                return value.get<bool>();
+            }};
+}
+
+Codec<double> number() {
+    return {numberSchema(), readNumber};
+}
+
+Codec<double> extent() {
+    return {{{"type", "number"}, {"minimum", 0}, {"maximum", kGreatest}},
+            [](const Json& value, const JsonPlace& place) {
+                const double result = readNumber(value, place);
+                if (result < 0.0)
+                    refuse(place, "expected a number that is not negative");
+                return result;
+            }};
+}
+
+Codec<std::wstring> text() {
+    return {{{"type", "string"}}, [](const Json& value, const JsonPlace& place) {
+                if (!value.is_string())
+                    refuseType(value, place, "a text");
+                return wideText(value.get_ref<const std::string&>());
+            }};
+}
+
+Codec<hrx::CVec2<double>> planPoint() {
+    return {tupleSchema(2, 2), [](const Json& value, const JsonPlace& place) {
+                const auto [x, y, unused] = readTuple(value, place, 2, 2, "a point [x, y]");
+                static_cast<void>(unused);
+                return hrx::CVec2<double>{x, y};
+            }};
+}
+
+Codec<hrx::CVec3<double>> point() {
+    return {tupleSchema(2, 3), [](const Json& value, const JsonPlace& place) {
+                const auto [x, y, z] = readTuple(value, place, 2, 3, "a point [x, y] or [x, y, z]");
+                return hrx::CVec3<double>{x, y, z};
+            }};
+}
+
+Codec<std::vector<hrx::PolyPt2d>> polyline() {
+    return {listSchema(tupleSchema(2, 3)), [](const Json& value, const JsonPlace& place) {
+                return readList<hrx::PolyPt2d>(value, place, [](const Json& item, const JsonPlace& at) {
+                    const auto [x, y, bulge] = readTuple(item, at, 2, 3, "a point [x, y] or [x, y, bulge]");
+                    return hrx::PolyPt2d{x, y, bulge};
+                });
+            }};
+}
+
+Codec<std::vector<hrx::CVec2<double>>> axisPositions() {
+    const Json position = {{"anyOf", {numberSchema(), tupleSchema(2, 2)}}};
+    return {listSchema(position), [](const Json& value, const JsonPlace& place) {
+                return readList<hrx::CVec2<double>>(value, place, [](const Json& item, const JsonPlace& at) {
+                    if (item.is_number())
+                        return hrx::CVec2<double>{readNumber(item, at), 0.0};
+                    const auto [x, y, unused] = readTuple(item, at, 2, 2, "a number or a point [x, y]");
+                    static_cast<void>(unused);
+                    return hrx::CVec2<double>{x, y};
+                });
+            }};
+}
+
+Codec<std::optional<hrx::CExtents3>> extents() {
+    Json schema = {{"type", "object"},
+                   {"required", {"low", "high"}},
+                   {"properties", {{"low", tupleSchema(3, 3)}, {"high", tupleSchema(3, 3)}}},
+                   {"additionalProperties", false}};
+    return {std::move(schema), [](const Json& value, const JsonPlace& place) {
+                if (!value.is_object())
+                    refuseType(value, place, "an object with \"low\" and \"high\"");
+                hrx::CExtents3 result;
+                result.low = readCorner(value, place, "low");
+                result.high = readCorner(value, place, "high");
+                if (value.size() > 2)
+                    refuse(place, "expected no other keys than \"low\" and \"high\"");
+                return std::optional(result);
+            }};
+}
+
+std::int64_t readInteger(const Json& value, const JsonPlace& place, std::int64_t lowest,
+                         std::int64_t highest) {
+    constexpr double exactUpTo = 9007199254740992.0;
+    std::int64_t result = 0;
+    bool fits = true;
+    if (value.is_number_unsigned()) {
+        const auto number = value.get<std::uint64_t>();
+        fits = number <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+        result = static_cast<std::int64_t>(number);
+    } else if (value.is_number_integer()) {
+        result = value.get<std::int64_t>();
+    } else if (value.is_number_float()) {
+        const auto number = value.get<double>();
+        if (std::trunc(number) != number)
+            refuse(place, "expected an integer, found a fraction");
+        fits = std::abs(number) <= exactUpTo;
+        result = fits ? static_cast<std::int64_t>(number) : 0;
+    } else {
+        refuseType(value, place, "an integer");
+    }
+    if (!fits || result < lowest || result > highest)
+        refuse(place,
+               "expected an integer from " + std::to_string(lowest) + " to " + std::to_string(highest));
+    return result;
+}
+
+Json integerSchema(std::int64_t lowest, std::int64_t highest) {
+    return {{"type", "integer"}, {"minimum", lowest}, {"maximum", highest}};
+}
+
+std::int64_t readCode(const Json& value, const JsonPlace& place, const CodeNames& names, std::int64_t lowest,
+                      std::int64_t highest) {
+    if (value.is_number())
+        return readInteger(value, place, lowest, highest);
+
+    std::string expected = "one of";
+    std::vector<std::string> known;
+    for (const auto& [name, number] : names) {
+        expected += " \"" + name + "\",";
+        known.push_back(name);
+    }
+    expected += " or an integer code";
+    if (!value.is_string())
+        refuseType(value, place, expected);
+
+    const auto& given = value.get_ref<const std::string&>();
+    const auto named = std::find_if(names.begin(), names.end(),
+                                    [&given](const auto& candidate) { return candidate.first == given; });
+    if (named != names.end())
+        return named->second;
+    const auto near = nearestName(given, known);
+    refuse(place, "expected " + expected + (near ? "; did you mean \"" + *near + "\"?" : ""));
+}
+
+Json codeSchema(const CodeNames& names, std::int64_t lowest, std::int64_t highest) {
+    Json known = Json::array();
+    for (const auto& [name, number] : names)
+        known.push_back(name);
+    return {{"anyOf", {{{"enum", std::move(known)}}, integerSchema(lowest, highest)}}};
+}
+
+} // namespace firecheck

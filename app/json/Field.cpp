@@ -1,0 +1,46 @@
+#include "json/Field.h"
+
+#include "text/nearest_name.h"
+
+#include <algorithm>
+
+namespace firecheck {
+
+void checkKeys(const Json& object, const JsonPlace& place, const std::vector<KeyShape>& shapes) {
+    if (!object.is_object())
+        refuseType(object, place, "an object");
+    for (const auto& [key, value] : object.items()) {
+        const auto& given = key;
+        if (std::any_of(shapes.begin(), shapes.end(),
+                        [&given](const KeyShape& shape) { return shape.key == given; }))
+            continue;
+        std::vector<std::string> known;
+        for (const KeyShape& shape : shapes)
+            known.push_back(shape.key);
+        const auto near = nearestName(key, known);
+        refuse(place, "unknown key \"" + key + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
+    }
+    for (const KeyShape& shape : shapes)
+        if (shape.required && !object.contains(shape.key))
+            refuse(place, "expected the key \"" + shape.key + "\" (" + shape.doc + ")");
+}
+
+Json objectSchema(const std::vector<KeyShape>& shapes) {
+    Json required = Json::array();
+    Json properties = Json::object();
+    for (const KeyShape& shape : shapes) {
+        Json property = {{"description", shape.doc}};
+        property.update(shape.schema);
+        properties[shape.key] = std::move(property);
+        if (shape.required)
+            required.push_back(shape.key);
+    }
+    Json schema = {{"type", "object"}};
+    if (!required.empty())
+        schema["required"] = std::move(required);
+    schema["properties"] = std::move(properties);
+    schema["additionalProperties"] = false;
+    return schema;
+}
+
+} // namespace firecheck

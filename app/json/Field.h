@@ -1,0 +1,101 @@
+#pragma once
+
+#include "json/Codec.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace firecheck {
+
+/// One key of a JSON object, as its documentation and schema show it.
+struct KeyShape {
+    std::string key;
+    std::string doc;
+    bool required = false;
+    Json schema;
+};
+
+/// One key of a JSON object and what it sets in Params. Usable for whatever derives from Params as well.
+template <class Params> struct Field : KeyShape {
+    template <class Read>
+    Field(KeyShape shape, Read readIntoParams)
+        : KeyShape(std::move(shape)), read(std::move(readIntoParams)) {}
+    template <class Base> Field(const Field<Base>& field) : KeyShape(field), read(field.read) {}
+
+    std::function<void(Params&, const Json&, const JsonPlace&)> read;
+};
+
+template <class Params> using Fields = std::vector<Field<Params>>;
+
+template <class Params, class T>
+Field<Params> optionalField(std::string key, T Params::*member, Codec<T> codec, std::string doc) {
+    Json schema = codec.schema;
+    return {
+        KeyShape{std::move(key), std::move(doc), false, std::move(schema)},
+        [member, read = std::move(codec.read)](Params& params, const Json& value, const JsonPlace& place) {
+            params.*member = read(value, place);
+        }};
+}
+
+/// As above, with a value for objects that do not give one.
+template <class Params, class T>
+Field<Params> defaultedField(std::string key, T Params::*member, Codec<T> codec, Json defaultValue,
+                             std::string doc) {
+    codec.schema["default"] = std::move(defaultValue);
+    return optionalField(std::move(key), member, std::move(codec), std::move(doc));
+}
+
+template <class Params, class T>
+Field<Params> requiredField(std::string key, T Params::*member, Codec<T> codec, std::string doc) {
+    auto field = optionalField(std::move(key), member, std::move(codec), std::move(doc));
+    field.required = true;
+    return field;
+}
+
+template <class Params> void append(Fields<Params>& fields, const Fields<Params>& further) {
+    fields.insert(fields.end(), further.begin(), further.end());
+}
+
+/// The fields of a base followed by further ones.
+template <class Params, class Base>
+Fields<Params> extended(const Fields<Base>& base, Fields<Params> further) {
+    Fields<Params> fields(base.begin(), base.end());
+    append(fields, further);
+    return fields;
+}
+
+/// Refuses what is no object, keys other than those of the shapes, and missing ones.
+void checkKeys(const Json& object, const JsonPlace& place, const std::vector<KeyShape>& shapes);
+
+Json objectSchema(const std::vector<KeyShape>& shapes);
+
+template <class Params> std::vector<KeyShape> keyShapes(const Fields<Params>& fields) {
+    return {fields.begin(), fields.end()};
+}
+
+/// Reads the fields that `object` holds, and the defaults of those it does not; its keys have been checked.
+template <class Params>
+void readFields(Params& params, const Fields<Params>& fields, const Json& object, const JsonPlace& place) {
+    for (const Field<Params>& field : fields) {
+        const auto given = object.find(field.key);
+        const auto standIn = field.schema.find("default");
+        if (given != object.end())
+            field.read(params, *given, JsonPlace(place, field.key));
+        else if (standIn != field.schema.end())
+            field.read(params, *standIn, JsonPlace(place, field.key));
+    }
+}
+
+/// An object in place of a value, whose keys set the same Params.
+template <class Params> Field<Params> nestedField(std::string key, Fields<Params> fields, std::string doc) {
+    const std::vector<KeyShape> shapes = keyShapes(fields);
+    KeyShape shape{std::move(key), std::move(doc), false, objectSchema(shapes)};
+    return {std::move(shape),
+            [fields = std::move(fields), shapes](Params& params, const Json& value, const JsonPlace& place) {
+                checkKeys(value, place, shapes);
+                readFields(params, fields, value, place);
+            }};
+}
+
+} // namespace firecheck

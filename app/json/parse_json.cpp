@@ -1,0 +1,139 @@
+#include "json/parse_json.h"
+
+#include "InputError.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+#include <vector>
+
+namespace firecheck {
+
+namespace {
+
+constexpr int kDeepestNesting = 32;
+constexpr std::size_t kMostKeys = 256;
+
+/// Reads the text for the parser and lets others see how far it has come.
+class CountingIterator {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    explicit CountingIterator(const char*& position) : m_position(&position) {}
+
+    reference operator*() const { return **m_position; }
+    CountingIterator& operator++() {
+        ++*m_position;
+        return *this;
+    }
+    bool operator==(const CountingIterator& other) const { return *m_position == *other.m_position; }
+    bool operator!=(const CountingIterator& other) const { return !(*this == other); }
+
+private:
+    const char** m_position;
+};
+
+std::string lineAndColumn(const std::string& text, std::size_t offset) {
+    const auto begin = text.begin();
+    const auto place = begin + static_cast<std::ptrdiff_t>(std::min(offset, text.size()));
+    const auto line = std::count(begin, place, '\n') + 1;
+    const auto lineStart = std::find(std::make_reverse_iterator(place), text.rend(), '\n').base();
+    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+    const auto column = std::count_if(lineStart, place, startsCharacter) + 1;
+    return std::to_string(line) + ":" + std::to_string(column);
+}
+
+/// What the parser objects to, without its own reckoning of the place and the token, which may be endless.
+std::string objection(const std::string& parserMessage) {
+    const auto start = parserMessage.find(" - ");
+    std::string reason = start == std::string::npos ? parserMessage : parserMessage.substr(start + 3);
+    const auto token = reason.find("; last read: ");
+    if (token == std::string::npos)
+        return reason;
+    const auto expected = reason.rfind("; expected ");
+    const std::string tail =
+        expected != std::string::npos && expected > token ? reason.substr(expected) : std::string();
+    return reason.substr(0, token) + tail;
+}
+
+/// Watches what the parser meets for what JSON as such allows. A pass of its own: a callback of the parser
+/// that builds values would make it look at all earlier siblings of every object.
+class Guard : public nlohmann::json_sax<Json> {
+public:
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t&) override { return true; }
+    bool string(string_t&) override { return true; }
+    bool binary(binary_t&) override { return true; }
+    bool start_object(std::size_t) override {
+        m_keys.emplace_back();
+        return descend();
+    }
+    bool key(string_t& key) override {
+        if (!m_keys.back().insert(key).second)
+            throw InputError("the key \"" + key + "\" occurs twice in its object");
+        if (m_keys.back().size() > kMostKeys)
+            throw InputError("an object with more than " + std::to_string(kMostKeys) + " keys");
+        return true;
+    }
+    bool end_object() override {
+        m_keys.pop_back();
+        return ascend();
+    }
+    bool start_array(std::size_t) override { return descend(); }
+    bool end_array() override { return ascend(); }
+    bool parse_error(std::size_t, const std::string&, const Json::exception& error) override {
+        if (dynamic_cast<const Json::out_of_range*>(&error))
+            throw InputError("expected a finite number");
+        throw InputError("expected JSON in UTF-8: " + objection(error.what()));
+    }
+
+private:
+    bool descend() {
+        if (++m_depth > kDeepestNesting)
+            throw InputError("nested deeper than " + std::to_string(kDeepestNesting) + " levels");
+        return true;
+    }
+    bool ascend() {
+        --m_depth;
+        return true;
+    }
+
+    int m_depth = 0;
+    std::vector<std::unordered_set<std::string>> m_keys;
+};
+
+} // namespace
+
+Json parseJson(const std::string& text, const std::string& name) {
+    const char* position = text.data();
+    const char* end = text.data() + text.size();
+    const auto fail = [&](const std::string& reason) -> InputError {
+        const auto read = static_cast<std::size_t>(position - text.data());
+        const bool atEnd = reason.find("unexpected end of input") != std::string::npos;
+        const std::size_t offset = atEnd || read == 0 ? read : read - 1;
+        return InputError(name + ":" + lineAndColumn(text, offset) + ": " + reason);
+    };
+
+    // The parser takes it for the end.
+    const auto nul = text.find('\0');
+    if (nul != std::string::npos) {
+        position += nul + 1;
+        throw fail("expected JSON in UTF-8: found a NUL byte, as texts in UTF-16 have");
+    }
+    Guard guard;
+    try {
+        Json::sax_parse(CountingIterator(position), CountingIterator(end), &guard);
+    } catch (const InputError& error) {
+        throw fail(error.what());
+    }
+    return Json::parse(text);
+}
+
+} // namespace firecheck

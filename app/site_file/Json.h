@@ -1,6 +1,0 @@
-#pragma once
-
-#include <nlohmann/json.hpp>
-
-/// JSON whose objects keep the order in which their keys were written.
-using Json = nlohmann::ordered_json;

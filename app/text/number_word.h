@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace firecheck {
+
+/// A small number as a sentence has it: "three"; in digits from ten on.
+std::string numberWord(int number);
+
+} // namespace firecheck
