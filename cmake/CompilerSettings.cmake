@@ -1,7 +1,12 @@
 # Flags for the project's own targets; linked by each of them, never exported.
 add_library(firecheck_settings INTERFACE)
 target_compile_options(firecheck_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                       -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+                       -Woverloaded-virtual -Wimplicit-fallthrough)
+# Not for those who only want the checker: a newer compiler may warn of more.
+option(FIRECHECK_WARNINGS_AS_ERRORS "Fail on warnings" OFF)
+if(FIRECHECK_WARNINGS_AS_ERRORS)
+    target_compile_options(firecheck_settings INTERFACE -Werror)
+endif()
 if(FIRECHECK_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(firecheck_settings INTERFACE ${sanitizers})

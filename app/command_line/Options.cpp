@@ -4,11 +4,9 @@
 
 namespace firecheck {
 
-Options::Options(const QStringList& words, const QStringList& valueOptions, const QStringList& flags) {
-    for (const QString& option : valueOptions)
-        m_parser.addOption({option, {}, "value"});
-    for (const QString& flag : flags)
-        m_parser.addOption(QCommandLineOption(flag));
+Options::Options(const QStringList& words, const Command& command) : m_command(command) {
+    for (const CommandOption& option : command.options)
+        m_parser.addOption({option.name, {}, option.value});
     // The parser expects the program's name first.
     if (!m_parser.parse(QStringList("firecheck") + words))
         throw InputError(m_parser.errorText().toStdString() + " Try \"firecheck --help\".");
@@ -23,7 +21,8 @@ std::optional<QString> Options::value(const QString& option) const {
     return given;
 }
 
-QString Options::format(const QStringList& allowed) const {
+QString Options::format() const {
+    const QStringList allowed = QString(m_command.option("format")->value).split('|');
     const QString format = value("format").value_or(allowed.first());
     if (!allowed.contains(format))
         throw InputError("No such format: \"" + format.toStdString() + "\". Choose one of " +

@@ -69,11 +69,10 @@ void writeProfile(const SiteReport& report) {
 
 } // namespace
 
-int checkCommand(const QStringList& words) {
-    const Options options(words, {"rules", "format", "output", "accept", "write-accept"}, {"profile"});
+int checkCommand(const Options& options) {
     if (options.arguments().isEmpty())
         throw InputError("No site file is given. Try \"firecheck --help\".");
-    const QString format = options.format({"text", "json", "csv", "html"});
+    const QString format = options.format();
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     const RuleMap& rules = loadRules(ruleFile);

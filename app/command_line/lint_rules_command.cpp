@@ -8,12 +8,11 @@
 
 namespace firecheck {
 
-int lintRulesCommand(const QStringList& words) {
-    const Options options(words, {"format", "output"});
+int lintRulesCommand(const Options& options) {
     const QStringList files = options.arguments();
     if (files.size() > 1)
         throw InputError("Only one rule file can be looked at at a time.");
-    const QString format = options.format({"text", "json"});
+    const QString format = options.format();
     const std::string fileName = files.isEmpty() ? defaultRuleFile() : files.first().toStdString();
     requireWellFormed(fileName);
     const std::vector<LintFinding> findings = lintRuleFile(fileName);

@@ -16,11 +16,10 @@ std::string vocabularyAs(const QString& format) {
 
 } // namespace
 
-int listRulesCommand(const QStringList& words) {
-    const Options options(words, {"format", "output"});
+int listRulesCommand(const Options& options) {
     if (!options.arguments().isEmpty())
         throw InputError("The list of rules takes no file. Try \"firecheck show-rules\".");
-    const QString format = options.format({"text", "json", "markdown"});
+    const QString format = options.format();
     Output output(options.value("output").value_or(QString()));
     output.write(vocabularyAs(format));
     output.commit();

@@ -8,8 +8,7 @@
 
 namespace firecheck {
 
-int planCommand(const QStringList& words) {
-    const Options options(words, {"rules", "output"});
+int planCommand(const Options& options) {
     if (options.arguments().size() != 1)
         throw InputError("Expected one site file. Try \"firecheck --help\".");
     const std::string fileName = options.arguments().first().toStdString();

@@ -40,12 +40,11 @@ std::string rulesAsText(const RuleMap& rules) {
 
 } // namespace
 
-int showRulesCommand(const QStringList& words) {
-    const Options options(words, {"format", "output"});
+int showRulesCommand(const Options& options) {
     const QStringList files = options.arguments();
     if (files.size() > 1)
         throw InputError("Only one rule file can be shown at a time.");
-    const QString format = options.format({"text", "json"});
+    const QString format = options.format();
     const RuleMap& rules = loadRules(files.isEmpty() ? defaultRuleFile() : files.first().toStdString());
     Output output(options.value("output").value_or(QString()));
     output.write(format == "json" ? rulesAsJson(rules) : rulesAsText(rules));

@@ -7,11 +7,10 @@
 
 namespace firecheck {
 
-int siteSchemaCommand(const QStringList& words) {
-    const Options options(words, {"format", "output"});
+int siteSchemaCommand(const Options& options) {
     if (!options.arguments().isEmpty())
         throw InputError("The site schema takes no file.");
-    const QString format = options.format({"json", "markdown"});
+    const QString format = options.format();
     Output output(options.value("output").value_or(QString()));
     output.write(format == "json" ? siteSchema().dump(2) + "\n" : siteReference());
     output.commit();

@@ -3,6 +3,7 @@
 #include "RandomSite.h"
 #include "bare_walk.h"
 #include "cad/UdApDocManager.h"
+#include "check/CheckRecorder.h"
 #include "engine/NUXCheck.h"
 #include "engine/NuxFireStandardCheck.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
@@ -29,6 +30,18 @@ void wholeCheck(benchmark::State& state) {
     for (const auto& filed : engine.getMapRules())
         records += filed.size();
     state.counters["records"] = static_cast<double>(records);
+    UdDocManagerPtr()->close(document);
+}
+
+/// The same check with the checker's recorder told of it.
+void recordedCheck(benchmark::State& state) {
+    shippedRules();
+    UdApDocument* document = UdDocManagerPtr()->open(randomSite(sizeOf(state)));
+    for ([[maybe_unused]] auto _ : state) {
+        firecheck::CheckRecorder recorder;
+        NUXCheck::instance()->DoCheck();
+        benchmark::DoNotOptimize(recorder.takeRuns());
+    }
     UdDocManagerPtr()->close(document);
 }
 
@@ -85,6 +98,7 @@ void oneSize(benchmark::internal::Benchmark* bench) {
 }
 
 BENCHMARK(wholeCheck)->Apply(sizes);
+BENCHMARK(recordedCheck)->Apply(sizes);
 BENCHMARK(bareWalkOfAllRules)->Apply(sizes);
 BENCHMARK_CAPTURE(ruleFamily, self, "self")->Apply(oneSize);
 BENCHMARK_CAPTURE(bareWalkOfFamily, self, "self")->Apply(oneSize);

@@ -1,4 +1,4 @@
-#include "geometry/plan_distance.h"
+#include "geometry/plan/plan_distance.h"
 #include "workloads.h"
 
 #include <memory>

@@ -14,7 +14,7 @@ std::optional<hrx::CExtents3> NUXBaseObject::geometryExtents() const {
     hrx::CExtents3 extents;
     if (m_shapeKind == kRectangleShape) {
         const NUXRectParam rect({m_rectCentre.x, m_rectCentre.y}, m_rectLength, m_rectDepth, m_rectAngle);
-        for (const hrx::CVec2<double>& corner : rectangleCorners(rect))
+        for (const hrx::CVec2<double>& corner : referencehost::rectangleCorners(rect))
             extents.add({corner.x, corner.y, m_elevation});
     } else if (m_shapeKind == kCircleShape) {
         const double r = m_circleRadius;

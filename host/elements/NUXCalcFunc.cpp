@@ -1,10 +1,10 @@
 #include "elements/NUXCalcFunc.h"
 
 #include "geometry/CBody.h"
-#include "geometry/outline_shape.h"
+#include "geometry/CPolygon.h"
 
 bool NUXCalcFunc::IsNuxStrictlyValid(const hrx::CPolygon* polygon, bool) {
-    return polygon && hrx::isStrictlyValid(*polygon);
+    return polygon && polygon->isStrictlyValid();
 }
 
 bool NUXCalcFunc::IsNuxStrictlyBodyValid(const hrx::CBody* body) {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace referencehost {
+
 std::array<hrx::CVec2<double>, 4> rectangleCorners(const NUXRectParam& rect) {
     constexpr double kRadiansPerDegree = 0.017453292519943295;
     const double cosine = std::cos(rect.angle() * kRadiansPerDegree);
@@ -14,3 +16,5 @@ std::array<hrx::CVec2<double>, 4> rectangleCorners(const NUXRectParam& rect) {
              {centre.x + toEnd.x + toSide.x, centre.y + toEnd.y + toSide.y},
              {centre.x - toEnd.x + toSide.x, centre.y - toEnd.y + toSide.y}}};
 }
+
+} // namespace referencehost

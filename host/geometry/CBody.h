@@ -1,10 +1,10 @@
 #pragma once
 
 #include "geometry/CExtents3.h"
-#include "geometry/ConvexPiece.h"
-#include "geometry/UprightSolid.h"
 
 namespace hrx {
+
+class CPolygon;
 
 /// A solid in the world frame, in mm. Lives on the heap; whoever builds one deletes it, or calls Free().
 class CBody {
@@ -22,13 +22,16 @@ public:
     virtual bool isStrictlyValid() const = 0;
 
     /// True when a distance to the solid makes sense: it has points, all finite and within 1e12 mm of the
-    /// world's origin. The members below need it.
+    /// world's origin.
     virtual bool isMeasurable() const = 0;
-    /// Describes the solid as one that stands straight up, if it is one. What it borrows lives as long as the
-    /// body.
-    virtual bool describeUpright(UprightSolid&) const { return false; }
-    /// Appends pieces that make up the solid, moved by -origin.
-    virtual void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const = 0;
+
+    /// The outline in plan of a solid that stands straight up over one; null for any other. The body keeps
+    /// it.
+    virtual const CPolygon* planOutline() const { return nullptr; }
+
+    /// What the solid is made as: CExtrudedBody, or one of those that GBodyBuilder makes.
+    enum class Kind { Extruded, Cylinder, Tube };
+    virtual Kind kind() const = 0;
 };
 
 } // namespace hrx

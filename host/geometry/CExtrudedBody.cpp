@@ -1,9 +1,9 @@
 #include "geometry/CExtrudedBody.h"
 
-#include "geometry/CellPiece.h"
 #include "geometry/DistEpsilon.h"
 #include "geometry/finite.h"
-#include "geometry/outline_shape.h"
+#include "geometry/plan/outline_shape.h"
+#include "geometry/solids/PrismPiece.h"
 
 #include <cmath>
 #include <ostream>
@@ -45,7 +45,7 @@ CExtents3 CExtrudedBody::GetExtents() const {
 
 bool CExtrudedBody::isStrictlyValid() const {
     return isFinite(m_frame) && std::isfinite(m_height) && std::abs(m_height) > g_DistEpsilon && m_outline &&
-           hrx::isStrictlyValid(*m_outline);
+           m_outline->isStrictlyValid();
 }
 
 bool CExtrudedBody::IsValid(const std::bitset<16>& checks, std::ostream* log) const {
@@ -66,34 +66,6 @@ bool CExtrudedBody::isMeasurable() const {
     return m_outline && isWithinReach(*m_outline) && isWithinReach(m_height) &&
            isWithinReach(m_frame.origin) && isWithinReach(m_frame.xAxis) && isWithinReach(m_frame.yAxis) &&
            isWithinReach(m_frame.zAxis);
-}
-
-bool CExtrudedBody::describeUpright(UprightSolid& solid) const {
-    if (!m_plan)
-        return false;
-    const double base = m_frame.origin.z;
-    const double top = base + m_frame.zAxis.z * m_height;
-    solid.outline = m_plan.get();
-    solid.low = std::min(base, top);
-    solid.high = std::max(base, top);
-    return true;
-}
-
-void CExtrudedBody::appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const {
-    // The outline moves to its first corner and the frame with it, so that the place of the site costs no
-    // precision.
-    const CVec2<double> corner = firstCorner(*m_outline);
-    CCoord3<double> base = m_frame;
-    base.origin = m_frame.origin - origin + m_frame.xAxis * corner.x + m_frame.yAxis * corner.y;
-    if (isConvex(*m_outline)) {
-        auto whole = std::make_unique<PrismPiece>(base, m_height);
-        for (const Edge2d& edge : m_outline->GetLoop(0)->edges())
-            whole->add({edge.start - corner, edge.end - corner, edge.bulge});
-        pieces.push_back(std::move(whole));
-        return;
-    }
-    for (const OutlineCell& cell : cellsOf(*m_outline, corner))
-        pieces.push_back(std::make_unique<CellPiece>(base, m_height, cell));
 }
 
 } // namespace hrx

@@ -24,8 +24,13 @@ public:
     bool IsValid(const std::bitset<16>& checks, std::ostream* log) const;
 
     bool isMeasurable() const override;
-    bool describeUpright(UprightSolid& solid) const override;
-    void appendPieces(const CVec3<double>& origin, ConvexPieces& pieces) const override;
+    Kind kind() const override { return Kind::Extruded; }
+    const CPolygon* planOutline() const override { return m_plan.get(); }
+
+    const CCoord3<double>& frame() const { return m_frame; }
+    double height() const { return m_height; }
+    /// In the frame's own coordinates; null for a body without one.
+    const CPolygon* outline() const { return m_outline.get(); }
 
 private:
     CCoord3<double> m_frame;

@@ -1,6 +1,6 @@
 #include "geometry/CLoopTreeNode.h"
 
-#include "geometry/plan_distance.h"
+#include "geometry/plan/plan_distance.h"
 
 #include <algorithm>
 

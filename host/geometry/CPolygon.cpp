@@ -33,9 +33,4 @@ void CPolygon::Free() {
         delete this;
 }
 
-void CPolygon::Release() {
-    if (--m_references == 0)
-        delete this;
-}
-
 } // namespace hrx

@@ -3,6 +3,7 @@
 #include "geometry/CCoedgeList.h"
 
 #include <boost/container/small_vector.hpp>
+#include <boost/smart_ptr/intrusive_ptr.hpp>
 
 #include <bitset>
 #include <cstddef>
@@ -47,12 +48,19 @@ public:
     /// passes. The log, when given, gets a line for the first check that fails.
     bool IsValid(const std::bitset<16>& checks, std::ostream* log) const;
 
+    /// All five checks, and an area above g_DistEpsilon times the girth. Holes, which run against the loop
+    /// around them, are taken off.
+    bool isStrictlyValid() const;
+
     /// Deletes the polygon unless somebody holds a reference to it.
     void Free();
-    void AddRef() { ++m_references; }
-    void Release();
 
 private:
+    friend void intrusive_ptr_add_ref(CPolygon* polygon) { ++polygon->m_references; }
+    friend void intrusive_ptr_release(CPolygon* polygon) {
+        if (--polygon->m_references == 0)
+            delete polygon;
+    }
     ~CPolygon() = default;
 
     Loops m_loops;
@@ -60,33 +68,6 @@ private:
 };
 
 /// Holds one reference to a polygon, or none.
-class PolygonRef {
-public:
-    PolygonRef() = default;
-    explicit PolygonRef(CPolygon* polygon) : m_polygon(polygon) {
-        if (m_polygon)
-            m_polygon->AddRef();
-    }
-    PolygonRef(const PolygonRef& other) : PolygonRef(other.m_polygon) {}
-    PolygonRef(PolygonRef&& other) noexcept : m_polygon(other.m_polygon) { other.m_polygon = nullptr; }
-    PolygonRef& operator=(PolygonRef other) noexcept {
-        CPolygon* const held = m_polygon;
-        m_polygon = other.m_polygon;
-        other.m_polygon = held;
-        return *this;
-    }
-    ~PolygonRef() {
-        if (m_polygon)
-            m_polygon->Release();
-    }
-
-    CPolygon* get() const { return m_polygon; }
-    CPolygon* operator->() const { return m_polygon; }
-    CPolygon& operator*() const { return *m_polygon; }
-    explicit operator bool() const { return m_polygon != nullptr; }
-
-private:
-    CPolygon* m_polygon = nullptr;
-};
+using PolygonRef = boost::intrusive_ptr<CPolygon>;
 
 } // namespace hrx

@@ -1,8 +1,9 @@
 #include "geometry/CPolygon.h"
-#include "geometry/edge_crossing.h"
-#include "geometry/edge_intersections.h"
+#include "geometry/DistEpsilon.h"
 #include "geometry/finite.h"
-#include "geometry/outline_shape.h"
+#include "geometry/plan/edge_crossing.h"
+#include "geometry/plan/edge_intersections.h"
+#include "geometry/plan/outline_shape.h"
 
 #include <algorithm>
 #include <cmath>
@@ -182,6 +183,19 @@ bool CPolygon::IsValid(const std::bitset<16>& checks, std::ostream* log) const {
         return false;
     }
     return true;
+}
+
+bool CPolygon::isStrictlyValid() const {
+    constexpr unsigned long kEveryCheck = 0x1f;
+    if (!IsValid(kEveryCheck, nullptr))
+        return false;
+    double area = 0.0;
+    double girth = 0.0;
+    for (const CCoedgeList& loop : loops()) {
+        area += loop.signedArea();
+        girth += loop.girth();
+    }
+    return std::abs(area) > g_DistEpsilon * girth;
 }
 
 } // namespace hrx

@@ -1,7 +1,7 @@
 #include "geometry/CPositionJudge.h"
 
-#include "geometry/edge_intersections.h"
-#include "geometry/plan_distance.h"
+#include "geometry/plan/edge_intersections.h"
+#include "geometry/plan/plan_distance.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "geometry/Curve2dlistToCoedgelists.h"
 
-#include "geometry/curve_arrangement.h"
-#include "geometry/face_tracing.h"
+#include "geometry/network/curve_arrangement.h"
+#include "geometry/network/face_tracing.h"
 
 namespace hrx {
 

@@ -1,9 +1,9 @@
 #include "geometry/GBodyBuilder.h"
 
-#include "geometry/CCylinderBody.h"
-#include "geometry/CTubeBody.h"
 #include "geometry/DistEpsilon.h"
-#include "geometry/outline_shape.h"
+#include "geometry/plan/outline_shape.h"
+#include "geometry/solids/CCylinderBody.h"
+#include "geometry/solids/CTubeBody.h"
 
 #include <cmath>
 #include <memory>

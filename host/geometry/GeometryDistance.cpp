@@ -2,8 +2,9 @@
 
 #include "geometry/BodyDistance.h"
 #include "geometry/CBody.h"
-#include "geometry/piece_distance.h"
-#include "geometry/upright_distance.h"
+#include "geometry/solids/piece_distance.h"
+#include "geometry/solids/solid_parts.h"
+#include "geometry/solids/upright_distance.h"
 
 #include <cmath>
 
@@ -26,8 +27,8 @@ SolidContact contactByPieces(const CBody& a, const CBody& b) {
     const CVec3<double> origin = (extents.low + extents.high) * 0.5;
     ConvexPieces piecesA;
     ConvexPieces piecesB;
-    a.appendPieces(origin, piecesA);
-    b.appendPieces(origin, piecesB);
+    appendPieces(a, origin, piecesA);
+    appendPieces(b, origin, piecesB);
     SolidContact contact = pieceContact(std::move(piecesA), std::move(piecesB));
     contact.onA = contact.onA + origin;
     contact.onB = contact.onB + origin;
@@ -37,7 +38,7 @@ SolidContact contactByPieces(const CBody& a, const CBody& b) {
 SolidContact contactOf(const CBody& a, const CBody& b) {
     UprightSolid uprightA;
     UprightSolid uprightB;
-    if (a.describeUpright(uprightA) && b.describeUpright(uprightB))
+    if (describeUpright(a, uprightA) && describeUpright(b, uprightB))
         return uprightContact(uprightA, uprightB);
     return contactByPieces(a, b);
 }

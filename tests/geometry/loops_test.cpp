@@ -3,7 +3,7 @@
 #include "geometry/CLine2d.h"
 #include "geometry/CLoopTreeNode.h"
 #include "geometry/Curve2dlistToCoedgelists.h"
-#include "geometry/plan_distance.h"
+#include "geometry/plan/plan_distance.h"
 
 #include <gmock/gmock.h>
 

@@ -2,7 +2,7 @@
 #include "elements/NUXCalcFunc.h"
 #include "geometry/CExtrudedBody.h"
 #include "geometry/CPolygon.h"
-#include "geometry/edge_crossing.h"
+#include "geometry/plan/edge_crossing.h"
 
 #include <gtest/gtest.h>
 

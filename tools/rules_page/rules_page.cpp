@@ -18,8 +18,7 @@ const char* const kIntroduction =
     "Each family has a base site, drawn and listed below its title. A case is that site, changed as its "
     "sentence says, and one rule; \"#11\" is the object of that handle. A word in *italics* stands for each "
     "of the values listed after the sentence. The second drawing of a family is a case that is found; its "
-    "red "
-    "numbers count the violations.\n\n";
+    "red numbers count the violations.\n\n";
 
 const Case* firstDrawnViolation(const CaseFile& file) {
     const auto found = std::find_if(file.cases.begin(), file.cases.end(), [](const Case& one) {

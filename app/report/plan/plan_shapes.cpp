@@ -83,9 +83,8 @@ void appendCrane(const NUXTowerCraneObject& crane, Paths& paths) {
          {crane.getTowerQianBiBody(), crane.getTowerHouBiBody(), crane.getTowerBaseBody()}) {
         if (!part)
             continue;
-        hrx::UprightSolid solid;
-        if (part->describeUpright(solid))
-            appendOutline(solid.outline, paths);
+        if (const hrx::CPolygon* outline = part->planOutline())
+            appendOutline(outline, paths);
         else
             appendBox(part->GetExtents(), paths);
     }
