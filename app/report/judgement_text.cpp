@@ -30,7 +30,7 @@ const char* reasonText(NotJudged why) {
     case NotJudged::NothingToCompare:
         return "nothing to compare with";
     case NotJudged::NeverMeasured:
-        return "with nothing but elements that are never measured against";
+        return "never measured against elements of the other type";
     case NotJudged::OtherUse:
         return "of another use";
     case NotJudged::DidNotOpen:

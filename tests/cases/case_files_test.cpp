@@ -2,11 +2,13 @@
 
 #include "InputError.h"
 #include "case_file/case_directory.h"
+#include "check/judged_rules.h"
 #include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
+#include "report/judgement_text.h"
 #include "rules/rule_fields.h"
 #include "rules/rule_file.h"
 #include "site_file/site_reader.h"
@@ -41,10 +43,7 @@ public:
         if (comparison.offends)
             m_offences.insert({element, comparison.other ? comparison.other->Handle().GetID() : 0});
     }
-    void notJudged(const UdDbObject& element, NotJudged why) override {
-        if (why != NotJudged::OtherUse)
-            m_passedOver[element.Handle().GetID()].insert(why);
-    }
+    void notJudged(const UdDbObject&, NotJudged) override {}
     void pairNotJudged(const UdDbObject&, const UdDbObject&, NotJudged) override {}
 
     bool hasJudged() const { return !m_judged.empty(); }
@@ -64,16 +63,6 @@ public:
         EXPECT_EQ(m_offences, violations);
     }
 
-    /// Of the elements that were compared with nothing, how many for each reason.
-    std::map<NotJudged, int> unjudged() const {
-        std::map<NotJudged, int> counts;
-        for (const auto& [element, reasons] : m_passedOver)
-            if (m_judged.count(element) == 0)
-                for (const NotJudged why : reasons)
-                    ++counts[why];
-        return counts;
-    }
-
 private:
     static void expectConsistent(const Comparison& comparison) {
         if (!comparison.measurement)
@@ -89,7 +78,6 @@ private:
 
     std::set<qint64> m_judged;
     std::set<std::pair<qint64, qint64>> m_offences;
-    std::map<qint64, std::set<NotJudged>> m_passedOver;
 };
 
 std::vector<NuxStandardCheckRule> check(const Json& siteJson, const NuxStandardCheckRule& rule) {
@@ -138,6 +126,21 @@ Json placed(Json site, bool isTurned) {
     return site;
 }
 
+/// What a report says of the rule, when it is the only one.
+std::string outcomeOf(const Case& one, const Json& site, const std::vector<NuxStandardCheckRule>& records) {
+    CheckRecorder recorder;
+    recorder.beginRule(one.rule);
+    check(site, one.rule);
+    recorder.endRule();
+    SiteReport report;
+    report.results = {{QString(), records}};
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        report.findings.emplace_back();
+        report.findings.back().index = i;
+    }
+    return judgementText(judgedRules(report, RuleRuns(recorder.takeRuns()), {one.rule}).front());
+}
+
 void judge(const Case& one, const Json& site, const char* placement) {
     Violations expected;
     for (const ExpectedViolation& violation : one.violations)
@@ -151,6 +154,7 @@ void judge(const Case& one, const Json& site, const char* placement) {
         EXPECT_FALSE(record.flag);
     }
     watcher.expectToldOf(records);
+    EXPECT_EQ(one.outcome.empty() ? "" : outcomeOf(one, site, records), one.outcome) << placement;
     EXPECT_EQ(found, expected) << placement;
     EXPECT_TRUE(one.rule.type != "without" || watcher.hasJudged() == found.empty()) << placement;
 }

@@ -20,6 +20,28 @@ TEST(DistanceCondition, TellsNoDistanceFromTheFarthest) {
     }
 }
 
+// What reports say that a rule asks for is what it judges by.
+TEST(DistanceCondition, TellsTheLimitsThatItsWordJudgesBy) {
+    struct Row {
+        const char* word;
+        const char* value;
+        std::optional<double> minimum, maximum;
+    };
+    const Row rows[] = {
+        {"less", "6:10", 6000.0, std::nullopt},       {"less or more", "6:10", 6000.0, 10000.0},
+        {"less or more", "6", 6000.0, std::nullopt},  {"less or more", "6:", 6000.0, 0.0},
+        {"Less", "6:10", std::nullopt, std::nullopt},
+    };
+    for (const Row& row : rows) {
+        NuxStandardCheckRule rule;
+        rule.constraintCondition = row.word;
+        rule.distantValue = row.value;
+        const DistanceCondition condition(rule);
+        EXPECT_EQ(condition.minimum(), row.minimum) << row.word << ' ' << row.value;
+        EXPECT_EQ(condition.maximum(), row.maximum) << row.word << ' ' << row.value;
+    }
+}
+
 // Rules between prefab houses are spaced and never measure a pair.
 TEST(PairDistance, OfTwoPrefabHousesIsThatOfTheFirstFromTheOrigin) {
     const NUXElementObject claimant(L"NUX_ELEMENT_TYPE_PREFABHOUSE");

@@ -122,7 +122,7 @@ public:
     Case read(const Json& value) const {
         checkKeys(value, {},
                   keys({"case", "violations"},
-                       {"rule", "fields", "set", "remove", "add", "last", "dependsOnDirection"}));
+                       {"rule", "fields", "set", "remove", "add", "last", "outcome", "dependsOnDirection"}));
         Case result;
         result.sentence = value.at("case").get<std::string>();
         try {
@@ -132,6 +132,7 @@ public:
             result.site = site(value);
             readSite(result.site);
             result.violations = expectedViolations(value.at("violations"));
+            result.outcome = value.value("outcome", std::string());
             result.dependsOnDirection = value.value("dependsOnDirection", m_dependsOnDirection);
         } catch (const std::exception& error) {
             throw InputError("\"" + result.sentence + "\": " + error.what());

@@ -33,6 +33,7 @@ struct Case {
     NuxStandardCheckRule rule;
     Json site; ///< as a site file gives it
     std::vector<ExpectedViolation> violations;
+    std::string outcome;             ///< what a report says of the rule; empty when the case leaves it open
     bool dependsOnDirection = false; ///< whether another result may be right once the site is turned
 };
 
@@ -47,6 +48,7 @@ struct Case {
 ///   "set"     by handle, keys of objects that differ; null removes a key,
 ///   "remove"  handles of objects that are not there,
 ///   "last"    the handle of the object that comes last,
+///   "outcome" what a report says of the rule, "nothing to judge: 1 found, on the ground",
 ///   "dependsOnDirection"  see above; also for the whole file.
 /// Rules and cases with "each", a list of objects, stand for one rule or case for each of these; "{key}" is
 /// replaced by the value, and a text that is nothing but "{key}" by the value itself, whatever its type.

@@ -19,7 +19,9 @@ std::string foundText(const Case& judged) {
         for (std::size_t i = 0; i < violation.related.size(); ++i)
             text += (i == 0 ? " with #" : ", #") + std::to_string(violation.related[i]);
     }
-    return text.empty() ? "nothing" : text;
+    if (text.empty())
+        text = "nothing";
+    return judged.outcome.empty() ? text : text + "<br>reported as “" + judged.outcome + "”";
 }
 
 std::string ruleName(const CaseFile& file, const Case& judged) {

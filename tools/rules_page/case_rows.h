@@ -12,7 +12,8 @@ namespace firecheck {
 struct CaseRow {
     std::string situation; ///< Markdown: the sentence, and the values of its placeholders where they differ
     std::vector<std::string> ruleNames; ///< of the rules judged, each once
-    std::string found;                  ///< "nothing", or the handles that the violations name
+    std::string found;                  ///< "nothing", or the handles that the violations name;
+                                        ///< then the reported outcome, where the case gives one
 };
 
 /// The cases that the rules from `firstRule` to before `endRule` explain, in the order of the file.
