@@ -12,6 +12,7 @@ using Of = RequiredUse::Of;
 using Test = RuleTest;
 
 constexpr std::array<double, 2> kNoLimits{};
+constexpr std::array<double, 2> kBoxLimits{kMaximumBoxDistance};
 
 // Names are spelt as rule files spell them: "Futureouse", "Eletrical", "Smooking" and "Machanical" are
 // deliberate, and so is that names of yards have "Electrical". Existing rule files rely on each letter.
@@ -30,9 +31,8 @@ RuleRow cableRule(const char* name, std::wstring_view areaType, const RequiredUs
 }
 
 RuleRow boxRule(const char* name, std::wstring_view elementType, const RequiredUse& use = {}) {
-    return {
-        name, "position",           Test::FireExtinguisherBox, elementType, NUX_EDO_TYPE_FIREEXTINGUISHERBOX,
-        use,  {kMaximumBoxDistance}};
+    return {name, "position", Test::FireExtinguisherBox, elementType, NUX_EDO_TYPE_FIREEXTINGUISHERBOX,
+            use,  kBoxLimits};
 }
 
 RuleRow facility(const char* name, std::wstring_view elementType, const RequiredUse& use) {

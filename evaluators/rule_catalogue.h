@@ -24,20 +24,20 @@ inline constexpr double kMaximumBoxDistance = 3000.0;
 inline constexpr double kHeadroom = 4000.0;
 inline constexpr double kCornerTolerance = 100.0;
 
-/// The test that judges rules of a name. Each stands in a file of its own name, beside its evaluator.
+/// The test that judges rules of a name, and the file in which it stands.
 enum class RuleTest {
-    PrefabHouseFloorArea,
-    PrefabHouseRoomArea,
-    PrefabHouseStairs,
-    RoadMinWidth,
-    RoadLoop,
-    OneDoorToRoadLoop,
-    RequiredFacility,
-    Distance,
-    FireExtinguisherBox,
-    OverheadCable,
-    DoorToDoor,
-    FireRoadHeadroom,
+    PrefabHouseFloorArea, ///< self/prefab_house
+    PrefabHouseRoomArea,  ///< self/prefab_house
+    PrefabHouseStairs,    ///< self/prefab_house
+    RoadMinWidth,         ///< self/NUXElementTypeRule
+    RoadLoop,             ///< self/road_network
+    OneDoorToRoadLoop,    ///< self/road_network
+    RequiredFacility,     ///< without/NUXWithoutElementTypeRule
+    Distance,             ///< distant/pair_distance
+    FireExtinguisherBox,  ///< position/fire_extinguisher_box
+    OverheadCable,        ///< position/overhead_cable
+    DoorToDoor,           ///< position/door_to_door
+    FireRoadHeadroom,     ///< position/fire_road_headroom
 };
 
 /// The use that a rule's name asks for, in the host's codes.

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "rules_config/NuxStandardCheckRule.h"
-
-#include <QMap>
-#include <QString>
+#include "rules_config/read_rules.h"
 
 #include <string>
-#include <vector>
 
 namespace firecheck {
 
-using RuleMap = QMap<QString, std::vector<NuxStandardCheckRule>>;
+using firestandard::RuleMap;
 
 /// The rule file in use where none is named: the one installed beside the executable or, in a source tree
 /// that was never installed, the one of that tree.
