@@ -145,7 +145,8 @@ TEST(SiteFile, ThatIsAPipeIsReadWhenSomebodyWrites) {
     EXPECT_THAT([&] { loadSite(name); },
                 testing::ThrowsMessage<InputError>(
                     name + ": expected a site file, found a pipe that nothing was written to"));
-    std::thread writer([&] { std::ofstream(name) << sourceText("examples/small-yard.json"); });
+    const std::string yard = sourceText("examples/small-yard.json");
+    std::thread writer([&] { std::ofstream(name) << yard; });
     EXPECT_EQ(loadSite(name).labels.size(), 12u);
     writer.join();
 }
