@@ -4,6 +4,7 @@
 
 #include <boost/container/small_vector.hpp>
 
+#include <cmath>
 #include <memory>
 
 namespace hrx {
@@ -16,6 +17,11 @@ public:
 
     /// A point of the part that is furthest in a direction (not zero, any length).
     virtual CVec3<double> support(const CVec3<double>& direction) const = 0;
+    /// As above, for a unit direction; where many points are as far, one level with a point of the part. An
+    /// iteration that is given the other end of a wall instead walks up and down it and stalls.
+    virtual CVec3<double> supportLevelWith(const CVec3<double>&, const CVec3<double>& direction) const {
+        return support(direction);
+    }
     /// The point of the part to use instead of a point of the hull: the same point where the part is convex.
     virtual CVec3<double> onPart(const CVec3<double>& hullPoint) const { return hullPoint; }
     /// Appends two halves; appends nothing when the part needs no dividing.
@@ -31,6 +37,12 @@ public:
         return extents;
     }
 };
+
+/// Whether a unit direction is level with a wall: to 1e-13 of it all points of the wall are as far, to 1e-9
+/// mm for walls up to 10 m.
+inline bool isLevel(double alongWall) {
+    return std::abs(alongWall) <= 1e-13;
+}
 
 using ConvexPieces = boost::container::small_vector<std::unique_ptr<ConvexPiece>, 6>;
 

@@ -13,6 +13,7 @@ public:
     /// Adds an edge of the outline; there must be one before the first use.
     void add(const Edge2d& edge) { m_hull.add(edge); }
     CVec3<double> support(const CVec3<double>& direction) const override;
+    CVec3<double> supportLevelWith(const CVec3<double>& point, const CVec3<double>& direction) const override;
 
 protected:
     const CCoord3<double>& frame() const { return m_frame; }

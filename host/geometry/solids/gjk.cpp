@@ -18,6 +18,15 @@ SimplexVertex supportOfDifference(const ConvexPiece& a, const ConvexPiece& b,
     return {onA, onB, onA - onB};
 }
 
+/// The support against the direction, on both pieces level with the points that are nearest so far.
+template <class Real>
+SimplexVertex supportLevelWith(const Simplex<Real>& simplex, const ConvexPiece& a, const ConvexPiece& b,
+                               const CVec3<double>& direction) {
+    const CVec3<double> onA = a.supportLevelWith(simplex.onA(), direction * -1.0);
+    const CVec3<double> onB = b.supportLevelWith(simplex.onB(), direction);
+    return {onA, onB, onA - onB};
+}
+
 template <class Real> CVec3<double> unit(const CVec3<Real>& v, Real size) {
     return {static_cast<double>(v.x / size), static_cast<double>(v.y / size),
             static_cast<double>(v.z / size)};
@@ -33,7 +42,7 @@ HullContact iterate(const ConvexPiece& a, const ConvexPiece& b, const CVec3<doub
         if (size <= kCertifiedGap)
             break;
         const CVec3<double> direction = unit(simplex.nearest(), size);
-        const SimplexVertex vertex = supportOfDifference(a, b, direction * -1.0);
+        const SimplexVertex vertex = supportLevelWith(simplex, a, b, direction);
         contact.lower = std::max(contact.lower, dot(direction, vertex.difference));
         if (contact.upper - contact.lower <= kCertifiedGap || contact.lower > enough)
             break;
