@@ -17,12 +17,13 @@ using Outline = std::unique_ptr<hrx::CPolygon, Free>;
 double plainDistance(const Loop& first, const Loop& second) {
     const Outline a(new hrx::CPolygon(first));
     const Outline b(new hrx::CPolygon(second));
-    if (hrx::contains(*a, {second[0].x, second[0].y}) || hrx::contains(*b, {first[0].x, first[0].y}))
+    if (hrx::plan::contains(*a, {second[0].x, second[0].y}) ||
+        hrx::plan::contains(*b, {first[0].x, first[0].y}))
         return 0.0;
-    hrx::PlanContact best;
+    hrx::plan::PlanContact best;
     for (const hrx::Edge2d& edgeA : a->GetLoop(0)->edges())
         for (const hrx::Edge2d& edgeB : b->GetLoop(0)->edges())
-            hrx::nearestOfEdges(edgeA, edgeB, best);
+            hrx::plan::nearestOfEdges(edgeA, edgeB, best);
     return std::sqrt(best.squared);
 }
 

@@ -14,7 +14,7 @@ struct NUX3dsBaseParams {
 /// A 3-D model object: a placed mesh that says what kind of thing it shows.
 class NUX3dsBaseObject : public UdDb3dsImage {
 public:
-    static constexpr ClassBits kClassBit = k3dsBaseObjectBit;
+    static constexpr ClassBits kClassBit = referencehost::k3dsBaseObjectBit;
     static NUX3dsBaseObject* Cast(const UdRxObject* object) { return UdRxCast<NUX3dsBaseObject>(object); }
 
     NUX3dsBaseObject(std::wstring modelKind, const NUX3dsBaseParams& params)

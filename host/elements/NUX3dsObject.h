@@ -11,7 +11,7 @@ struct NUX3dsParams : NUX3dsBaseParams {
 /// A 3-D model object of known size, placed by the middle of its footprint.
 class NUX3dsObject : public NUX3dsBaseObject {
 public:
-    static constexpr ClassBits kClassBit = k3dsObjectBit;
+    static constexpr ClassBits kClassBit = referencehost::k3dsObjectBit;
     static NUX3dsObject* Cast(const UdRxObject* object) { return UdRxCast<NUX3dsObject>(object); }
 
     NUX3dsObject(std::wstring modelKind, const NUX3dsParams& params)

@@ -37,7 +37,7 @@ struct NUXBaseParams {
 /// A site element with a footprint.
 class NUXBaseObject : public NUXElementObject, public UdDbPolyLine {
 public:
-    static constexpr ClassBits kClassBit = kBaseObjectBit;
+    static constexpr ClassBits kClassBit = referencehost::kBaseObjectBit;
     static NUXBaseObject* Cast(const UdRxObject* object) { return UdRxCast<NUXBaseObject>(object); }
 
     NUXBaseObject(std::wstring typeIdentifier, const NUXBaseParams& params)

@@ -9,7 +9,7 @@ struct NUXCloseHouseParams : NUXBaseParams {
 /// A closed house.
 class NUXCloseHouseObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kCloseHouseBit;
+    static constexpr ClassBits kClassBit = referencehost::kCloseHouseBit;
     static NUXCloseHouseObject* Cast(const UdRxObject* object) {
         return UdRxCast<NUXCloseHouseObject>(object);
     }

@@ -5,7 +5,7 @@
 /// A crossing of roads.
 class NUXCrossObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kCrossBit;
+    static constexpr ClassBits kClassBit = referencehost::kCrossBit;
     static NUXCrossObject* Cast(const UdRxObject* object) { return UdRxCast<NUXCrossObject>(object); }
 
     explicit NUXCrossObject(const NUXBaseParams& params,

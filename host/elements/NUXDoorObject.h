@@ -15,7 +15,7 @@ struct NUXDoorParams : NUXBaseParams {
 /// A door or gate: a leaf between two posts.
 class NUXDoorObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kDoorBit;
+    static constexpr ClassBits kClassBit = referencehost::kDoorBit;
     static NUXDoorObject* Cast(const UdRxObject* object) { return UdRxCast<NUXDoorObject>(object); }
 
     explicit NUXDoorObject(const NUXDoorParams& params, std::wstring typeIdentifier = L"NUX_EDO_TYPE_DOOR")

@@ -9,7 +9,7 @@
 /// A site element. Every class has its own type identifier, which an element may be given in place of.
 class NUXElementObject : public UdDbObject {
 public:
-    static constexpr ClassBits kClassBit = kElementObjectBit;
+    static constexpr ClassBits kClassBit = referencehost::kElementObjectBit;
     static NUXElementObject* Cast(const UdRxObject* object) { return UdRxCast<NUXElementObject>(object); }
 
     explicit NUXElementObject(std::wstring typeIdentifier) : NUXElementObject(0, std::move(typeIdentifier)) {}

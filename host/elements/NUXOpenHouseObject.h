@@ -9,7 +9,7 @@ struct NUXOpenHouseParams : NUXBaseParams {
 /// An open shed.
 class NUXOpenHouseObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kOpenHouseBit;
+    static constexpr ClassBits kClassBit = referencehost::kOpenHouseBit;
     static NUXOpenHouseObject* Cast(const UdRxObject* object) { return UdRxCast<NUXOpenHouseObject>(object); }
 
     explicit NUXOpenHouseObject(const NUXOpenHouseParams& params,

@@ -15,7 +15,7 @@ struct NUXPosterParams {
 /// A poster or banner between two points.
 class NUXPosterObject : public NUXElementObject {
 public:
-    static constexpr ClassBits kClassBit = kPosterBit;
+    static constexpr ClassBits kClassBit = referencehost::kPosterBit;
     static NUXPosterObject* Cast(const UdRxObject* object) { return UdRxCast<NUXPosterObject>(object); }
 
     explicit NUXPosterObject(const NUXPosterParams& params,

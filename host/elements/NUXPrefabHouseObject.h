@@ -22,7 +22,7 @@ struct NUXPrefabHouseParams : NUXBaseParams {
 
 class NUXPrefabHouseObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kPrefabHouseBit;
+    static constexpr ClassBits kClassBit = referencehost::kPrefabHouseBit;
     static NUXPrefabHouseObject* Cast(const UdRxObject* object) {
         return UdRxCast<NUXPrefabHouseObject>(object);
     }

@@ -21,7 +21,7 @@ struct NUXRoadParams : NUXBaseParams {
 
 class NUXRoadObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kRoadBit;
+    static constexpr ClassBits kClassBit = referencehost::kRoadBit;
     static NUXRoadObject* Cast(const UdRxObject* object) { return UdRxCast<NUXRoadObject>(object); }
 
     explicit NUXRoadObject(const NUXRoadParams& params, std::wstring typeIdentifier = L"NUX_EDO_TYPE_ROAD");

@@ -19,7 +19,7 @@ struct NUXServiceCableParams : NUXBaseParams {
 /// An overhead service cable.
 class NUXServiceCableObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kServiceCableBit;
+    static constexpr ClassBits kClassBit = referencehost::kServiceCableBit;
     static NUXServiceCableObject* Cast(const UdRxObject* object) {
         return UdRxCast<NUXServiceCableObject>(object);
     }

@@ -5,7 +5,7 @@
 /// The substation that feeds the whole site.
 class NUXTotalStepDownSubstationObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kTotalStepDownSubstationBit;
+    static constexpr ClassBits kClassBit = referencehost::kTotalStepDownSubstationBit;
     static NUXTotalStepDownSubstationObject* Cast(const UdRxObject* object) {
         return UdRxCast<NUXTotalStepDownSubstationObject>(object);
     }

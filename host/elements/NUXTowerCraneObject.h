@@ -22,7 +22,7 @@ struct NUXTowerCraneParams {
 
 class NUXTowerCraneObject : public NUXElementObject {
 public:
-    static constexpr ClassBits kClassBit = kTowerCraneBit;
+    static constexpr ClassBits kClassBit = referencehost::kTowerCraneBit;
     static NUXTowerCraneObject* Cast(const UdRxObject* object) {
         return UdRxCast<NUXTowerCraneObject>(object);
     }

@@ -28,7 +28,7 @@ struct NUXWallParams {
 /// A straight wall or fence, given by its axis.
 class NUXWallObject : public NUXElementObject {
 public:
-    static constexpr ClassBits kClassBit = kWallBit;
+    static constexpr ClassBits kClassBit = referencehost::kWallBit;
     static NUXWallObject* Cast(const UdRxObject* object) { return UdRxCast<NUXWallObject>(object); }
 
     explicit NUXWallObject(const NUXWallParams& params, std::wstring typeIdentifier = L"NUX_EDO_TYPE_WALL")

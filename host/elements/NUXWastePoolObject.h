@@ -9,7 +9,7 @@ struct NUXWastePoolParams : NUXBaseParams {
 /// A waste pool.
 class NUXWastePoolObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kWastePoolBit;
+    static constexpr ClassBits kClassBit = referencehost::kWastePoolBit;
     static NUXWastePoolObject* Cast(const UdRxObject* object) { return UdRxCast<NUXWastePoolObject>(object); }
 
     explicit NUXWastePoolObject(const NUXWastePoolParams& params,

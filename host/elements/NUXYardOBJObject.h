@@ -9,7 +9,7 @@ struct NUXYardOBJParams : NUXBaseParams {
 /// A yard drawn as a mesh; its footprint is its rectangle.
 class NUXYardOBJObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kYardOBJBit;
+    static constexpr ClassBits kClassBit = referencehost::kYardOBJBit;
     static NUXYardOBJObject* Cast(const UdRxObject* object) { return UdRxCast<NUXYardOBJObject>(object); }
 
     explicit NUXYardOBJObject(const NUXYardOBJParams& params,

@@ -5,7 +5,7 @@
 /// A material yard; which kind it is, its type identifier tells.
 class NUXYardObject : public NUXBaseObject {
 public:
-    static constexpr ClassBits kClassBit = kYardBit;
+    static constexpr ClassBits kClassBit = referencehost::kYardBit;
     static NUXYardObject* Cast(const UdRxObject* object) { return UdRxCast<NUXYardObject>(object); }
 
     explicit NUXYardObject(const NUXBaseParams& params,

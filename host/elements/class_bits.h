@@ -2,8 +2,10 @@
 
 #include "cad/UdRxObject.h"
 
+namespace referencehost {
+
 /// One bit for each class that objects can be cast to.
-enum NUXClassBit : UdRxObject::ClassBits {
+enum ClassBit : UdRxObject::ClassBits {
     kElementObjectBit = 1u << 0,
     kBaseObjectBit = 1u << 1,
     kPrefabHouseBit = 1u << 2,
@@ -23,3 +25,5 @@ enum NUXClassBit : UdRxObject::ClassBits {
     k3dsBaseObjectBit = 1u << 16,
     k3dsObjectBit = 1u << 17,
 };
+
+} // namespace referencehost

@@ -22,16 +22,4 @@ struct CBox2d {
     }
 };
 
-/// The number, or 0 when it is negative; exact for finite numbers, without a branch nobody could predict.
-inline double positivePart(double number) {
-    return 0.5 * (number + std::abs(number));
-}
-
-/// Square of the least distance between two boxes; 0 when they touch or overlap.
-inline double squaredDistance(const CBox2d& a, const CBox2d& b) {
-    const double dx = positivePart(std::max(a.low.x - b.high.x, b.low.x - a.high.x));
-    const double dy = positivePart(std::max(a.low.y - b.high.y, b.low.y - a.high.y));
-    return dx * dx + dy * dy;
-}
-
 } // namespace hrx

@@ -26,14 +26,14 @@ bool isUpright(const CCoord3<double>& frame) {
 CExtrudedBody::CExtrudedBody(const CCoord3<double>& frame, double height, CPolygon* outline, bool)
     : m_frame(frame), m_height(height), m_outline(outline) {
     if (m_outline && isUpright(m_frame))
-        m_plan = standsInWorldPlan(m_frame) ? m_outline : PolygonRef(movedToPlan(*m_outline, m_frame));
+        m_plan = standsInWorldPlan(m_frame) ? m_outline : PolygonRef(plan::movedToPlan(*m_outline, m_frame));
 }
 
 CExtents3 CExtrudedBody::GetExtents() const {
     CExtents3 extents;
     if (!m_outline)
         return extents;
-    PrismPiece hull(m_frame, m_height);
+    solids::PrismPiece hull(m_frame, m_height);
     bool empty = true;
     for (const CCoedgeList& loop : m_outline->loops())
         for (const Edge2d& edge : loop.edges()) {
@@ -63,7 +63,7 @@ bool CExtrudedBody::IsValid(const std::bitset<16>& checks, std::ostream* log) co
 }
 
 bool CExtrudedBody::isMeasurable() const {
-    return m_outline && isWithinReach(*m_outline) && isWithinReach(m_height) &&
+    return m_outline && plan::isWithinReach(*m_outline) && isWithinReach(m_height) &&
            isWithinReach(m_frame.origin) && isWithinReach(m_frame.xAxis) && isWithinReach(m_frame.yAxis) &&
            isWithinReach(m_frame.zAxis);
 }

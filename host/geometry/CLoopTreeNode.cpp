@@ -1,5 +1,6 @@
 #include "geometry/CLoopTreeNode.h"
 
+#include "geometry/plan/box_distance.h"
 #include "geometry/plan/plan_distance.h"
 
 #include <algorithm>
@@ -16,12 +17,12 @@ bool CLoopTreeNode::holds(const CCoedgeList& loop) const {
     const CVec2<double>& corner = loop.edges().front().start;
     CBox2d cornerBox;
     cornerBox.add(corner);
-    if (squaredDistance(m_box, cornerBox) > 0.0)
+    if (plan::squaredDistance(m_box, cornerBox) > 0.0)
         return false;
     const CCoedgeList::Edges& edges = m_polygon->GetLoop(0)->edges();
     const bool sharesCorner =
         std::any_of(edges.begin(), edges.end(), [&](const Edge2d& edge) { return edge.start == corner; });
-    return !sharesCorner && contains(*m_polygon, corner);
+    return !sharesCorner && plan::contains(*m_polygon, corner);
 }
 
 bool CLoopTreeNode::GenPolygonListByCoedgeList(const std::vector<CCoedgeList>& coedgeLists,

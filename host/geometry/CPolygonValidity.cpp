@@ -72,7 +72,7 @@ bool staysOffArc(const CVec2<double>& line, const Edge2d& arc) {
     if (cross(arc.end - arc.start, line) * arc.bulge > 0.0)
         return true;
     const CVec2<double> inward = leftNormal(arc.startDirection()) * std::copysign(1.0, arc.bulge);
-    return dot(line, line) < 2.0 * arc.radius() * dot(inward, line) - g_touchDistance * length(line) ||
+    return dot(line, line) < 2.0 * arc.radius() * dot(inward, line) - plan::g_touchDistance * length(line) ||
            dot(inward, line) < 0.0;
 }
 
@@ -88,7 +88,8 @@ bool areSidesOfCorner(const Edge2d& a, const Edge2d& b) {
 }
 
 bool spansCross(const Span& a, const Span& b) {
-    return overlapInY(a.box, b.box) && !areSidesOfCorner(*a.edge, *b.edge) && edgesCross(*a.edge, *b.edge);
+    return overlapInY(a.box, b.box) && !areSidesOfCorner(*a.edge, *b.edge) &&
+           plan::edgesCross(*a.edge, *b.edge);
 }
 
 /// True when v turns off u to the left beyond all rounding.
@@ -130,7 +131,7 @@ CVec2<double> mainDirection(const CPolygon& polygon) {
 
 /// The boxes lie in a frame whose y axis is the main direction: most edges are narrow along x.
 Spans spansOf(const CPolygon& polygon) {
-    const CVec2<double> origin = firstCorner(polygon);
+    const CVec2<double> origin = plan::firstCorner(polygon);
     const CVec2<double> direction = mainDirection(polygon);
     const auto turned = [&](const CVec2<double>& point) {
         const CVec2<double> arm = point - origin;

@@ -1,5 +1,6 @@
 #include "geometry/CPositionJudge.h"
 
+#include "geometry/plan/box_distance.h"
 #include "geometry/plan/edge_intersections.h"
 #include "geometry/plan/plan_distance.h"
 
@@ -10,7 +11,7 @@ namespace hrx {
 
 namespace {
 
-constexpr double kSquaredTouch = g_touchDistance * g_touchDistance;
+constexpr double kSquaredTouch = plan::g_touchDistance * plan::g_touchDistance;
 
 /// Edges with the boxes around each and around all.
 class Boundary {
@@ -30,7 +31,8 @@ public:
 
     bool sharesPointWith(const Boundary& other) const {
         return std::any_of(m_edges.begin(), m_edges.end(), [&](const BoxedEdge& edge) {
-            return squaredDistance(edge.box, other.m_box) < kSquaredTouch && other.sharesPointWith(edge);
+            return plan::squaredDistance(edge.box, other.m_box) < kSquaredTouch &&
+                   other.sharesPointWith(edge);
         });
     }
 
@@ -46,12 +48,12 @@ private:
     }
 
     bool sharesPointWith(const BoxedEdge& edge) const {
-        PlanContact contact;
+        plan::PlanContact contact;
         contact.squared = kSquaredTouch;
         for (const BoxedEdge& own : m_edges) {
-            if (squaredDistance(own.box, edge.box) >= kSquaredTouch)
+            if (plan::squaredDistance(own.box, edge.box) >= kSquaredTouch)
                 continue;
-            nearestOfEdges(own.edge, edge.edge, contact);
+            plan::nearestOfEdges(own.edge, edge.edge, contact);
             if (contact.squared < kSquaredTouch)
                 return true;
         }
@@ -65,7 +67,7 @@ private:
 /// For polygons whose boundaries share no point: one point of a loop speaks for all of it.
 bool isInside(const CPolygon& polygon, const CPolygon& region) {
     return std::all_of(polygon.loops().begin(), polygon.loops().end(), [&](const CCoedgeList& loop) {
-        return loop.edges().empty() || contains(region, loop.edges().front().start);
+        return loop.edges().empty() || plan::contains(region, loop.edges().front().start);
     });
 }
 
@@ -95,7 +97,7 @@ EnCurvePolygonPosition CPositionJudge::GetCurvePolygonPosition(const CCurve2d* c
         return CurveOutside;
     if (Boundary(edges).sharesPointWith(Boundary(*polygon)))
         return CurveSharesBoundary;
-    return contains(*polygon, edges.front().start) ? CurveInside : CurveOutside;
+    return plan::contains(*polygon, edges.front().start) ? CurveInside : CurveOutside;
 }
 
 } // namespace hrx

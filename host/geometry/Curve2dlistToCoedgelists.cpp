@@ -14,7 +14,8 @@ EnLoopsState Curve2dlistToCoedgelists(const std::vector<std::unique_ptr<CCurve2d
         if (edgesByCurve.back().empty())
             return LoopsDegenerateCurve;
     }
-    for (const auto& boundary : traceFaces(arrangeCurves(edgesByCurve, JoiningTolerance(joiningTolerance))))
+    for (const auto& boundary : network::traceFaces(
+             network::arrangeCurves(edgesByCurve, network::JoiningTolerance(joiningTolerance))))
         coedgeLists.emplace_back(boundary);
     return LoopsJoined;
 }

@@ -34,7 +34,7 @@ double discRadius(const CPolygon& section) {
 } // namespace
 
 CBody* GBodyBuilder::CylinderBody(const CVec3<double>& bottom, const CVec3<double>& top, double radius) {
-    auto body = std::make_unique<CCylinderBody>(bottom, top, radius);
+    auto body = std::make_unique<solids::CCylinderBody>(bottom, top, radius);
     return body->isStrictlyValid() ? body.release() : nullptr;
 }
 
@@ -45,7 +45,7 @@ CBody* GBodyBuilder::SweepBody(CPolygon* section, const CPlaneCurve3d& path) {
     const double radius = discRadius(*section);
     if (!(radius > g_DistEpsilon) || radius > path.radius())
         return nullptr;
-    return new CTubeBody(path, section, radius);
+    return new solids::CTubeBody(path, section, radius);
 }
 
 } // namespace hrx

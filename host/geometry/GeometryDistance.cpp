@@ -22,24 +22,24 @@ double roundedToStep(double distance) {
 }
 
 /// Both solids by their pieces, about an origin near both so that the place of the site costs no precision.
-SolidContact contactByPieces(const CBody& a, const CBody& b) {
+solids::SolidContact contactByPieces(const CBody& a, const CBody& b) {
     const CExtents3 extents = a.GetExtents();
     const CVec3<double> origin = (extents.low + extents.high) * 0.5;
-    ConvexPieces piecesA;
-    ConvexPieces piecesB;
-    appendPieces(a, origin, piecesA);
-    appendPieces(b, origin, piecesB);
-    SolidContact contact = pieceContact(std::move(piecesA), std::move(piecesB));
+    solids::ConvexPieces piecesA;
+    solids::ConvexPieces piecesB;
+    solids::appendPieces(a, origin, piecesA);
+    solids::appendPieces(b, origin, piecesB);
+    solids::SolidContact contact = solids::pieceContact(std::move(piecesA), std::move(piecesB));
     contact.onA = contact.onA + origin;
     contact.onB = contact.onB + origin;
     return contact;
 }
 
-SolidContact contactOf(const CBody& a, const CBody& b) {
-    UprightSolid uprightA;
-    UprightSolid uprightB;
-    if (describeUpright(a, uprightA) && describeUpright(b, uprightB))
-        return uprightContact(uprightA, uprightB);
+solids::SolidContact contactOf(const CBody& a, const CBody& b) {
+    solids::UprightSolid uprightA;
+    solids::UprightSolid uprightB;
+    if (solids::describeUpright(a, uprightA) && solids::describeUpright(b, uprightB))
+        return solids::uprightContact(uprightA, uprightB);
     return contactByPieces(a, b);
 }
 
@@ -48,7 +48,7 @@ SolidContact contactOf(const CBody& a, const CBody& b) {
 double GeometryDistance(const CBody* a, const CBody* b, CVec3<double>& onA, CVec3<double>& onB, double) {
     if (!a || !b || !a->isMeasurable() || !b->isMeasurable())
         return kNotMeasurable;
-    const SolidContact contact = contactOf(*a, *b);
+    const solids::SolidContact contact = contactOf(*a, *b);
     onA = contact.onA;
     onB = contact.onB;
     return roundedToStep(contact.distance);

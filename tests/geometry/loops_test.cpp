@@ -282,7 +282,7 @@ TEST(RandomLoops, facesNeverOverlap) {
             const Point probe =
                 kPlacings[run % 4](random.between(0, 20) * step, random.between(0, 20) * step);
             EXPECT_LE(std::count_if(faces.begin(), faces.end(),
-                                    [&](const PolygonRef& face) { return contains(*face, probe); }),
+                                    [&](const PolygonRef& face) { return plan::contains(*face, probe); }),
                       1);
         }
     }

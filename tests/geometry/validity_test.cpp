@@ -29,7 +29,7 @@ TEST(OutlineValidity, crossingEdgesAsFoundPairByPair) {
         bool expected = false;
         for (const Edge2d& a : outline->GetLoop(0)->edges())
             for (const Edge2d& b : outline->GetLoop(0)->edges())
-                expected |= edgesCross(a, b);
+                expected |= plan::edgesCross(a, b);
         EXPECT_EQ(outline->IsValid(0x10, nullptr), !expected) << "outline " << i;
         crossing += expected;
     }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::network {
 
 /// How near (mm) two places must be to count as one. Distances are taken to the nearest 1e-5 mm, so that a
 /// gap exactly as wide as the tolerance stays open whatever way the drawing is turned.
@@ -27,4 +27,4 @@ private:
     double m_tolerance;
 };
 
-} // namespace hrx
+} // namespace hrx::network

@@ -4,7 +4,7 @@
 #include <functional>
 #include <limits>
 
-namespace hrx {
+namespace hrx::network {
 
 std::size_t PointGrid::CellHash::operator()(const Cell& cell) const {
     const std::size_t column = std::hash<double>()(cell.column);
@@ -53,4 +53,4 @@ std::optional<std::size_t> PointGrid::nearestJoinedWith(const CVec2<double>& poi
     return nearest;
 }
 
-} // namespace hrx
+} // namespace hrx::network

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace hrx {
+namespace hrx::network {
 
 /// Numbered points, filed by square cells as wide as the joining tolerance reaches, so that those within it
 /// are found among a few.
@@ -44,4 +44,4 @@ private:
     std::unordered_map<Cell, std::vector<Entry>, CellHash> m_cells;
 };
 
-} // namespace hrx
+} // namespace hrx::network

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace hrx {
+namespace hrx::network {
 
 CBox2d Strand::box() const {
     CBox2d around;
@@ -15,18 +15,18 @@ CBox2d Strand::box() const {
 
 CVec2<double> Strand::pointAt(double fraction) const {
     if (parts.size() == 1)
-        return hrx::pointAt(parts[0], fraction);
-    return fraction <= 0.5 ? hrx::pointAt(parts[0], 2.0 * fraction)
-                           : hrx::pointAt(parts[1], 2.0 * fraction - 1.0);
+        return plan::pointAt(parts[0], fraction);
+    return fraction <= 0.5 ? plan::pointAt(parts[0], 2.0 * fraction)
+                           : plan::pointAt(parts[1], 2.0 * fraction - 1.0);
 }
 
 double Strand::nearestFraction(const CVec2<double>& point) const {
-    const double onFirst = hrx::nearestFraction(parts[0], point);
+    const double onFirst = plan::nearestFraction(parts[0], point);
     if (parts.size() == 1)
         return onFirst;
-    const double onSecond = hrx::nearestFraction(parts[1], point);
-    const double toFirst = length(hrx::pointAt(parts[0], onFirst) - point);
-    const double toSecond = length(hrx::pointAt(parts[1], onSecond) - point);
+    const double onSecond = plan::nearestFraction(parts[1], point);
+    const double toFirst = length(plan::pointAt(parts[0], onFirst) - point);
+    const double toSecond = length(plan::pointAt(parts[1], onSecond) - point);
     return toFirst <= toSecond ? onFirst / 2.0 : 0.5 + onSecond / 2.0;
 }
 
@@ -48,4 +48,4 @@ Strand Strand::piece(double fromFraction, double toFraction, const CVec2<double>
     return result;
 }
 
-} // namespace hrx
+} // namespace hrx::network

@@ -6,7 +6,7 @@
 
 #include <cstddef>
 
-namespace hrx {
+namespace hrx::network {
 
 /// A piece of a curve between two nodes of a plan network: one edge, or two of equal sweep when the piece
 /// turns further than a half circle.
@@ -28,4 +28,4 @@ struct Strand {
                  const CVec2<double>& end) const;
 };
 
-} // namespace hrx
+} // namespace hrx::network

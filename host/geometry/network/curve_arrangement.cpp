@@ -3,6 +3,7 @@
 #include "geometry/network/PointGrid.h"
 #include "geometry/network/Strand.h"
 #include "geometry/network/end_joining.h"
+#include "geometry/plan/box_distance.h"
 #include "geometry/plan/edge_intersections.h"
 
 #include <boost/geometry/geometries/box.hpp>
@@ -15,7 +16,7 @@
 #include <optional>
 #include <utility>
 
-namespace hrx {
+namespace hrx::network {
 
 namespace {
 
@@ -104,7 +105,8 @@ std::vector<std::size_t> Arrangement::strandsAttachedBy(std::size_t node) const 
     std::vector<std::size_t> attached;
     for (std::size_t i = 0; i < m_strands.size(); ++i) {
         const Strand& strand = m_strands[i];
-        if (squaredDistance(m_boxes[i], pointBox) > squaredReach || strand.from == node || strand.to == node)
+        if (plan::squaredDistance(m_boxes[i], pointBox) > squaredReach || strand.from == node ||
+            strand.to == node)
             continue;
         const bool atItsEnd =
             m_tolerance.joins(m_nodes[strand.from], point) || m_tolerance.joins(m_nodes[strand.to], point);
@@ -165,7 +167,7 @@ void Arrangement::attachEndsToCurves() {
 bool Arrangement::findCrossings(NearNode nearNode) {
     std::vector<IndexedBox> boxes;
     for (std::size_t i = 0; i < m_strands.size(); ++i)
-        boxes.emplace_back(boxAround(m_boxes[i], g_touchDistance), i);
+        boxes.emplace_back(boxAround(m_boxes[i], plan::g_touchDistance), i);
     const boost::geometry::index::rtree<IndexedBox, boost::geometry::index::rstar<16>> tree(boxes);
     for (const auto& [box, first] : boxes) {
         for (auto found = tree.qbegin(boost::geometry::index::intersects(box)); found != tree.qend();
@@ -180,7 +182,7 @@ bool Arrangement::findCrossings(NearNode nearNode) {
 void Arrangement::addCrossings(std::size_t first, std::size_t second, NearNode nearNode) {
     for (const Edge2d& part : m_strands[first].parts) {
         for (const Edge2d& other : m_strands[second].parts) {
-            for (const EdgeIntersection& crossing : edgeIntersections(part, other)) {
+            for (const plan::EdgeIntersection& crossing : plan::edgeIntersections(part, other)) {
                 auto node = nodeNear(crossing.point, m_strands[first], m_strands[second], nearNode);
                 if (!node) {
                     node = m_nodes.size();
@@ -307,4 +309,4 @@ PlanNetwork arrangeCurves(const std::vector<std::vector<Edge2d>>& curves, const 
     return network;
 }
 
-} // namespace hrx
+} // namespace hrx::network

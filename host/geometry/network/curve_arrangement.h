@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace hrx {
+namespace hrx::network {
 
 /// An edge of a plan network, with the nodes at its ends.
 struct NetworkEdge {
@@ -33,4 +33,4 @@ struct PlanNetwork {
 /// For n curves that meet in k places the time grows with n * n + k.
 PlanNetwork arrangeCurves(const std::vector<std::vector<Edge2d>>& curves, const JoiningTolerance& tolerance);
 
-} // namespace hrx
+} // namespace hrx::network

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <tuple>
 
-namespace hrx {
+namespace hrx::network {
 
 namespace {
 
@@ -99,4 +99,4 @@ JoinedEnds joinEnds(const std::vector<CurveEnds>& curves, const JoiningTolerance
     return joined;
 }
 
-} // namespace hrx
+} // namespace hrx::network

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace hrx {
+namespace hrx::network {
 
 /// One curve as the joining of ends sees it.
 struct CurveEnds {
@@ -28,4 +28,4 @@ struct JoinedEnds {
 /// drawn in pieces shorter than the tolerance stays a ring.
 JoinedEnds joinEnds(const std::vector<CurveEnds>& curves, const JoiningTolerance& tolerance);
 
-} // namespace hrx
+} // namespace hrx::network

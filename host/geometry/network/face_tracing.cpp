@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-namespace hrx {
+namespace hrx::network {
 
 namespace {
 
@@ -126,4 +126,4 @@ std::vector<std::vector<Edge2d>> traceFaces(const PlanNetwork& network) {
     return boundaries;
 }
 
-} // namespace hrx
+} // namespace hrx::network

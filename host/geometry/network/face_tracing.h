@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace hrx {
+namespace hrx::network {
 
 /// The closed edge sequences that bound the faces of a network, each with its face to the left:
 /// counter-clockwise around a bounded face, clockwise around each connected part of the network and so around
@@ -12,4 +12,4 @@ namespace hrx {
 /// rings) bound nothing and are left out.
 std::vector<std::vector<Edge2d>> traceFaces(const PlanNetwork& network);
 
-} // namespace hrx
+} // namespace hrx::network

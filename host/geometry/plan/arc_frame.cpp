@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 ArcFrame::ArcFrame(const Edge2d& arc) {
     const CVec2<double> chord = arc.end - arc.start;
@@ -41,4 +41,4 @@ bool ArcFrame::spansDirection(const CVec2<double>& direction) const {
     return std::abs(direction.x) * cosHalfSweep <= -direction.y * curvature * halfChord;
 }
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -2,7 +2,7 @@
 
 #include "geometry/Edge2d.h"
 
-namespace hrx {
+namespace hrx::plan {
 
 /// An arc seen from its apex, the point half way along it: u runs along the chord, v from the apex towards
 /// the centre. The circle is curvature * (u^2 + v^2) = 2 v, which stays well conditioned however large the
@@ -44,4 +44,4 @@ struct ArcFrame {
     double cosHalfSweep;
 };
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 LineOnCircle::LineOnCircle(const FrameLine& line, const ArcFrame& frame) {
     const double half = frame.curvature * dot(line.start, line.direction) - line.direction.y;
@@ -33,4 +33,4 @@ CirclePair::CirclePair(const ArcFrame& first, const ArcFrame& second) {
     radicalLine = {towardsSecond * offset, leftNormal(towardsSecond)};
 }
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -2,7 +2,7 @@
 
 #include "geometry/plan/arc_frame.h"
 
-namespace hrx {
+namespace hrx::plan {
 
 /// The points start + t * direction (unit) in an arc's frame.
 struct FrameLine {
@@ -32,4 +32,4 @@ struct CirclePair {
     FrameLine radicalLine;       ///< through the points that the circles share
 };
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -54,4 +54,4 @@ bool edgesCross(const Edge2d& first, const Edge2d& second) {
     });
 }
 
-} // namespace hrx
+} // namespace hrx::plan

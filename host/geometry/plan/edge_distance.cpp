@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -163,4 +163,4 @@ void nearestOfOutlineEdges(const Edge2d& a, const Edge2d& b, PlanContact& best) 
     nearest(a, b, Ends::Starts, best);
 }
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace hrx {
+namespace hrx::plan {
 
 /// The nearest pair of points found so far between two plane figures.
 struct PlanContact {
@@ -31,4 +31,4 @@ void nearestOfEdges(const Edge2d& a, const Edge2d& b, PlanContact& best);
 /// by edge.
 void nearestOfOutlineEdges(const Edge2d& a, const Edge2d& b, PlanContact& best);
 
-} // namespace hrx
+} // namespace hrx::plan

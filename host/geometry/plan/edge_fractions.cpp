@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -47,4 +47,4 @@ double nearestFraction(const Edge2d& edge, const CVec2<double>& point) {
     return length(point - edge.start) <= length(point - edge.end) ? 0.0 : 1.0;
 }
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -1,12 +1,13 @@
 #include "geometry/plan/edge_intersections.h"
 
+#include "geometry/plan/box_distance.h"
 #include "geometry/plan/circle_meetings.h"
 #include "geometry/plan/edge_fractions.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -124,4 +125,4 @@ std::vector<EdgeIntersection> edgeIntersections(const Edge2d& first, const Edge2
     return shared.take();
 }
 
-} // namespace hrx
+} // namespace hrx::plan

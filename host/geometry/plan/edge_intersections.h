@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace hrx {
+namespace hrx::plan {
 
 /// A point that two edges share.
 struct EdgeIntersection {
@@ -23,4 +23,4 @@ std::vector<EdgeIntersection> edgeIntersections(const Edge2d& first, const Edge2
 /// Half of the 1e-5 mm to which distances are reported: what is nearer than this measures 0.
 constexpr double g_touchDistance = 5e-6;
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -133,4 +133,4 @@ std::vector<OutlineCell> cellsOf(const CPolygon& region, const CVec2<double>& of
     return cells;
 }
 
-} // namespace hrx
+} // namespace hrx::plan

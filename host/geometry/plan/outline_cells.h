@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace hrx {
+namespace hrx::plan {
 
 /// A part of a region between two levels of y, bounded by two edges that rise from the one to the other.
 /// Their ends may coincide; all of it may be a line without width.
@@ -23,4 +23,4 @@ CVec2<double> crossingAt(const Edge2d& rising, double level);
 /// A rising edge below and above a level between its ends.
 std::pair<Edge2d, Edge2d> cutAt(const Edge2d& rising, double level);
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -86,4 +86,4 @@ CPolygon* movedToPlan(const CPolygon& outline, const CCoord3<double>& frame) {
     return plan;
 }
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -3,7 +3,7 @@
 #include "geometry/CCoord3.h"
 #include "geometry/CPolygon.h"
 
-namespace hrx {
+namespace hrx::plan {
 
 /// True when the outline has an edge, and every coordinate, arcs included, is within the reach of measuring.
 bool isWithinReach(const CPolygon& outline);
@@ -17,4 +17,4 @@ CVec2<double> firstCorner(const CPolygon& outline);
 /// The outline as it lies in the world's plan when its frame stands upright. The caller owns it.
 CPolygon* movedToPlan(const CPolygon& outline, const CCoord3<double>& frame);
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -1,8 +1,9 @@
 #include "geometry/plan/plan_distance.h"
 
 #include "geometry/plan/arc_frame.h"
+#include "geometry/plan/box_distance.h"
 
-namespace hrx {
+namespace hrx::plan {
 
 namespace {
 
@@ -42,12 +43,6 @@ struct BoxedRegion {
     boost::container::small_vector<BoxedEdge, 8> edges;
     CBox2d box;
 };
-
-double squaredDistance(const CVec2<double>& point, const CBox2d& box) {
-    const double dx = positivePart(std::max(box.low.x - point.x, point.x - box.high.x));
-    const double dy = positivePart(std::max(box.low.y - point.y, point.y - box.high.y));
-    return dx * dx + dy * dy;
-}
 
 const CVec2<double>& cornerNearestTo(const CBox2d& box, const BoxedRegion& region) {
     const Edge2d* nearest = region.edges.front().edge;
@@ -178,4 +173,4 @@ PlanContact planContact(const CVec2<double>& a, const CPolygon& b) {
     return best;
 }
 
-} // namespace hrx
+} // namespace hrx::plan

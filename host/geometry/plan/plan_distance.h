@@ -3,7 +3,7 @@
 #include "geometry/CPolygon.h"
 #include "geometry/plan/edge_distance.h"
 
-namespace hrx {
+namespace hrx::plan {
 
 /// True when the point is inside the region, arcs counted exactly. Points of the boundary can go either way.
 bool contains(const CPolygon& region, const CVec2<double>& point);
@@ -13,4 +13,4 @@ bool contains(const CPolygon& region, const CVec2<double>& point);
 PlanContact planContact(const CPolygon& a, const CPolygon& b);
 PlanContact planContact(const CVec2<double>& a, const CPolygon& b);
 
-} // namespace hrx
+} // namespace hrx::plan

@@ -4,7 +4,7 @@
 #include "geometry/finite.h"
 #include "geometry/solids/CylinderPiece.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 CExtents3 CCylinderBody::GetExtents() const {
     return CylinderPiece(m_bottom, m_top, m_radius).box();
@@ -19,4 +19,4 @@ bool CCylinderBody::isMeasurable() const {
     return isWithinReach(m_bottom) && isWithinReach(m_top) && isWithinReach(m_radius);
 }
 
-} // namespace hrx
+} // namespace hrx::solids

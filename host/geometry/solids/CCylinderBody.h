@@ -2,7 +2,7 @@
 
 #include "geometry/CBody.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// A round cylinder with flat ends, in any direction.
 class CCylinderBody : public CBody {
@@ -25,4 +25,4 @@ private:
     double m_radius;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -3,7 +3,7 @@
 #include "geometry/finite.h"
 #include "geometry/solids/solid_parts.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 CExtents3 CTubeBody::GetExtents() const {
     CExtents3 extents;
@@ -19,4 +19,4 @@ bool CTubeBody::isMeasurable() const {
            isWithinReach(m_radius);
 }
 
-} // namespace hrx
+} // namespace hrx::solids

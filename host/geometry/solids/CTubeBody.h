@@ -4,7 +4,7 @@
 #include "geometry/CPlaneCurve3d.h"
 #include "geometry/CPolygon.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// A tube with flat ends along an arc that is not degenerate, with a positive radius no larger than the
 /// arc's. Shares its section.
@@ -27,4 +27,4 @@ private:
     double m_radius;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <memory>
 
-namespace hrx {
+namespace hrx::solids {
 
 /// Part of a solid, stood for by its convex hull. Where the part is not convex itself, it
 /// tells how far a point of the hull is from it, and divides into parts that fill their hulls better.
@@ -46,4 +46,4 @@ inline bool isLevel(double alongWall) {
 
 using ConvexPieces = boost::container::small_vector<std::unique_ptr<ConvexPiece>, 6>;
 
-} // namespace hrx
+} // namespace hrx::solids

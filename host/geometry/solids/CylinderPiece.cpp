@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::solids {
 
 CylinderPiece::CylinderPiece(const CVec3<double>& bottom, const CVec3<double>& top, double radius)
     : m_length(length(top - bottom)), m_radius(radius) {
@@ -36,4 +36,4 @@ CVec3<double> CylinderPiece::onWall(const CVec3<double>& localDirection, double 
     return m_frame.toWorld({local.x * scale, local.y * scale, level});
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -3,7 +3,7 @@
 #include "geometry/CCoord3.h"
 #include "geometry/solids/ConvexPiece.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// A whole cylinder with flat ends.
 class CylinderPiece : public ConvexPiece {
@@ -20,4 +20,4 @@ private:
     double m_radius;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

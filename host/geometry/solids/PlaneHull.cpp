@@ -1,6 +1,6 @@
 #include "geometry/solids/PlaneHull.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 void PlaneHull::add(const Edge2d& edge) {
     if (m_corners.empty() || m_corners.back() != edge.start)
@@ -26,7 +26,7 @@ CVec2<double> PlaneHull::support(const CVec2<double>& direction) const {
         keepFurther(corner);
     const double size = m_arcs.empty() ? 0.0 : length(direction);
     if (size > 0.0)
-        for (const ArcFrame& arc : m_arcs) {
+        for (const plan::ArcFrame& arc : m_arcs) {
             const CVec2<double> local = arc.directionToLocal(direction * (1.0 / size));
             if (arc.spansDirection(local))
                 keepFurther(arc.toWorld(arc.pointInDirection(local)));
@@ -34,4 +34,4 @@ CVec2<double> PlaneHull::support(const CVec2<double>& direction) const {
     return best;
 }
 
-} // namespace hrx
+} // namespace hrx::solids

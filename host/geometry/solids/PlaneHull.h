@@ -4,7 +4,7 @@
 
 #include <boost/container/small_vector.hpp>
 
-namespace hrx {
+namespace hrx::solids {
 
 /// The convex hull of lines and arcs of a plane, as a support function. Arcs are not subdivided.
 class PlaneHull {
@@ -15,7 +15,7 @@ public:
 
 private:
     boost::container::small_vector<CVec2<double>, 8> m_corners;
-    boost::container::small_vector<ArcFrame, 1> m_arcs;
+    boost::container::small_vector<plan::ArcFrame, 1> m_arcs;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

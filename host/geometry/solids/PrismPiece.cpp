@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace hrx {
+namespace hrx::solids {
 
 CVec3<double> PrismPiece::support(const CVec3<double>& direction) const {
     const CVec3<double> local = m_frame.directionToLocal(direction);
@@ -16,8 +16,9 @@ CVec3<double> PrismPiece::supportLevelWith(const CVec3<double>& point, const CVe
     if (!isLevel(local.z))
         return support(direction);
     const CVec2<double> plan = m_hull.support({local.x, local.y});
-    const auto [low, high] = std::minmax(0.0, m_height);
+    const double low = std::min(0.0, m_height);
+    const double high = std::max(0.0, m_height);
     return m_frame.toWorld({plan.x, plan.y, std::clamp(m_frame.toLocal(point).z, low, high)});
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -4,7 +4,7 @@
 #include "geometry/solids/ConvexPiece.h"
 #include "geometry/solids/PlaneHull.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// The hull of edges in the XY plane of a frame, raised by a height: the prism over a convex outline.
 class PrismPiece : public ConvexPiece {
@@ -25,4 +25,4 @@ private:
     PlaneHull m_hull;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

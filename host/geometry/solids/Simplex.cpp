@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -157,4 +157,4 @@ template <class Real> CVec3<double> Simplex<Real>::combine(CVec3<double> Vertex:
 template class Simplex<double>;
 template class Simplex<long double>;
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -2,7 +2,7 @@
 
 #include "geometry/CVec3.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// A point of the difference of two sets, with the points of the sets that it comes from.
 struct SimplexVertex {
@@ -40,4 +40,4 @@ private:
     CVec3<Real> m_nearest;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

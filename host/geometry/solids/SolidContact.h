@@ -2,7 +2,7 @@
 
 #include "geometry/CVec3.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// Two solids' distance and a nearest point on each.
 struct SolidContact {
@@ -11,4 +11,4 @@ struct SolidContact {
     CVec3<double> onB;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -61,4 +61,4 @@ void TubePiece::split(ConvexPieces& halves) const {
     halves.push_back(std::make_unique<TubePiece>(m_frame, m_arcRadius, m_tubeRadius, middle, m_last));
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -3,7 +3,7 @@
 #include "geometry/CCoord3.h"
 #include "geometry/solids/ConvexPiece.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// A stretch of a tube along an arc: the discs across the arc at the angles from first to last (radians, at
 /// most pi apart), in the frame of CPlaneCurve3d. The tube must be no thicker than the arc's own circle.
@@ -22,4 +22,4 @@ private:
     double m_last;
 };
 
-} // namespace hrx
+} // namespace hrx::solids

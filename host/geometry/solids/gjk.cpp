@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -80,4 +80,4 @@ HullContact hullContact(const ConvexPiece& a, const ConvexPiece& b, double enoug
     return best;
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -2,7 +2,7 @@
 
 #include "geometry/solids/ConvexPiece.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 /// What is known of the distance of two convex hulls: it lies between lower and upper, and upper is the
 /// distance of the two points.
@@ -19,4 +19,4 @@ struct HullContact {
 /// gap is left after that (seen: below 1e-6 mm) shows in the bounds. 0 when the hulls overlap.
 HullContact hullContact(const ConvexPiece& a, const ConvexPiece& b, double enough);
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -9,7 +9,7 @@
 #include <limits>
 #include <vector>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -152,4 +152,4 @@ SolidContact pieceContact(ConvexPieces a, ConvexPieces b) {
     return Search(std::move(a), std::move(b)).run();
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -43,17 +43,17 @@ void appendExtruded(const CExtrudedBody& body, const CVec3<double>& origin, Conv
     // precision.
     const CPolygon& outline = *body.outline();
     const CCoord3<double>& frame = body.frame();
-    const CVec2<double> corner = firstCorner(outline);
+    const CVec2<double> corner = plan::firstCorner(outline);
     CCoord3<double> base = frame;
     base.origin = frame.origin - origin + frame.xAxis * corner.x + frame.yAxis * corner.y;
-    if (isConvex(outline)) {
+    if (plan::isConvex(outline)) {
         auto whole = std::make_unique<PrismPiece>(base, body.height());
         for (const Edge2d& edge : outline.GetLoop(0)->edges())
             whole->add({edge.start - corner, edge.end - corner, edge.bulge});
         pieces.push_back(std::move(whole));
         return;
     }
-    for (const OutlineCell& cell : cellsOf(outline, corner))
+    for (const plan::OutlineCell& cell : plan::cellsOf(outline, corner))
         pieces.push_back(std::make_unique<CellPiece>(base, body.height(), cell));
 }
 
@@ -100,4 +100,4 @@ void appendPieces(const CBody& body, const CVec3<double>& origin, ConvexPieces& 
     }
 }
 
-} // namespace hrx
+} // namespace hrx::solids

@@ -2,9 +2,9 @@
 
 #include "geometry/CBody.h"
 #include "geometry/solids/ConvexPiece.h"
-#include "geometry/solids/UprightSolid.h"
+#include "geometry/solids/upright_distance.h"
 
-namespace hrx {
+namespace hrx::solids {
 
 // How solids are taken apart to be measured. Both need a measurable one.
 
@@ -15,4 +15,4 @@ bool describeUpright(const CBody& body, UprightSolid& solid);
 /// Appends pieces that make up the solid, moved by -origin.
 void appendPieces(const CBody& body, const CVec3<double>& origin, ConvexPieces& pieces);
 
-} // namespace hrx
+} // namespace hrx::solids

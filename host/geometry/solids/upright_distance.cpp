@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace hrx {
+namespace hrx::solids {
 
 namespace {
 
@@ -23,7 +23,7 @@ PlanGap discToPoint(const CVec2<double>& centre, double radius, const CVec2<doub
 }
 
 PlanGap discToOutline(const UprightSolid& disc, const CPolygon& outline) {
-    const PlanContact contact = planContact(disc.centre, outline);
+    const plan::PlanContact contact = plan::planContact(disc.centre, outline);
     return discToPoint(disc.centre, disc.radius, contact.onB, std::sqrt(contact.squared));
 }
 
@@ -38,7 +38,7 @@ PlanGap discToDisc(const UprightSolid& a, const UprightSolid& b) {
 
 PlanGap planGap(const UprightSolid& a, const UprightSolid& b) {
     if (a.outline && b.outline) {
-        const PlanContact contact = planContact(*a.outline, *b.outline);
+        const plan::PlanContact contact = plan::planContact(*a.outline, *b.outline);
         return {std::sqrt(contact.squared), contact.onA, contact.onB};
     }
     if (a.outline) {
@@ -61,4 +61,4 @@ SolidContact uprightContact(const UprightSolid& a, const UprightSolid& b) {
     return {distance, {plan.onA.x, plan.onA.y, levelA}, {plan.onB.x, plan.onB.y, levelB}};
 }
 
-} // namespace hrx
+} // namespace hrx::solids
