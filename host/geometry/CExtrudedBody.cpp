@@ -4,7 +4,9 @@
 #include "geometry/finite.h"
 #include "geometry/plan/outline_shape.h"
 #include "geometry/solids/PrismPiece.h"
+#include "geometry/solids/standing_plate.h"
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 
@@ -25,8 +27,19 @@ bool isUpright(const CCoord3<double>& frame) {
 
 CExtrudedBody::CExtrudedBody(const CCoord3<double>& frame, double height, CPolygon* outline, bool)
     : m_frame(frame), m_height(height), m_outline(outline) {
-    if (m_outline && isUpright(m_frame))
+    if (!m_outline)
+        return;
+    if (isUpright(m_frame)) {
         m_plan = standsInWorldPlan(m_frame) ? m_outline : PolygonRef(plan::movedToPlan(*m_outline, m_frame));
+        const double base = m_frame.origin.z;
+        const double top = base + m_frame.zAxis.z * m_height;
+        m_low = std::min(base, top);
+        m_high = std::max(base, top);
+    } else if (const auto plate = solids::standingPlate(m_frame, m_height, *m_outline)) {
+        m_plan = plate->plan;
+        m_low = plate->low;
+        m_high = plate->high;
+    }
 }
 
 CExtents3 CExtrudedBody::GetExtents() const {

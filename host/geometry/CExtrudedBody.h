@@ -26,6 +26,9 @@ public:
     bool isMeasurable() const override;
     Kind kind() const override { return Kind::Extruded; }
     const CPolygon* planOutline() const override { return m_plan.get(); }
+    // The levels between which a solid with a plan outline stands.
+    double low() const { return m_low; }
+    double high() const { return m_high; }
 
     const CCoord3<double>& frame() const { return m_frame; }
     double height() const { return m_height; }
@@ -36,7 +39,9 @@ private:
     CCoord3<double> m_frame;
     double m_height;
     PolygonRef m_outline;
-    PolygonRef m_plan; ///< the outline in world coordinates when the solid stands upright
+    PolygonRef m_plan; ///< in world coordinates, when the solid stands upright
+    double m_low = 0.0;
+    double m_high = 0.0;
 };
 
 } // namespace hrx

@@ -18,11 +18,9 @@ namespace {
 bool describeExtruded(const CExtrudedBody& body, UprightSolid& solid) {
     if (!body.planOutline())
         return false;
-    const double base = body.frame().origin.z;
-    const double top = base + body.frame().zAxis.z * body.height();
     solid.outline = body.planOutline();
-    solid.low = std::min(base, top);
-    solid.high = std::max(base, top);
+    solid.low = body.low();
+    solid.high = body.high();
     return true;
 }
 
