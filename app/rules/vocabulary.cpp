@@ -1,5 +1,6 @@
 #include "rules/vocabulary.h"
 
+#include "evaluators/rule_catalogue.h"
 #include "rules/rule_wording.h"
 #include "site/element_type_identifiers.h"
 #include "text/number_word.h"
@@ -65,7 +66,7 @@ std::vector<RuleName> explained(const std::vector<RuleRow>& rows) {
     std::vector<RuleName> names;
     for (const RuleRow& row : rows) {
         const RuleWording& wording = *findRuleWording(row.name);
-        names.push_back({&row, row.name, row.type, text(row.elementType), text(row.referenceElementType),
+        names.push_back({row.name, row.type, text(row.elementType), text(row.referenceElementType),
                          namesOf(row.reads()), filledIn(wording.judges, row), filledIn(wording.limits, row),
                          peculiarityOf(row, wording)});
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "evaluators/rule_catalogue.h"
-
 #include <string>
 #include <vector>
 
@@ -9,7 +7,6 @@ namespace firecheck {
 
 /// A rule name that an evaluator knows, explained. Texts are one sentence or two, or empty.
 struct RuleName {
-    const firestandard::RuleRow* row;
     std::string name;
     std::string type;                 ///< of the evaluator that knows it
     std::string elementType;          ///< identifier of the elements that the name is about
@@ -20,7 +17,7 @@ struct RuleName {
     std::string peculiarity;
 };
 
-/// The reference types that elements of one type have a distance to (see firestandard::DistanceRow).
+/// The reference types that elements of one type have a distance to (see DistanceRow of the catalogue).
 struct DistanceMeasure {
     std::string elementType;
     std::vector<std::string> referenceElementTypes;

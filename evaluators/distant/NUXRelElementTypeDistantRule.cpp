@@ -15,7 +15,9 @@ using namespace firestandard;
 
 namespace {
 
-/// The walk over every first element and, for each, over every reference element.
+/// The walk over every first element and, for each, over every reference element. Deliberate: two elements of
+/// one type are measured from both sides and reported under both, where a spacing walk reports them once;
+/// existing results are read so.
 class PairWalk {
 public:
     PairWalk(const UdDbBlock& modelSpace, const NuxStandardCheckRule& rule)

@@ -141,6 +141,7 @@ private:
                                        atMost(Quantity::Distance, distance, kMaximumBoxDistance), contact});
         }
         if (!(nearest < kNotMeasurable)) {
+            // Deliberate: what follows in the drawing is not judged; existing results depend on it.
             m_hasEnded = true;
             if (observer)
                 observer->notJudged(*examined.element, NotJudged::NoBoxMeasurable);

