@@ -47,16 +47,16 @@ struct Comparison {
 enum class NotJudged {
     NoOutline,            ///< it has none, or one without area or with loose ends
     OutlineCrossesItself, ///< two edges of it cross
-    NoCentreLine,         ///< its start, end and middle point fix none, or it joins with no other
-    OnTheGround,          ///< an overhead cable that is not raised
-    NoRooms,              ///< an office of fewer than two partitions
-    NoNeighbour,          ///< a wall that meets no other wall with a door
-    NothingToCompare,     ///< the site has no element that it would be compared with
-    NeverMeasured,        ///< the library has no measure for two elements of these types
-    OtherUse,             ///< it is not of the use that the rule's name asks for
-    DidNotOpen,           ///< it, or a door of it, refused to open
-    NoBoxMeasurable,      ///< no extinguisher box has a measurable distance to it, which ends the rule
-    RuleEndedBefore,      ///< the rule ended before it came to the element
+    NoCentreLine, ///< the centre line of a road of the site could not be joined, which leaves all unjudged
+    OnTheGround,  ///< an overhead cable that is not raised
+    NoRooms,      ///< an office of fewer than two partitions
+    NoNeighbour,  ///< a wall that meets no other wall with one door
+    NothingToCompare, ///< the site has nothing fit to be compared with it
+    NeverMeasured,    ///< the library has no measure for two elements of these types
+    OtherUse,         ///< it is not of the use that the rule's name asks for
+    DidNotOpen,       ///< it, or a door of it, refused to open
+    NoBoxMeasurable,  ///< no extinguisher box has a measurable distance to it, which ends the rule
+    RuleEndedBefore,  ///< the rule ended before it came to the element
 };
 
 /// Is told what each rule of a check compared, and what it could not judge, while the check runs. It takes no

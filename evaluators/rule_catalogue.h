@@ -97,7 +97,7 @@ const std::vector<const char*>& ruleTypes();
 AttributesRead attributesRead(const QString& type);
 
 /// Whether an evaluator judges the rule. Rules of the types "without" and "distant" are judged under any
-/// name; one without a row asks for no use.
+/// name; without a row no open shed counts, and no use satisfies.
 bool isJudged(const NuxStandardCheckRule& rule);
 
 /// The reference types that elements of one type have a distance to. Any other pair of that first type is

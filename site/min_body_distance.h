@@ -22,7 +22,8 @@ struct Contact {
     hrx::CVec3<double> onSecond{0.0, 0.0, 0.0};
 };
 
-/// The contact of the nearest pair of bodies, the first of several; nothing when a side has no body. Every
+/// The contact of the nearest pair of bodies, the first of several; nothing when a side has no body, or none
+/// that can be measured. Every
 /// pair is measured, also after one that touches.
 std::optional<Contact> leastContact(const BodyList& first, const BodyList& second);
 

@@ -20,13 +20,13 @@ const char* reasonText(NotJudged why) {
     case NotJudged::OutlineCrossesItself:
         return "with an outline that crosses itself";
     case NotJudged::NoCentreLine:
-        return "without a centre line that could be joined";
+        return "since a centre line cannot be joined";
     case NotJudged::OnTheGround:
         return "on the ground";
     case NotJudged::NoRooms:
         return "without rooms";
     case NotJudged::NoNeighbour:
-        return "without a neighbour that has a door";
+        return "without a neighbour that has one door";
     case NotJudged::NothingToCompare:
         return "nothing to compare with";
     case NotJudged::NeverMeasured:

@@ -87,11 +87,13 @@ private:
     static NotJudged tellNotJudged(CheckObserver& observer, const UdDbObject& firstObject,
                                    const IdentifiedElement& first, const NUXElementObject& reference,
                                    const PairDistance& pair, NotJudged reasonSoFar) {
+        // Without a reason the two are farther apart than any distance.
+        const NotJudged why = pair.reason.value_or(NotJudged::NothingToCompare);
         if (pair.isFirstAtFault)
-            return *pair.reason == NotJudged::NoOutline ? whyNoBody(first.element) : *pair.reason;
-        const bool hasNoBody = *pair.reason == NotJudged::NoOutline;
-        observer.pairNotJudged(firstObject, reference, hasNoBody ? whyNoBody(&reference) : *pair.reason);
-        return *pair.reason == NotJudged::NeverMeasured ? NotJudged::NeverMeasured : reasonSoFar;
+            return why == NotJudged::NoOutline ? whyNoBody(first.element) : why;
+        observer.pairNotJudged(firstObject, reference,
+                               why == NotJudged::NoOutline ? whyNoBody(&reference) : why);
+        return why == NotJudged::NeverMeasured ? why : reasonSoFar;
     }
 
     const UdDbBlock& m_modelSpace;

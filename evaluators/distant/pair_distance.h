@@ -17,9 +17,9 @@ struct IdentifiedElement {
 
 /// What a pair measures.
 struct PairDistance {
-    double distance;                 ///< mm; kNoBodyDistance when the pair is not judged
+    double distance;                 ///< mm; kNoBodyDistance when there is a reason
     std::optional<Contact> contact;  ///< nothing where the distance is none or not that of two solids
-    std::optional<NotJudged> reason; ///< of a pair that is not judged
+    std::optional<NotJudged> reason; ///< why there is no distance
     bool isFirstAtFault = false;     ///< the reason is the first element's, whatever the reference
 };
 

@@ -41,11 +41,12 @@ public:
         std::vector<bool> isCompared(m_elements.size());
         for (std::size_t i = 0; i < m_elements.size(); ++i) {
             std::vector<qint64> offending;
+            bool isFirstOfPair = false;
             for (std::size_t j = i + 1; j < m_elements.size(); ++j) {
                 const auto contact = m_measure(*m_elements[i], *m_elements[j]);
                 if (!contact || contact->distance > kNoDistanceMark)
                     continue;
-                isCompared[i] = isCompared[j] = true;
+                isFirstOfPair = isCompared[i] = isCompared[j] = true;
                 const bool offends = m_condition.isDistanceViolated(contact->distance);
                 if (offends)
                     offending.push_back(m_elements[j]->Handle().GetID());
@@ -55,7 +56,7 @@ public:
                                                     m_condition.minimum(), m_condition.maximum()},
                                         contact});
             }
-            if (CheckObserver* observer = m_outcome.observer())
+            if (CheckObserver* observer = m_outcome.observer(); observer && !isFirstOfPair)
                 tellOfAlone(*observer, *m_elements[i], isCompared[i]);
             if (!offending.empty())
                 m_outcome.addViolation(*m_elements[i]).relatedHandles = std::move(offending);

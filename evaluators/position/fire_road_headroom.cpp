@@ -2,6 +2,7 @@
 
 #include "cad/UdDbBlock.h"
 #include "elements/NUX3dsBaseObject.h"
+#include "elements/NUXCalcFunc.h"
 #include "elements/NUXPosterObject.h"
 #include "elements/NUXRoadObject.h"
 #include "elements/NUXServiceCableObject.h"
@@ -162,8 +163,9 @@ private:
         model.GetGeomExtents(extents.low, extents.high);
         for (const NUXRoadObject* road : m_roads) {
             const auto clearance = buildClearanceBody(*road);
-            if (clearance)
-                conclude({*road, &model, overlap(extents, clearance->GetExtents())});
+            const hrx::CExtents3 room = clearance ? clearance->GetExtents() : hrx::CExtents3();
+            if (room.low.x <= room.high.x)
+                conclude({*road, &model, overlap(extents, room)});
             else
                 tellNotJudged(*road, NotJudged::NoOutline);
         }
@@ -178,7 +180,9 @@ private:
                 conclude({*road, &object, contact->distance <= kTouchDistance,
                           atLeast(Quantity::Clearance, contact->distance, kTouchDistance), contact});
             else
-                tellNotJudged(*road, clearance ? NotJudged::NothingToCompare : NotJudged::NoOutline);
+                tellNotJudged(*road, NUXCalcFunc::IsNuxStrictlyBodyValid(clearance.get())
+                                         ? NotJudged::NothingToCompare
+                                         : NotJudged::NoOutline);
         }
     }
 
