@@ -23,8 +23,7 @@ double roundedToStep(double distance) {
 
 /// Both solids by their pieces, about an origin near both so that the place of the site costs no precision.
 solids::SolidContact contactByPieces(const CBody& a, const CBody& b) {
-    const CExtents3 extents = a.GetExtents();
-    const CVec3<double> origin = (extents.low + extents.high) * 0.5;
+    const CVec3<double> origin = solids::anyPoint(a);
     solids::ConvexPieces piecesA;
     solids::ConvexPieces piecesB;
     solids::appendPieces(a, origin, piecesA);

@@ -2,6 +2,7 @@
 // and cables that come down to just the headroom of a road.
 
 #include "geometry/CExtrudedBody.h"
+#include "geometry/CPlaneCurve3d.h"
 #include "geometry/GBodyBuilder.h"
 #include "measure.h"
 #include "random_outlines.h"
@@ -75,12 +76,22 @@ Body plateOverEdge(const PlanPoint& from, const PlanPoint& along, double size, c
     return Body(new hrx::CExtrudedBody(frame, 1.0, new hrx::CPolygon(corners), true));
 }
 
-/// Leans away from the road, the lowest point of its lower end at the place.
-Body cylinderOverPoint(const PlanPoint& place, const PlanPoint& outward, double radius, double lean) {
+/// A cable that leans away from the road, the lowest point of its lower end at the place; straight, or
+/// bending sideways as it rises.
+Body cableOverPoint(const PlanPoint& place, const PlanPoint& outward, double radius, double lean,
+                    bool bends) {
     const Point axis(outward.x * std::sin(lean), outward.y * std::sin(lean), std::cos(lean));
     const Point toLowest(outward.x * std::cos(lean), outward.y * std::cos(lean), -std::sin(lean));
     const Point bottom = Point(place.x, place.y, kCap) - toLowest * radius;
-    return Body(hrx::GBodyBuilder(true, true).CylinderBody(bottom, bottom + axis * 5000.0, radius));
+    hrx::GBodyBuilder builder(true, true);
+    if (!bends)
+        return Body(builder.CylinderBody(bottom, bottom + axis * 5000.0, radius));
+    const auto onBend = [&](double angle) {
+        const Point aside(-outward.y, outward.x, 0.0);
+        return bottom + axis * (8000.0 * std::sin(angle)) + aside * (8000.0 * (1.0 - std::cos(angle)));
+    };
+    const hrx::PolygonRef section(outlines::polygon({outlines::circle(radius)}));
+    return Body(builder.SweepBody(section.get(), {bottom, onBend(0.6), onBend(0.3)}));
 }
 
 TEST(SolidsOnTheCap, AreNoFartherThanTheirLowerEdgeIsFromTheArc) {
@@ -100,9 +111,11 @@ TEST(SolidsOnTheCap, AreNoFartherThanTheirLowerEdgeIsFromTheArc) {
             EXPECT_LE(measured(*scene.clearance, *plate), exact + 1e-5) << rise.up;
             EXPECT_LE(measured(*plate, *scene.clearance), exact + 1e-5) << rise.up;
         }
-        const Body cylinder =
-            cylinderOverPoint(scene.place, away, random.between(10, 500), random.between(0.1, 1.2));
-        EXPECT_LE(measured(*scene.clearance, *cylinder), gap + 1e-5);
+        for (const bool bends : {false, true}) {
+            const Body cable =
+                cableOverPoint(scene.place, away, random.between(10, 500), random.between(0.1, 1.2), bends);
+            EXPECT_LE(measured(*scene.clearance, *cable), gap + 1e-5) << bends;
+        }
     }
 }
 

@@ -40,6 +40,25 @@ bool turnsOnce(const CCoedgeList& loop, double sense) {
     return sum < 3.0 * kHalfTurn;
 }
 
+/// True when a glance will do: up to four straight edges that turn one way at every corner cannot go round
+/// twice.
+bool isPlainlyConvex(const CCoedgeList::Edges& edges) {
+    if (edges.size() < 3 || edges.size() > 4)
+        return false;
+    int left = 0;
+    int right = 0;
+    CVec2<double> before = edges.back().end - edges.back().start;
+    for (const Edge2d& edge : edges) {
+        const CVec2<double> along = edge.end - edge.start;
+        const double turning = edge.bulge == 0.0 ? cross(before, along) : 0.0;
+        left += turning > 0.0 ? 1 : 0;
+        right += turning < 0.0 ? 1 : 0;
+        before = along;
+    }
+    const int corners = static_cast<int>(edges.size());
+    return left == corners || right == corners;
+}
+
 } // namespace
 
 bool isWithinReach(const CPolygon& outline) {
@@ -59,8 +78,10 @@ bool isWithinReach(const CPolygon& outline) {
 }
 
 bool isConvex(const CPolygon& outline) {
-    return outline.LoopCount() == 1 &&
-           (turnsOnce(*outline.GetLoop(0), 1.0) || turnsOnce(*outline.GetLoop(0), -1.0));
+    if (outline.LoopCount() != 1)
+        return false;
+    const CCoedgeList& loop = *outline.GetLoop(0);
+    return isPlainlyConvex(loop.edges()) || turnsOnce(loop, 1.0) || turnsOnce(loop, -1.0);
 }
 
 CVec2<double> firstCorner(const CPolygon& outline) {

@@ -9,23 +9,35 @@
 
 namespace hrx::solids {
 
+class CylinderPiece;
+
 /// Part of a solid, stood for by its convex hull. Where the part is not convex itself, it
 /// tells how far a point of the hull is from it, and divides into parts that fill their hulls better.
 class ConvexPiece {
 public:
+    /// The unit direction along which the part's wall runs; (0, 0, 0) for a part without one.
+    explicit ConvexPiece(const CVec3<double>& wall = {}) : m_wall(wall) {}
     virtual ~ConvexPiece() = default;
 
     /// A point of the part that is furthest in a direction (not zero, any length).
     virtual CVec3<double> support(const CVec3<double>& direction) const = 0;
-    /// As above, for a unit direction; where many points are as far, one level with a point of the part. An
-    /// iteration that is given the other end of a wall instead walks up and down it and stalls.
-    virtual CVec3<double> supportLevelWith(const CVec3<double>&, const CVec3<double>& direction) const {
-        return support(direction);
-    }
+    virtual CVec3<double> anyPoint() const = 0;
+    /// The part as a whole cylinder, when it is one; null otherwise.
+    virtual const CylinderPiece* asCylinder() const { return nullptr; }
     /// The point of the part to use instead of a point of the hull: the same point where the part is convex.
     virtual CVec3<double> onPart(const CVec3<double>& hullPoint) const { return hullPoint; }
     /// Appends two halves; appends nothing when the part needs no dividing.
     virtual void split(boost::container::small_vector<std::unique_ptr<ConvexPiece>, 6>&) const {}
+
+    /// Whether all points along the wall are as far in a unit direction: to 1e-13 of it, which is 1e-9 mm on
+    /// walls up to 10 m.
+    bool isLevelWithWall(const CVec3<double>& direction) const {
+        return std::abs(dot(direction, m_wall)) <= 1e-13;
+    }
+    /// The point that is as far up the wall as another point of the part.
+    CVec3<double> movedLevelWith(const CVec3<double>& other, const CVec3<double>& point) const {
+        return point + m_wall * dot(other - point, m_wall);
+    }
 
     CExtents3 box() const {
         CExtents3 extents;
@@ -36,13 +48,13 @@ public:
         }
         return extents;
     }
-};
 
-/// Whether a unit direction is level with a wall: to 1e-13 of it all points of the wall are as far, to 1e-9
-/// mm for walls up to 10 m.
-inline bool isLevel(double alongWall) {
-    return std::abs(alongWall) <= 1e-13;
-}
+protected:
+    const CVec3<double>& wall() const { return m_wall; }
+
+private:
+    CVec3<double> m_wall;
+};
 
 using ConvexPieces = boost::container::small_vector<std::unique_ptr<ConvexPiece>, 6>;
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "geometry/CCoord3.h"
 #include "geometry/solids/ConvexPiece.h"
 
 namespace hrx::solids {
@@ -10,12 +9,18 @@ class CylinderPiece : public ConvexPiece {
 public:
     CylinderPiece(const CVec3<double>& bottom, const CVec3<double>& top, double radius);
     CVec3<double> support(const CVec3<double>& direction) const override;
-    CVec3<double> supportLevelWith(const CVec3<double>& point, const CVec3<double>& direction) const override;
+    CVec3<double> anyPoint() const override { return m_bottom; }
+    const CylinderPiece* asCylinder() const override { return this; }
+
+    const CVec3<double>& bottom() const { return m_bottom; }
+    const CVec3<double>& axis() const { return wall(); }
+    double length() const { return m_length; }
+    double radius() const { return m_radius; }
 
 private:
-    CVec3<double> onWall(const CVec3<double>& localDirection, double level) const;
+    CylinderPiece(const CVec3<double>& bottom, const CVec3<double>& along, double length, double radius);
 
-    CCoord3<double> m_frame; ///< origin at the bottom, z axis along the cylinder
+    CVec3<double> m_bottom;
     double m_length;
     double m_radius;
 };

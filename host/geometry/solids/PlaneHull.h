@@ -12,6 +12,7 @@ public:
     void add(const Edge2d& edge);
     /// The point furthest in a direction, which need not be a unit vector. The hull must not be empty.
     CVec2<double> support(const CVec2<double>& direction) const;
+    const CVec2<double>& anyCorner() const { return m_corners.front(); }
 
 private:
     boost::container::small_vector<CVec2<double>, 8> m_corners;

@@ -1,6 +1,7 @@
 #include "geometry/solids/Simplex.h"
 
-#include <cmath>
+#include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace hrx::solids {
@@ -15,19 +16,20 @@ template <class Real> struct Candidate {
     CVec3<Real> nearest;
     Real weights[4] = {};
 
-    void keepNearer(const Candidate& other) {
-        if (other.squared < squared)
-            *this = other;
+    /// Keeps a point of the hull of up to three of the points, with their weights, if it is nearer.
+    void keepNearer(const CVec3<Real>& point, int i, Real weightI, int j = 0, Real weightJ = 0, int k = 0,
+                    Real weightK = 0) {
+        const Real pointSquared = dot(point, point);
+        if (!(pointSquared < squared))
+            return;
+        squared = pointSquared;
+        nearest = point;
+        std::fill(std::begin(weights), std::end(weights), Real(0));
+        weights[k] = weightK;
+        weights[j] = weightJ;
+        weights[i] = weightI;
     }
 };
-
-template <class Real> void considerVertex(const CVec3<Real>* p, int i, Candidate<Real>& best) {
-    Candidate<Real> vertex;
-    vertex.nearest = p[i];
-    vertex.squared = dot(p[i], p[i]);
-    vertex.weights[i] = 1;
-    best.keepNearer(vertex);
-}
 
 /// The inside of the edge from point i to point j.
 template <class Real> void considerEdge(const CVec3<Real>* p, int i, int j, Candidate<Real>& best) {
@@ -36,12 +38,8 @@ template <class Real> void considerEdge(const CVec3<Real>* p, int i, int j, Cand
     const Real t = -dot(p[i], along);
     if (!(t > 0 && t < size))
         return;
-    Candidate<Real> edge;
-    edge.weights[j] = t / size;
-    edge.weights[i] = 1 - edge.weights[j];
-    edge.nearest = p[i] + along * edge.weights[j];
-    edge.squared = dot(edge.nearest, edge.nearest);
-    best.keepNearer(edge);
+    const Real weight = t / size;
+    best.keepNearer(p[i] + along * weight, j, weight, i, 1 - weight);
 }
 
 /// The inside of the triangle; the nearest point comes from its normal, which keeps its direction to the last
@@ -58,13 +56,7 @@ void considerTriangle(const CVec3<Real>* p, int i, int j, int k, Candidate<Real>
     const Real weightK = -dot(cross(toJ, p[i]), normal) / size;
     if (!(weightJ > 0 && weightK > 0 && weightJ + weightK < 1))
         return;
-    Candidate<Real> triangle;
-    triangle.weights[i] = 1 - weightJ - weightK;
-    triangle.weights[j] = weightJ;
-    triangle.weights[k] = weightK;
-    triangle.nearest = normal * (dot(p[i], normal) / size);
-    triangle.squared = dot(triangle.nearest, triangle.nearest);
-    best.keepNearer(triangle);
+    best.keepNearer(normal * (dot(p[i], normal) / size), i, 1 - weightJ - weightK, j, weightJ, k, weightK);
 }
 
 /// Volume (times six) of the tetrahedron of three points and the origin, seen from the first point.
@@ -95,18 +87,19 @@ template <class Real> void considerInside(const CVec3<Real>* p, Candidate<Real>&
     if (dot(rest, rest) > kMeetsOrigin * kMeetsOrigin)
         return;
     inside.squared = 0;
-    best.keepNearer(inside);
+    best = inside;
 }
 
-template <class Real> Candidate<Real> nearestToOrigin(const CVec3<Real>* p, int count) {
+/// Of the hull of the points, as far as it lies nearer than the hull of all but the last: what holds the
+/// last.
+template <class Real> Candidate<Real> nearestWithLast(const CVec3<Real>* p, int count) {
     Candidate<Real> best;
-    for (int i = 0; i < count; ++i) {
-        considerVertex(p, i, best);
-        for (int j = i + 1; j < count; ++j) {
-            considerEdge(p, i, j, best);
-            for (int k = j + 1; k < count; ++k)
-                considerTriangle(p, i, j, k, best);
-        }
+    const int last = count - 1;
+    best.keepNearer(p[last], last, 1);
+    for (int i = 0; i < last; ++i) {
+        considerEdge(p, i, last, best);
+        for (int j = i + 1; j < last; ++j)
+            considerTriangle(p, i, j, last, best);
     }
     if (count == 4)
         considerInside(p, best);
@@ -131,7 +124,7 @@ template <class Real> bool Simplex<Real>::improveWith(const Vertex& vertex) {
         points[i] = converted<Real>(m_vertices[i].difference);
     }
     points[m_count] = converted<Real>(vertex.difference);
-    const Candidate<Real> best = nearestToOrigin(points, m_count + 1);
+    const Candidate<Real> best = nearestWithLast(points, m_count + 1);
     if (!(best.squared < dot(m_nearest, m_nearest)))
         return false;
     // A simplex holds four points only for as long as it takes to find the origin inside.

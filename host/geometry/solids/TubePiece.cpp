@@ -37,6 +37,11 @@ CVec3<double> TubePiece::support(const CVec3<double>& direction) const {
         {onCentreLine.x + outward.x * across.x, onCentreLine.y + outward.y * across.x, across.y});
 }
 
+CVec3<double> TubePiece::anyPoint() const {
+    const double half = std::sin(0.5 * m_first);
+    return m_frame.toWorld({-2.0 * m_arcRadius * half * half, m_arcRadius * std::sin(m_first), 0.0});
+}
+
 CVec3<double> TubePiece::onPart(const CVec3<double>& hullPoint) const {
     const CVec3<double> local = m_frame.toLocal(hullPoint);
     const double fromAxis = std::hypot(m_arcRadius + local.x, local.y);

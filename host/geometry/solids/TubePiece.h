@@ -11,6 +11,7 @@ class TubePiece : public ConvexPiece {
 public:
     TubePiece(const CCoord3<double>& frame, double arcRadius, double tubeRadius, double first, double last);
     CVec3<double> support(const CVec3<double>& direction) const override;
+    CVec3<double> anyPoint() const override;
     CVec3<double> onPart(const CVec3<double>& hullPoint) const override;
     void split(ConvexPieces& halves) const override;
 

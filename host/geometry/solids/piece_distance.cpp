@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <vector>
 
 namespace hrx::solids {
@@ -22,6 +23,14 @@ double boxDistance(const CExtents3& a, const CExtents3& b) {
                             std::max({0.0, a.low.y - b.high.y, b.low.y - a.high.y}),
                             std::max({0.0, a.low.z - b.high.z, b.low.z - a.high.z}));
     return length(gap);
+}
+
+/// The contact of two pieces where their hulls come nearest at points of the pieces themselves.
+std::optional<SolidContact> contactOfConvex(const ConvexPiece& a, const ConvexPiece& b) {
+    const HullContact hulls = hullContact(a, b, std::numeric_limits<double>::infinity());
+    if (a.onPart(hulls.onA) != hulls.onA || b.onPart(hulls.onB) != hulls.onB)
+        return std::nullopt;
+    return SolidContact{hulls.upper, hulls.onA, hulls.onB};
 }
 
 /// The pieces of one solid, those that came of dividing included.
@@ -149,6 +158,9 @@ private:
 } // namespace
 
 SolidContact pieceContact(ConvexPieces a, ConvexPieces b) {
+    if (a.size() == 1 && b.size() == 1)
+        if (const auto contact = contactOfConvex(*a.front(), *b.front()))
+            return *contact;
     return Search(std::move(a), std::move(b)).run();
 }
 

@@ -81,6 +81,21 @@ bool describeUpright(const CBody& body, UprightSolid& solid) {
     return false;
 }
 
+CVec3<double> anyPoint(const CBody& body) {
+    switch (body.kind()) {
+    case CBody::Kind::Extruded: {
+        const auto& extruded = static_cast<const CExtrudedBody&>(body);
+        const CVec2<double> corner = plan::firstCorner(*extruded.outline());
+        return extruded.frame().toWorld({corner.x, corner.y, 0.0});
+    }
+    case CBody::Kind::Cylinder:
+        return static_cast<const CCylinderBody&>(body).bottom();
+    case CBody::Kind::Tube:
+        break;
+    }
+    return static_cast<const CTubeBody&>(body).path().frame().origin;
+}
+
 void appendPieces(const CBody& body, const CVec3<double>& origin, ConvexPieces& pieces) {
     switch (body.kind()) {
     case CBody::Kind::Extruded:

@@ -12,6 +12,9 @@ namespace hrx::solids {
 /// body.
 bool describeUpright(const CBody& body, UprightSolid& solid);
 
+/// A point of the solid, or not far from it against its size.
+CVec3<double> anyPoint(const CBody& body);
+
 /// Appends pieces that make up the solid, moved by -origin.
 void appendPieces(const CBody& body, const CVec3<double>& origin, ConvexPieces& pieces);
 
