@@ -45,10 +45,10 @@ private:
         Json made;
         for (const KeyShape& key : objectKeys(siteClass, role))
             if (key.required || m_bytes.below(16) == 0)
-                made[key.key] = value(key.schema);
+                made[key.key] = value(key.schema());
         for (const KeyShape& key : siteClass.keys)
             if (key.required || key.key == "shapeKind" || m_bytes.below(4) != 0)
-                made[key.key] = value(key.schema);
+                made[key.key] = value(key.schema());
         made["class"] = siteClass.name;
         return made;
     }

@@ -15,12 +15,10 @@ using firestandard::RuleRow;
 
 namespace {
 
-/// Tells rules apart by all their texts.
-QString textsOf(const NuxStandardCheckRule& rule) {
-    QString texts;
-    for (const RuleTextField& field : ruleTextFields())
-        texts += rule.*field.member + QChar(0);
-    return texts;
+bool haveSameTexts(const NuxStandardCheckRule& a, const NuxStandardCheckRule& b) {
+    const auto& fields = ruleTextFields();
+    return std::all_of(fields.begin(), fields.end(),
+                       [&](const RuleTextField& field) { return a.*field.member == b.*field.member; });
 }
 
 JudgedRule::Verdict verdictOf(const JudgedRule& judged, const RuleRun* run) {
@@ -60,42 +58,61 @@ void takeFrom(const RuleRun& run, JudgedRule& judged) {
 
 } // namespace
 
+std::size_t RuleNumbers::add(const NuxStandardCheckRule& rule) {
+    const std::size_t known = of(rule);
+    if (known != kUnknown)
+        return known;
+    m_byName[rule.name].push_back(m_rules.size());
+    m_rules.push_back(&rule);
+    return m_rules.size() - 1;
+}
+
+std::size_t RuleNumbers::of(const NuxStandardCheckRule& rule) const {
+    const auto sameName = m_byName.find(rule.name);
+    if (sameName == m_byName.end())
+        return kUnknown;
+    const auto found = std::find_if(sameName->begin(), sameName->end(), [&](std::size_t number) {
+        return haveSameTexts(*m_rules[number], rule);
+    });
+    return found == sameName->end() ? kUnknown : *found;
+}
+
 RuleRuns::RuleRuns(std::vector<RuleRun> runs) : m_runs(std::move(runs)) {
-    for (std::size_t i = m_runs.size(); i-- > 0;)
-        m_indexByTexts[textsOf(m_runs[i].rule)] = i;
+    for (std::size_t i = 0; i < m_runs.size(); ++i)
+        if (m_numbers.add(m_runs[i].rule) == m_first.size())
+            m_first.push_back(i);
 }
 
 const RuleRun* RuleRuns::of(const NuxStandardCheckRule& rule) const {
-    const auto found = m_indexByTexts.find(textsOf(rule));
-    return found == m_indexByTexts.end() ? nullptr : &m_runs[found.value()];
+    const std::size_t number = m_numbers.of(rule);
+    return number == RuleNumbers::kUnknown ? nullptr : &m_runs[m_first[number]];
 }
 
 std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& runs,
                                     const std::vector<NuxStandardCheckRule>& rules) {
-    QMap<QString, std::vector<qint64>> handlesByRule;
+    RuleNumbers numbers;
+    std::vector<JudgedRule> result;
+    for (const NuxStandardCheckRule& rule : rules)
+        if (numbers.add(rule) == result.size())
+            result.emplace_back().rule = rule;
+
+    std::vector<std::set<qint64>> offending(result.size());
     for (const Finding& finding : report.findings) {
         const NuxStandardCheckRule& record = report.record(finding);
-        handlesByRule[textsOf(record)].push_back(record.handle);
-    }
-
-    std::vector<JudgedRule> result;
-    std::set<QString> listed;
-    for (const NuxStandardCheckRule& rule : rules) {
-        const QString texts = textsOf(rule);
-        if (!listed.insert(texts).second)
+        const std::size_t number = numbers.of(record);
+        if (number == RuleNumbers::kUnknown)
             continue;
-        JudgedRule judged;
-        judged.rule = rule;
-        const std::vector<qint64> handles = handlesByRule.value(texts);
-        judged.violations = handles.size();
-        std::set<qint64> offending(handles.begin(), handles.end());
-        offending.erase(0);
-        judged.offending = offending.size();
-        const RuleRun* run = runs.of(rule);
+        ++result[number].violations;
+        if (record.handle != 0)
+            offending[number].insert(record.handle);
+    }
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        JudgedRule& judged = result[i];
+        judged.offending = offending[i].size();
+        const RuleRun* run = runs.of(judged.rule);
         if (run)
             takeFrom(*run, judged);
         judged.verdict = verdictOf(judged, run);
-        result.push_back(std::move(judged));
     }
     return result;
 }

@@ -41,16 +41,12 @@ std::optional<Site> tryLoadSite(const std::string& fileName) {
     }
 }
 
-/// What the linter cannot read is no reason not to check.
+/// Refuses a rule file that is not well-formed.
 void mentionLint(const std::string& ruleFile) {
-    try {
-        const std::size_t count = lintRuleFile(ruleFile).size();
-        if (count > 0)
-            complain(ruleFile + ": " + countedFindings(count) +
-                     " in the rule file, see \"firecheck lint-rules\"");
-    } catch (const InputError& error) {
-        complain(error.what());
-    }
+    const std::size_t count = lintRuleFile(ruleFile).size();
+    if (count > 0)
+        complain(ruleFile + ": " + countedFindings(count) +
+                 " in the rule file, see \"firecheck lint-rules\"");
 }
 
 /// How long each rule took, the slowest first.
@@ -75,8 +71,8 @@ int checkCommand(const Options& options) {
     const QString format = options.format();
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
-    const RuleMap& rules = loadRules(ruleFile);
     mentionLint(ruleFile);
+    const RuleMap& rules = useRules(ruleFile);
     const AcceptOptions accept(options);
 
     Output output(options.value("output").value_or(QString()));

@@ -14,7 +14,6 @@ int lintRulesCommand(const Options& options) {
         throw InputError("Only one rule file can be looked at at a time.");
     const QString format = options.format();
     const std::string fileName = files.isEmpty() ? defaultRuleFile() : files.first().toStdString();
-    requireWellFormed(fileName);
     const std::vector<LintFinding> findings = lintRuleFile(fileName);
 
     Output output(options.value("output").value_or(QString()));

@@ -82,7 +82,10 @@ std::wstring wideText(const std::string& utf8) {
 }
 
 Codec<bool> flag() {
-    return {{{"type", "boolean"}}, [](const Json& value, const JsonPlace& place) {
+    return {[] {
+                return Json{{"type", "boolean"}};
+            },
+            [](const Json& value, const JsonPlace& place) {
                 if (!value.is_boolean())
                     refuseType(value, place, "true or false");
                 return value.get<bool>();
@@ -90,11 +93,13 @@ Codec<bool> flag() {
 }
 
 Codec<double> number() {
-    return {numberSchema(), readNumber};
+    return {numberSchema, readNumber};
 }
 
 Codec<double> extent() {
-    return {{{"type", "number"}, {"minimum", 0}, {"maximum", kGreatest}},
+    return {[] {
+                return Json{{"type", "number"}, {"minimum", 0}, {"maximum", kGreatest}};
+            },
             [](const Json& value, const JsonPlace& place) {
                 const double result = readNumber(value, place);
                 if (result < 0.0)
@@ -104,7 +109,10 @@ Codec<double> extent() {
 }
 
 Codec<std::wstring> text() {
-    return {{{"type", "string"}}, [](const Json& value, const JsonPlace& place) {
+    return {[] {
+                return Json{{"type", "string"}};
+            },
+            [](const Json& value, const JsonPlace& place) {
                 if (!value.is_string())
                     refuseType(value, place, "a text");
                 return wideText(value.get_ref<const std::string&>());
@@ -112,7 +120,8 @@ Codec<std::wstring> text() {
 }
 
 Codec<hrx::CVec2<double>> planPoint() {
-    return {tupleSchema(2, 2), [](const Json& value, const JsonPlace& place) {
+    return {[] { return tupleSchema(2, 2); },
+            [](const Json& value, const JsonPlace& place) {
                 const auto [x, y, unused] = readTuple(value, place, 2, 2, "a point [x, y]");
                 static_cast<void>(unused);
                 return hrx::CVec2<double>{x, y};
@@ -120,14 +129,16 @@ Codec<hrx::CVec2<double>> planPoint() {
 }
 
 Codec<hrx::CVec3<double>> point() {
-    return {tupleSchema(2, 3), [](const Json& value, const JsonPlace& place) {
+    return {[] { return tupleSchema(2, 3); },
+            [](const Json& value, const JsonPlace& place) {
                 const auto [x, y, z] = readTuple(value, place, 2, 3, "a point [x, y] or [x, y, z]");
                 return hrx::CVec3<double>{x, y, z};
             }};
 }
 
 Codec<std::vector<hrx::PolyPt2d>> polyline() {
-    return {listSchema(tupleSchema(2, 3)), [](const Json& value, const JsonPlace& place) {
+    return {[] { return listSchema(tupleSchema(2, 3)); },
+            [](const Json& value, const JsonPlace& place) {
                 return readList<hrx::PolyPt2d>(value, place, [](const Json& item, const JsonPlace& at) {
                     const auto [x, y, bulge] = readTuple(item, at, 2, 3, "a point [x, y] or [x, y, bulge]");
                     return hrx::PolyPt2d{x, y, bulge};
@@ -136,8 +147,8 @@ Codec<std::vector<hrx::PolyPt2d>> polyline() {
 }
 
 Codec<std::vector<hrx::CVec2<double>>> axisPositions() {
-    const Json position = {{"anyOf", {numberSchema(), tupleSchema(2, 2)}}};
-    return {listSchema(position), [](const Json& value, const JsonPlace& place) {
+    const auto schema = [] { return listSchema({{"anyOf", {numberSchema(), tupleSchema(2, 2)}}}); };
+    return {schema, [](const Json& value, const JsonPlace& place) {
                 return readList<hrx::CVec2<double>>(value, place, [](const Json& item, const JsonPlace& at) {
                     if (item.is_number())
                         return hrx::CVec2<double>{readNumber(item, at), 0.0};
@@ -149,11 +160,13 @@ Codec<std::vector<hrx::CVec2<double>>> axisPositions() {
 }
 
 Codec<std::optional<hrx::CExtents3>> extents() {
-    Json schema = {{"type", "object"},
-                   {"required", {"low", "high"}},
-                   {"properties", {{"low", tupleSchema(3, 3)}, {"high", tupleSchema(3, 3)}}},
-                   {"additionalProperties", false}};
-    return {std::move(schema), [](const Json& value, const JsonPlace& place) {
+    const auto schema = [] {
+        return Json{{"type", "object"},
+                    {"required", {"low", "high"}},
+                    {"properties", {{"low", tupleSchema(3, 3)}, {"high", tupleSchema(3, 3)}}},
+                    {"additionalProperties", false}};
+    };
+    return {schema, [](const Json& value, const JsonPlace& place) {
                 if (!value.is_object())
                     refuseType(value, place, "an object with \"low\" and \"high\"");
                 hrx::CExtents3 result;

@@ -17,10 +17,13 @@
 
 namespace firecheck {
 
+/// Makes a schema when it is asked for: whoever only reads needs none.
+using SchemaMaker = std::function<Json()>;
+
 /// How a value of type T is written in JSON: its schema and its reader, which refuses just what the schema
 /// refuses.
 template <class T> struct Codec {
-    Json schema;
+    SchemaMaker schema;
     std::function<T(const Json&, const JsonPlace&)> read;
 };
 
@@ -46,7 +49,8 @@ Json integerSchema(std::int64_t lowest, std::int64_t highest);
 template <class Int>
 Codec<Int> integer(Int lowest = std::numeric_limits<Int>::min(),
                    Int highest = std::numeric_limits<Int>::max()) {
-    return {integerSchema(lowest, highest), [lowest, highest](const Json& value, const JsonPlace& place) {
+    return {[lowest, highest] { return integerSchema(lowest, highest); },
+            [lowest, highest](const Json& value, const JsonPlace& place) {
                 return static_cast<Int>(readInteger(value, place, lowest, highest));
             }};
 }
@@ -62,8 +66,8 @@ Json codeSchema(const CodeNames& names, std::int64_t lowest, std::int64_t highes
 template <class Code, class Int = Code> Codec<Code> code(CodeNames names) {
     constexpr auto lowest = std::numeric_limits<Int>::min();
     constexpr auto highest = std::numeric_limits<Int>::max();
-    Json schema = codeSchema(names, lowest, highest);
-    return {std::move(schema), [names = std::move(names)](const Json& value, const JsonPlace& place) {
+    return {[names] { return codeSchema(names, lowest, highest); },
+            [names = std::move(names)](const Json& value, const JsonPlace& place) {
                 return static_cast<Code>(readCode(value, place, names, lowest, highest));
             }};
 }

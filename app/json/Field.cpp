@@ -30,7 +30,9 @@ Json objectSchema(const std::vector<KeyShape>& shapes) {
     Json properties = Json::object();
     for (const KeyShape& shape : shapes) {
         Json property = {{"description", shape.doc}};
-        property.update(shape.schema);
+        property.update(shape.schema());
+        if (shape.defaultValue)
+            property["default"] = *shape.defaultValue;
         properties[shape.key] = std::move(property);
         if (shape.required)
             required.push_back(shape.key);

@@ -13,7 +13,8 @@ struct KeyShape {
     std::string key;
     std::string doc;
     bool required = false;
-    Json schema;
+    SchemaMaker schema = {};
+    std::optional<Json> defaultValue = {}; ///< stands in for a key that is not given
 };
 
 /// One key of a JSON object and what it sets in Params. Usable for whatever derives from Params as well.
@@ -30,9 +31,8 @@ template <class Params> using Fields = std::vector<Field<Params>>;
 
 template <class Params, class T>
 Field<Params> optionalField(std::string key, T Params::*member, Codec<T> codec, std::string doc) {
-    Json schema = codec.schema;
     return {
-        KeyShape{std::move(key), std::move(doc), false, std::move(schema)},
+        KeyShape{std::move(key), std::move(doc), false, std::move(codec.schema)},
         [member, read = std::move(codec.read)](Params& params, const Json& value, const JsonPlace& place) {
             params.*member = read(value, place);
         }};
@@ -42,8 +42,9 @@ Field<Params> optionalField(std::string key, T Params::*member, Codec<T> codec, 
 template <class Params, class T>
 Field<Params> defaultedField(std::string key, T Params::*member, Codec<T> codec, Json defaultValue,
                              std::string doc) {
-    codec.schema["default"] = std::move(defaultValue);
-    return optionalField(std::move(key), member, std::move(codec), std::move(doc));
+    auto field = optionalField(std::move(key), member, std::move(codec), std::move(doc));
+    field.defaultValue = std::move(defaultValue);
+    return field;
 }
 
 template <class Params, class T>
@@ -79,19 +80,17 @@ template <class Params>
 void readFields(Params& params, const Fields<Params>& fields, const Json& object, const JsonPlace& place) {
     for (const Field<Params>& field : fields) {
         const auto given = object.find(field.key);
-        const auto standIn = field.schema.find("default");
         if (given != object.end())
             field.read(params, *given, JsonPlace(place, field.key));
-        else if (standIn != field.schema.end())
-            field.read(params, *standIn, JsonPlace(place, field.key));
+        else if (field.defaultValue)
+            field.read(params, *field.defaultValue, JsonPlace(place, field.key));
     }
 }
 
 /// An object in place of a value, whose keys set the same Params.
 template <class Params> Field<Params> nestedField(std::string key, Fields<Params> fields, std::string doc) {
     const std::vector<KeyShape> shapes = keyShapes(fields);
-    KeyShape shape{std::move(key), std::move(doc), false, objectSchema(shapes)};
-    return {std::move(shape),
+    return {KeyShape{std::move(key), std::move(doc), false, [shapes] { return objectSchema(shapes); }},
             [fields = std::move(fields), shapes](Params& params, const Json& value, const JsonPlace& place) {
                 checkKeys(value, place, shapes);
                 readFields(params, fields, value, place);

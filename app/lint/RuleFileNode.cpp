@@ -1,9 +1,8 @@
 #include "lint/RuleFileNode.h"
 
-#include "InputError.h"
 #include "lint/XmlPlaces.h"
+#include "rules/rule_file.h"
 
-#include <QFile>
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
@@ -14,13 +13,6 @@ namespace firecheck {
 namespace {
 
 constexpr int kLevelsBelowRoot = 3; // groups, rules, texts
-
-QByteArray bytesOf(const std::string& fileName) {
-    QFile file(QString::fromStdString(fileName));
-    if (!file.open(QIODevice::ReadOnly))
-        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
-    return file.readAll();
-}
 
 /// The characters of a document, in the encoding that it declares, so that they can be counted.
 QString textOf(const QByteArray& bytes) {
@@ -34,7 +26,8 @@ QString textOf(const QByteArray& bytes) {
 class NodeReader {
 public:
     explicit NodeReader(const std::string& fileName)
-        : m_fileName(fileName), m_text(textOf(bytesOf(fileName))), m_places(m_text), m_reader(m_text) {
+        : m_fileName(fileName), m_text(textOf(ruleFileContent(fileName))), m_places(m_text),
+          m_reader(m_text) {
         m_reader.setNamespaceProcessing(false);
     }
 
@@ -52,10 +45,7 @@ private:
         m_tokenStart = m_reader.characterOffset();
         const auto token = m_reader.readNext();
         if (token == QXmlStreamReader::Invalid)
-            throw InputError(
-                m_fileName + ":" + std::to_string(m_reader.lineNumber()) + ":" +
-                std::to_string(m_reader.columnNumber() + 1) +
-                ": expected a well-formed XML document: " + m_reader.errorString().toStdString());
+            refuseIllFormed(m_fileName, m_reader);
         return token;
     }
 
@@ -67,10 +57,11 @@ private:
         RuleFileNode node = nodeAtToken(RuleFileNode::Kind::Element, m_reader.qualifiedName().toString());
         const auto places = m_places.attributePlaces(m_tokenStart, m_reader.characterOffset());
         for (const QXmlStreamAttribute& attribute : m_reader.attributes()) {
-            const auto place = places.find(attribute.qualifiedName().toString());
+            // Attributes that the document type adds stand nowhere, behind those of the tag.
+            const std::size_t index = node.attributes.size();
             node.attributes.push_back({attribute.qualifiedName().toString().toStdString(),
                                        attribute.value().toString().toStdString(),
-                                       place == places.end() ? node.place : place->second});
+                                       index < places.size() ? places[index] : node.place});
         }
         if (levelsBelow == 0)
             skipToEnd();

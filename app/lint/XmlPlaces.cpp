@@ -1,25 +1,18 @@
 #include "lint/XmlPlaces.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace firecheck {
 
-namespace {
-
-bool isBreak(const QString& text, int index) {
-    const bool isFirstOfTwo = text[index] == '\r' && index + 1 < text.size() && text[index + 1] == '\n';
-    return text[index] == '\n' || (text[index] == '\r' && !isFirstOfTwo);
-}
-
-} // namespace
-
 XmlPlaces::XmlPlaces(const QString& text) : m_text(text), m_lineStarts{0} {
+    const QChar* const characters = text.constData(); // null-terminated
     for (int i = 0; i < text.size(); ++i) {
-        if (isBreak(text, i))
+        const QChar character = characters[i];
+        if (character > '\r' && !character.isSurrogate())
+            continue;
+        if (character == '\n' || (character == '\r' && characters[i + 1] != '\n'))
             m_lineStarts.push_back(i + 1);
-        if (i > 0 && text[i].isLowSurrogate() && text[i - 1].isHighSurrogate())
+        else if (i > 0 && character.isLowSurrogate() && characters[i - 1].isHighSurrogate())
             m_secondUnits.push_back(i);
     }
 }
@@ -47,14 +40,21 @@ Place XmlPlaces::placeOfToken(qint64 offset) const {
     return placeAt(tokenStart(offset));
 }
 
-std::map<QString, Place> XmlPlaces::attributePlaces(qint64 tagOffset, qint64 tagEnd) const {
-    static const QRegularExpression attribute(R"(\s([^\s=<>"']+)\s*=\s*(?:"[^"]*"|'[^']*'))");
-    const int start = tokenStart(tagOffset);
-    const QString tag = m_text.mid(start, static_cast<int>(tagEnd) - start);
-    std::map<QString, Place> places;
-    for (auto matches = attribute.globalMatch(tag); matches.hasNext();) {
-        const auto match = matches.next();
-        places.emplace(match.captured(1), placeAt(start + match.capturedStart(1)));
+std::vector<Place> XmlPlaces::attributePlaces(qint64 tagOffset, qint64 tagEnd) const {
+    const int end = static_cast<int>(std::clamp<qint64>(tagEnd, 0, m_text.size()));
+    std::vector<Place> places;
+    int nameStart = -1;
+    for (int at = tokenStart(tagOffset) + 1; at < end; ++at) {
+        const QChar character = m_text[at];
+        if (character == '"' || character == '\'') {
+            places.push_back(placeAt(nameStart));
+            at = m_text.indexOf(character, at + 1);
+            if (at < 0)
+                break;
+            nameStart = -1;
+        } else if (nameStart < 0 && at > 0 && !character.isSpace() && m_text[at - 1].isSpace()) {
+            nameStart = at;
+        }
     }
     return places;
 }

@@ -4,7 +4,6 @@
 
 #include <QString>
 
-#include <map>
 #include <vector>
 
 namespace firecheck {
@@ -17,8 +16,8 @@ public:
 
     Place placeOfToken(qint64 offset) const;
 
-    /// The places of the names of the attributes in a start tag.
-    std::map<QString, Place> attributePlaces(qint64 tagOffset, qint64 tagEnd) const;
+    /// The places of the names of the attributes in a start tag, in their order.
+    std::vector<Place> attributePlaces(qint64 tagOffset, qint64 tagEnd) const;
 
 private:
     Place placeAt(int offset) const;

@@ -152,10 +152,14 @@ std::string lineAt(int indent) {
 std::string textOf(const Json& json, int indent) {
     // File names may be no UTF-8.
     const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
+    const std::string line = lineAt(indent);
     std::string indented;
-    for (const char character : text)
-        indented += character == '\n' ? lineAt(indent) : std::string(1, character);
-    return indented;
+    std::size_t start = 0;
+    for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', start)) {
+        indented.append(text, start, end - start).append(line);
+        start = end + 1;
+    }
+    return indented.append(text, start);
 }
 
 /// Writes records one by one, because each may name every element of a large site.

@@ -5,11 +5,10 @@
 #include "rules_config/NUXRuleConfigFile.h"
 #include "rules_config/rule_file_bounds.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
-#include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QXmlStreamReader>
 
 namespace firecheck {
 
@@ -22,7 +21,7 @@ std::string defaultRuleFile() {
     return (QStringLiteral(FIRECHECK_SOURCE_DATA_DIRECTORY) + "/" + fileName).toStdString();
 }
 
-void requireWellFormed(const std::string& fileName) {
+QByteArray ruleFileContent(const std::string& fileName) {
     const QString name = QString::fromStdString(fileName);
     const QFileInfo info(name);
     if (info.exists() && !info.isFile())
@@ -31,28 +30,40 @@ void requireWellFormed(const std::string& fileName) {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
         throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
-    QBuffer content;
+    QByteArray content;
     if (file.size() <= firestandard::kLargestRuleFile)
-        content.setData(file.read(file.size()));
-    content.open(QIODevice::ReadOnly);
-    if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content.data()))
+        content = file.read(file.size());
+    if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content))
         throw InputError(fileName + ": too large, too deeply nested or too many entities for a rule file");
-    QDomDocument document;
-    QString reason;
-    int line = 0;
-    int column = 0;
-    if (!document.setContent(&content, &reason, &line, &column))
-        throw InputError(fileName + ":" + std::to_string(line) + ":" + std::to_string(column) +
-                         ": expected a well-formed XML document: " + reason.toStdString());
+    return content;
 }
 
-const RuleMap& loadRules(const std::string& fileName) {
-    requireWellFormed(fileName);
+void requireWellFormed(const std::string& fileName) {
+    QXmlStreamReader reader(ruleFileContent(fileName));
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd())
+        reader.readNext();
+    if (reader.hasError())
+        refuseIllFormed(fileName, reader);
+}
+
+void refuseIllFormed(const std::string& fileName, const QXmlStreamReader& reader) {
+    throw InputError(fileName + ":" + std::to_string(reader.lineNumber()) + ":" +
+                     std::to_string(reader.columnNumber() + 1) +
+                     ": expected a well-formed XML document: " + reader.errorString().toStdString());
+}
+
+const RuleMap& useRules(const std::string& fileName) {
     mapRootedFileName("\\FireStandardCheck.xml", QString::fromStdString(fileName));
     const RuleMap& rules = NUXRuleConfigFile::Single()->getAllRuleMap();
     if (rules.isEmpty())
         throw InputError(fileName + ": expected at least one rule");
     return rules;
+}
+
+const RuleMap& loadRules(const std::string& fileName) {
+    requireWellFormed(fileName);
+    return useRules(fileName);
 }
 
 } // namespace firecheck

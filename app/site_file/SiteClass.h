@@ -39,7 +39,7 @@ struct SiteClass {
     std::string identifier; ///< unless the object gives another one
     bool isModel = false;   ///< a 3-D model, which may also be the second view of an object
     std::vector<KeyShape> keys;
-    Json furtherSchema = Json::object(); ///< what the schema demands beside the keys
+    SchemaMaker furtherSchema; ///< what the schema demands beside the keys, if anything
 
     using Create = std::function<std::unique_ptr<UdDbObject>(
         const Json& object, const JsonPlace& place, const std::wstring& identifier, ObjectLinks& links)>;

@@ -33,7 +33,7 @@ SiteClass footprintClass(std::string name, std::string identifier, std::string d
     };
     SiteClass result = siteClass<Object, Params>(std::move(name), std::move(identifier), std::move(doc),
                                                  std::move(fields), complete);
-    result.furtherSchema = footprintSchema();
+    result.furtherSchema = footprintSchema;
     return result;
 }
 

@@ -9,11 +9,11 @@ namespace {
 
 Field<NUXRoadParams> outlineField() {
     const Codec<std::vector<hrx::PolyPt2d>> points = polyline();
-    Json schema = {{"anyOf", {{{"enum", {"none"}}}, points.schema}}};
+    const auto schema = [points] { return Json{{"anyOf", {{{"enum", {"none"}}}, points.schema()}}}; };
     return {KeyShape{"outline",
                      "\"none\", or a closed polyline of [x, y] or [x, y, bulge]; from centre line and width "
                      "unless given",
-                     false, std::move(schema)},
+                     false, schema},
             [points](NUXRoadParams& params, const Json& value, const JsonPlace& place) {
                 if (value == "none") {
                     params.outline = NUXRoadOutline::None;

@@ -6,7 +6,11 @@ namespace {
 
 Field<ObjectHead> handleField() {
     Codec<long long> codec = integer<long long>();
-    codec.schema["not"] = {{"const", 0}};
+    codec.schema = [anyInteger = codec.schema] {
+        Json schema = anyInteger();
+        schema["not"] = {{"const", 0}};
+        return schema;
+    };
     codec.read = [read = codec.read](const Json& value, const JsonPlace& place) {
         const long long handle = read(value, place);
         if (handle == 0)
@@ -62,8 +66,9 @@ std::vector<KeyShape> objectKeys(const SiteClass& siteClass, ObjectRole role) {
         keys.push_back(
             {kSecondViewKey,
              "the same thing as a 3-D model: an object of one of their classes, without handle and name",
-             false,
-             {{"$ref", "#/definitions/secondView"}}});
+             false, [] {
+                 return Json{{"$ref", "#/definitions/secondView"}};
+             }});
     return keys;
 }
 
@@ -71,10 +76,9 @@ std::vector<KeyShape> siteKeys() {
     return {{"$schema", "where the schema of site files is", false, text().schema},
             {kSiteNameKey, "what people call the site", false, text().schema},
             {"note", "a remark for readers of the file", false, text().schema},
-            {kObjectsKey,
-             "the objects of the drawing, in their order",
-             true,
-             {{"type", "array"}, {"items", {{"$ref", "#/definitions/object"}}}}}};
+            {kObjectsKey, "the objects of the drawing, in their order", true, [] {
+                 return Json{{"type", "array"}, {"items", {{"$ref", "#/definitions/object"}}}};
+             }}};
 }
 
 } // namespace firecheck

@@ -18,6 +18,11 @@ struct ObjectHead {
 /// An object of a document, or the second view of one: a 3-D model without handle and name of its own.
 enum class ObjectRole { InDocument, SecondView };
 
+/// Whether objects of the class can play the role.
+inline bool allows(ObjectRole role, const SiteClass& siteClass) {
+    return role == ObjectRole::InDocument || siteClass.isModel;
+}
+
 Fields<ObjectHead> headFields(const SiteClass& siteClass, ObjectRole role);
 
 /// All keys of an object of that class, in the order in which the documentation shows them.

@@ -13,30 +13,39 @@ namespace firecheck {
 
 namespace {
 
-const SiteClass& classNamed(const Json& value, const JsonPlace& place, ObjectRole role) {
-    if (!value.is_string())
-        refuseType(value, place, "the name of a class");
-    const auto& name = value.get_ref<const std::string&>();
+[[noreturn]] void refuseClass(const std::string& name, const JsonPlace& place, ObjectRole role) {
     std::vector<std::string> known;
-    for (const SiteClass& candidate : siteClasses()) {
-        if (role == ObjectRole::SecondView && !candidate.isModel)
-            continue;
-        if (candidate.name == name)
-            return candidate;
-        known.push_back(candidate.name);
-    }
+    for (const SiteClass& candidate : siteClasses())
+        if (allows(role, candidate))
+            known.push_back(candidate.name);
     const auto near = nearestName(name, known);
     const std::string what = role == ObjectRole::SecondView ? "class of 3-D models" : "class";
     refuse(place,
            "unknown " + what + " \"" + name + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
 }
 
-/// What the reader knows about one class, worked out once: an object costs no tables.
+/// What the reader knows about one class.
 struct ClassReader {
     const SiteClass* siteClass;
     std::vector<KeyShape> keys;
     Fields<ObjectHead> headFields;
 };
+
+/// The readers of the classes by name, each made when first needed and kept: neither an object nor a site
+/// costs tables.
+const ClassReader& readerOfClass(const std::string& name, const JsonPlace& place, ObjectRole role) {
+    static std::map<std::pair<std::string, ObjectRole>, ClassReader> readers;
+    const auto known = readers.find({name, role});
+    if (known != readers.end())
+        return known->second;
+    for (const SiteClass& candidate : siteClasses()) {
+        if (candidate.name != name || !allows(role, candidate))
+            continue;
+        ClassReader reader{&candidate, objectKeys(candidate, role), headFields(candidate, role)};
+        return readers.emplace(std::pair(name, role), std::move(reader)).first->second;
+    }
+    refuseClass(name, place, role);
+}
 
 class SiteReader {
 public:
@@ -97,24 +106,21 @@ private:
         return object;
     }
 
-    const ClassReader& readerFor(const Json& value, const JsonPlace& place, ObjectRole role) {
+    static const ClassReader& readerFor(const Json& value, const JsonPlace& place, ObjectRole role) {
         if (!value.is_object())
             refuseType(value, place, "an object");
         const auto className = value.find(kClassKey);
         if (className == value.end())
             refuse(place, "expected the key \"class\" (what the object is)");
-        const SiteClass& siteClass = classNamed(*className, JsonPlace(place, kClassKey), role);
-        const auto known = m_readers.find({&siteClass, role});
-        if (known != m_readers.end())
-            return known->second;
-        ClassReader reader{&siteClass, objectKeys(siteClass, role), headFields(siteClass, role)};
-        return m_readers.emplace(std::pair(&siteClass, role), std::move(reader)).first->second;
+        const JsonPlace classPlace(place, kClassKey);
+        if (!className->is_string())
+            refuseType(*className, classPlace, "the name of a class");
+        return readerOfClass(className->get_ref<const std::string&>(), classPlace, role);
     }
 
     Site m_site;
     ObjectLinks m_links;
     ObjectLinks::ObjectsByHandle m_objects;
-    std::map<std::pair<const SiteClass*, ObjectRole>, ClassReader> m_readers;
 };
 
 } // namespace

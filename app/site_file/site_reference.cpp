@@ -51,11 +51,10 @@ std::string valueText(const Json& schema) {
 }
 
 std::string rowText(const KeyShape& shape) {
-    const std::string standIn = shape.required ? "required"
-                                : shape.schema.contains("default")
-                                    ? "`" + shape.schema["default"].dump() + "`"
-                                    : "";
-    return "| `" + shape.key + "` | " + valueText(shape.schema) + " | " + standIn + " | " + shape.doc +
+    const std::string standIn = shape.required       ? "required"
+                                : shape.defaultValue ? "`" + shape.defaultValue->dump() + "`"
+                                                     : "";
+    return "| `" + shape.key + "` | " + valueText(shape.schema()) + " | " + standIn + " | " + shape.doc +
            " |\n";
 }
 

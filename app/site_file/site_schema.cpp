@@ -32,12 +32,9 @@ Json classSchema(const SiteClass& siteClass, ObjectRole role, KeyDefinitions& ke
     for (auto& [key, property] : schema["properties"].items())
         property = keys.reference(key, property);
     schema["properties"][kClassKey] = {{"const", siteClass.name}};
-    schema.update(siteClass.furtherSchema);
+    if (siteClass.furtherSchema)
+        schema.update(siteClass.furtherSchema());
     return schema;
-}
-
-bool allows(ObjectRole role, const SiteClass& siteClass) {
-    return role == ObjectRole::InDocument || siteClass.isModel;
 }
 
 std::string definitionName(const SiteClass& siteClass, ObjectRole role) {

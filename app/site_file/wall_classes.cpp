@@ -33,7 +33,7 @@ struct WallDoor : DoorData {
 };
 
 Field<WallDoor> doorReferenceField() {
-    const Json schema = {{"anyOf", {{{"type", "null"}}, integer<long long>().schema}}};
+    const auto schema = [] { return Json{{"anyOf", {{{"type", "null"}}, integer<long long>().schema()}}}; };
     return {KeyShape{"door", "handle of the door, or null for an id that is not valid", true, schema},
             [](WallDoor& entry, const Json& value, const JsonPlace& place) {
                 if (!value.is_null())
@@ -72,7 +72,7 @@ struct WallParams : NUXWallParams {
 Field<WallParams> doorsField() {
     const Fields<WallDoor> fields = wallDoorFields();
     const std::vector<KeyShape> shapes = keyShapes(fields);
-    const Json schema = {{"type", "array"}, {"items", objectSchema(shapes)}};
+    const auto schema = [shapes] { return Json{{"type", "array"}, {"items", objectSchema(shapes)}}; };
     return {KeyShape{"doors", "the wall's doors", false, schema},
             [fields, shapes](WallParams& params, const Json& value, const JsonPlace& place) {
                 if (!value.is_array())

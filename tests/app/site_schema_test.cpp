@@ -25,9 +25,9 @@ bool readerAccepts(const Json& site) {
 
 /// The first of some values that the schema of a key allows.
 Json sample(const KeyShape& shape) {
-    if (shape.schema.value("type", "") == "string")
+    if (shape.schema().value("type", "") == "string")
         return "NUX_ELEMENT_POINT";
-    if (shape.schema.value("type", "") == "array")
+    if (shape.schema().value("type", "") == "array")
         return Json::array({100, 200});
     return shape.key == "handle" ? 1 : 3;
 }
@@ -38,7 +38,7 @@ Json smallest(const SiteClass& siteClass, ObjectRole role) {
         if (shape.required)
             object[shape.key] = sample(shape);
     object["class"] = siteClass.name;
-    if (!siteClass.furtherSchema.empty())
+    if (siteClass.furtherSchema)
         object["circle"] = {{"center", {0, 0}}, {"radius", 1000}};
     return object;
 }

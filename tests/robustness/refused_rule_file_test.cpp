@@ -33,5 +33,5 @@ TEST(RefusedRuleFile, IsNamedWithItsReason) {
     file.seek(0);
     file.write("<a>\n<b></a>");
     file.flush();
-    expectRefused(":2:7: expected a well-formed XML document:");
+    expectRefused(":2:8: expected a well-formed XML document:");
 }

@@ -49,6 +49,7 @@ int countOf(const RuleMap& rules) {
 TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
     const QByteArray rule = "<R Type='self'/>";
     const QByteArray openTags = QByteArray("<x>").repeated(1000);
+    const QByteArray ends = QByteArray("</x>").repeated(150);
     struct Row {
         const char* what;
         QByteArray text;
@@ -59,6 +60,11 @@ TEST_F(RuleFile, ThatWouldExhaustTheProcessGivesNoRules) {
         {"nested deeper", inGroup(nested(255) + rule), 0},
         {"nested very deep", inGroup(nested(100000)), 0},
         {"nested very deep and never closed", "<a><g>" + QByteArray("<x>").repeated(100000), 0},
+        {"nested deeper, behind what only looks like ends",
+         inGroup(QByteArray("<x>").repeated(200) + "<!-->" + ends + "--><![CDATA[" + ends + "]]><x k='" +
+                 QByteArray("/>").repeated(150) + "'>" + QByteArray("<x>").repeated(60) +
+                 QByteArray("</x>").repeated(261) + rule),
+         0},
         {"nested by an entity that opens and one that closes",
          inGroup("&o;&o;&c;&c;", "<!DOCTYPE a [<!ENTITY o \"" + openTags + "\"><!ENTITY c \"" +
                                      QByteArray(openTags).replace("<", "</") + "\">]>"),
