@@ -2,9 +2,9 @@
 #include "command_line/Command.h"
 #include "command_line/Options.h"
 #include "command_line/commands.h"
+#include "text/use_utf8.h"
 
 #include <QCoreApplication>
-#include <QTextCodec>
 
 #include <cstdio>
 #include <exception>
@@ -34,8 +34,7 @@ int run(const QStringList& words) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // File names and output are UTF-8 whatever the locale says.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    firecheck::useUtf8();
     const QCoreApplication application(argc, argv);
     try {
         return run(QCoreApplication::arguments().mid(1));

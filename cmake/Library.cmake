@@ -25,6 +25,7 @@ set(library_sources
     rules_config/NUXRuleConfigFile.cpp
     rules_config/NuxStandardCheckRule.cpp
     rules_config/read_rules.cpp
+    rules_config/reader_bounds_qt${FIRECHECK_QT}.cpp
     rules_config/rule_file_bounds.cpp
     site/IdentifierField.cpp
     site/bodies.cpp
@@ -51,7 +52,7 @@ foreach(library FireStandardCheck FireStandardCheckWhiteBox)
     target_include_directories(${library} PUBLIC
         $<BUILD_INTERFACE:${library_root}> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/firestandardcheck>)
-    target_link_libraries(${library} PUBLIC Qt5::Core PRIVATE Qt5::Xml ${FIRECHECK_HOST_TARGET} firecheck_settings)
+    target_link_libraries(${library} PUBLIC Qt${FIRECHECK_QT}::Core PRIVATE Qt${FIRECHECK_QT}::Xml ${FIRECHECK_HOST_TARGET} firecheck_settings)
 endforeach()
 # White-box users see the host types that the library's inner headers speak of.
 target_link_libraries(FireStandardCheckWhiteBox PUBLIC ${FIRECHECK_HOST_TARGET})

@@ -34,6 +34,16 @@ QString stateKey(const QString& filingKey, const NuxStandardCheckRule& record) {
     return filingKey + QLatin1Char(':') + record.name;
 }
 
+QMap<QString, std::vector<bool>>
+checkStateOf(const QMap<QString, std::vector<NuxStandardCheckRule>>& results) {
+    QMap<QString, std::vector<bool>> state;
+    for (auto entry = results.cbegin(); entry != results.cend(); ++entry) {
+        for (const NuxStandardCheckRule& record : entry.value())
+            state[stateKey(entry.key(), record)].push_back(false);
+    }
+    return state;
+}
+
 } // namespace
 
 NuxFireStandardCheck::NuxFireStandardCheck()
@@ -51,10 +61,13 @@ void NuxFireStandardCheck::DoCheck() {
 
     const QMap<QString, std::vector<NuxStandardCheckRule>>& rules =
         NUXRuleConfigFile::Single()->getAllRuleMap();
-    m_mapRules.clear();
+    // Results and flags change together, at the end: when memory runs out on the way, both stay as they were.
+    Results results;
     for (auto entry = rules.cbegin(); entry != rules.cend(); ++entry)
-        judgeRules(entry.key(), entry.value(), modelSpace);
-    resetCheckState();
+        judgeRules(entry.key(), entry.value(), modelSpace, results);
+    CheckState state = checkStateOf(results);
+    m_mapRules.swap(results);
+    m_mapRulesCheckState.swap(state);
 }
 
 NUXRule* NuxFireStandardCheck::evaluatorOf(const QString& ruleType) const {
@@ -70,7 +83,7 @@ NUXRule* NuxFireStandardCheck::evaluatorOf(const QString& ruleType) const {
 }
 
 void NuxFireStandardCheck::judgeRules(const QString& ruleKey, const std::vector<NuxStandardCheckRule>& rules,
-                                      UdDbBlock* modelSpace) {
+                                      UdDbBlock* modelSpace, Results& results) const {
     // Deliberate: set once for the entry and carried over from record to record and from rule to rule, so
     // that a record without an element lies beside those of the last element, where hosts look for it.
     QString filingKey = ruleKey;
@@ -82,16 +95,8 @@ void NuxFireStandardCheck::judgeRules(const QString& ruleKey, const std::vector<
         for (const NuxStandardCheckRule& record : judge(*evaluator, modelSpace, rule)) {
             if (record.handle != 0)
                 filingKey = QString::number(record.handle, 10);
-            m_mapRules[filingKey].push_back(record);
+            results[filingKey].push_back(record);
         }
-    }
-}
-
-void NuxFireStandardCheck::resetCheckState() {
-    m_mapRulesCheckState.clear();
-    for (auto entry = m_mapRules.cbegin(); entry != m_mapRules.cend(); ++entry) {
-        for (const NuxStandardCheckRule& record : entry.value())
-            m_mapRulesCheckState[stateKey(entry.key(), record)].push_back(false);
     }
 }
 

@@ -29,7 +29,7 @@ public:
     ~NuxFireStandardCheck();
 
     /// Replaces results and flags by those of the current document. Without a document or a model space both
-    /// stay as they are.
+    /// stay as they are; so do they when memory runs out, and std::bad_alloc leaves to the host.
     void DoCheck();
 
     QMap<QString, std::vector<NuxStandardCheckRule>>& getMapRules();
@@ -42,16 +42,18 @@ public:
     void clearMapRulesCheckState();
 
 private:
+    using Results = QMap<QString, std::vector<NuxStandardCheckRule>>;
+    using CheckState = QMap<QString, std::vector<bool>>;
+
     NUXRule* evaluatorOf(const QString& ruleType) const;
     void judgeRules(const QString& ruleKey, const std::vector<NuxStandardCheckRule>& rules,
-                    UdDbBlock* modelSpace);
-    void resetCheckState();
+                    UdDbBlock* modelSpace, Results& results) const;
 
     // Never deleted, since copies of the engine share them.
     NUXWithoutElementTypeRule* m_withoutRule;
     NUXRelElementTypeDistantRule* m_distantRule;
     NUXRelElementTypePositionRule* m_positionRule;
     NUXElementTypeRule* m_selfRule;
-    QMap<QString, std::vector<NuxStandardCheckRule>> m_mapRules;
-    QMap<QString, std::vector<bool>> m_mapRulesCheckState;
+    Results m_mapRules;
+    CheckState m_mapRulesCheckState;
 };

@@ -33,7 +33,7 @@ private:
 
     QString m_field;
     std::wstring m_wideField;
-    bool m_isPlain; ///< neither surrogates nor terminators
+    bool m_isPlain; ///< ASCII, which every host converts alike
 };
 
 } // namespace firestandard

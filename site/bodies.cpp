@@ -6,10 +6,10 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "geometry/GBodyBuilder.h"
 #include "site/element_type_identifiers.h"
+#include "site/host_codes.h"
 #include "site/outlines.h"
 
-using firestandard::BodyPtr;
-using firestandard::OutlinePtr;
+using namespace firestandard;
 
 namespace {
 
@@ -38,11 +38,11 @@ BodyPtr doorBody(const NUXElementObject* element) {
 
 BodyPtr bodyByShape(const NUXElementObject* element, const NUXBaseObject& base, double height) {
     switch (base.m_shapeKind) {
-    case kRectangleShape:
+    case shape::kRectangle:
         return buildRectParamBody(firestandard::rectangleOf(base), height);
-    case kCircleShape:
+    case shape::kCircle:
         return circleBody(base, height);
-    case kPolylineShape:
+    case shape::kPolyline:
         return polylineBody(base, height);
     default:
         return element->getElementType() == NUX_EDO_TYPE_DOOR ? doorBody(element) : nullptr;
@@ -70,7 +70,8 @@ bool buildElementBody(const NUXElementObject* element, double height, BodyPtr& b
     body = bodyByShape(element, *base, height);
     if (NUXCalcFunc::IsNuxStrictlyBodyValid(body.get()))
         return true;
-    body.reset();
+    if (body)
+        body.release()->Free();
     return false;
 }
 
@@ -85,8 +86,10 @@ void buildYardOr3dsBody(const UdRxObject* object, BodyPtr& body) {
 namespace firestandard {
 
 std::unique_ptr<hrx::CExtrudedBody> raisedOutline(hrx::CPolygon* outline, double height, double elevation) {
-    hrx::CCoord3<double> frame;
-    frame.origin.z = elevation;
+    if (!outline)
+        return nullptr;
+    const hrx::CCoord3<double> frame({0.0, 0.0, elevation}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0},
+                                     {0.0, 0.0, 1.0});
     return std::make_unique<hrx::CExtrudedBody>(frame, height, outline, true);
 }
 
@@ -113,7 +116,7 @@ BodyList outlineBodies(hrx::CPolygon* outline) {
 bool hasCrossingOutline(const NUXElementObject* element) {
     const auto* base = NUXBaseObject::Cast(element);
     const OutlinePtr outline =
-        base && base->m_shapeKind == kPolylineShape ? buildPolylinePolygon(*base) : nullptr;
+        base && base->m_shapeKind == shape::kPolyline ? buildPolylinePolygon(*base) : nullptr;
     std::bitset<16> othersThanCrossing = kFiveValidityChecks;
     othersThanCrossing.reset(kCrossingCheck);
     return outline && outline->IsValid(othersThanCrossing, nullptr) &&

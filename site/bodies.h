@@ -18,8 +18,7 @@ using BodyPtr = std::unique_ptr<hrx::CBody>;
 inline constexpr double kMeasuredHeight = 1.0;
 
 /// The solid over an outline, from `elevation` up by `height`, in millimetres. It shares the outline, which
-/// its holder may release or hand over (see hrx::CPolygon). Without one, null, it is a solid that is not
-/// valid.
+/// its holder may release or hand over (see hrx::CPolygon). Null without one.
 std::unique_ptr<hrx::CExtrudedBody> raisedOutline(hrx::CPolygon* outline, double height,
                                                   double elevation = 0.0);
 

@@ -2,15 +2,14 @@
 
 #include "geometry/CBody.h"
 
-#include <boost/container/small_vector.hpp>
-
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace firestandard {
 
 /// Bodies that belong to the list, one as a rule; no entry of a list that is measured may be null.
-using BodyList = boost::container::small_vector<std::unique_ptr<hrx::CBody>, 1>;
+using BodyList = std::vector<std::unique_ptr<hrx::CBody>>;
 
 /// What minBodyDistance answers when a side has no body: farther than any distance.
 inline constexpr double kNoBodyDistance = 1e100;
@@ -23,8 +22,7 @@ struct Contact {
 };
 
 /// The contact of the nearest pair of bodies, the first of several; nothing when a side has no body, or none
-/// that can be measured. Every
-/// pair is measured, also after one that touches.
+/// that can be measured. Every pair is measured, also after one that touches.
 std::optional<Contact> leastContact(const BodyList& first, const BodyList& second);
 
 } // namespace firestandard

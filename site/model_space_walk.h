@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cad/UdDbObjContainer.h"
+#include "site/host_codes.h"
 
 #include <memory>
 #include <type_traits>
@@ -16,7 +17,7 @@ template <class Visit> void walkModelSpace(const UdDbObjContainer& modelSpace, V
     const std::unique_ptr<UdDbObjContainerIterator> iterator(modelSpace.NewIterator(true, true));
     for (; !iterator->Done(); iterator->Step(true, true)) {
         UdDbObject* object = nullptr;
-        iterator->GetItem(object, UdDb::kForRead, false);
+        iterator->GetItem(object, static_cast<UdDb::OpenMode>(kForReading), false);
         if constexpr (std::is_void_v<std::invoke_result_t<Visit&, UdDbObject*>>)
             visit(object);
         else if (visit(object) == WalkStep::Stop)

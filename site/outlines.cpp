@@ -5,16 +5,14 @@
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXYardOBJObject.h"
-
-#include <boost/functional/hash.hpp>
+#include "site/host_codes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
 #include <utility>
 
-using firestandard::kCoincidentSquared;
-using firestandard::OutlinePtr;
+using namespace firestandard;
 
 namespace {
 
@@ -81,7 +79,14 @@ private:
         return {std::floor(point.x * kSquaresPerMillimetre), std::floor(point.y * kSquaresPerMillimetre)};
     }
 
-    std::unordered_multimap<Square, hrx::PolyPt2d, boost::hash<Square>> m_squares;
+    struct SquareHash {
+        std::size_t operator()(const Square& square) const {
+            const std::hash<double> hash;
+            return hash(square.first) * 31 + hash(square.second);
+        }
+    };
+
+    std::unordered_multimap<Square, hrx::PolyPt2d, SquareHash> m_squares;
 };
 
 std::vector<hrx::PolyPt2d> withoutRepeats(const std::vector<hrx::PolyPt2d>& points) {
@@ -156,11 +161,11 @@ OutlinePtr footprintOutline(const UdRxObject* object) {
     const auto* base = NUXBaseObject::Cast(object);
     if (!base)
         buildYardOr3dsPolygon(object, outline);
-    else if (base->m_shapeKind == kRectangleShape)
+    else if (base->m_shapeKind == shape::kRectangle)
         outline = buildRectParamPolygon(rectangleOf(*base));
-    else if (base->m_shapeKind == kPolylineShape)
+    else if (base->m_shapeKind == shape::kPolyline)
         outline = buildPolylinePolygon(*base);
-    else if (const auto* door = NUXDoorObject::Cast(base); door && base->m_shapeKind != kCircleShape)
+    else if (const auto* door = NUXDoorObject::Cast(base); door && base->m_shapeKind != shape::kCircle)
         outline = buildRectParamPolygon(rectangleOf(*door));
     return outline;
 }
@@ -175,8 +180,6 @@ NUXRectParam houseRectWithStair(const NUXPrefabHouseObject& house) {
 
 } // namespace firestandard
 
-using firestandard::normaliseOrientation;
-using firestandard::turnedRectangleCorners;
 
 void getHouseRectWithStair(const NUXPrefabHouseObject& house, double& length, double& depth,
                            hrx::CVec2<double>& centre) {
@@ -191,26 +194,26 @@ void getHouseRectWithStair(const NUXPrefabHouseObject& house, double& length, do
     const Direction along{cosine, sine};
     const Direction across{sine, cosine};
 
-    const StairPt stair = house.getStairPosition();
-    switch (stair) {
-    case kStairAtLeftEnd:
-    case kStairAtRightEnd:
+    const int stairs = house.getStairPosition();
+    switch (stairs) {
+    case stair::kAtLeftEnd:
+    case stair::kAtRightEnd:
         length = houseLength + kStairLength;
         depth = houseDepth + kGalleryDepth;
         centre = middle;
-        shift(centre, along, stair == kStairAtLeftEnd ? -0.5 * kStairLength : 0.5 * kStairLength);
+        shift(centre, along, stairs == stair::kAtLeftEnd ? -0.5 * kStairLength : 0.5 * kStairLength);
         break;
-    case kNoStair:
+    case stair::kNone:
         length = houseLength;
         depth = houseDepth + kGalleryDepth;
         centre = middle;
         break;
-    case kStairAtBothEnds:
+    case stair::kAtBothEnds:
         length = houseLength + 2.0 * kStairLength;
         depth = houseDepth + kGalleryDepth;
         centre = middle;
         break;
-    case kStairAlongSide:
+    case stair::kAlongSide:
         length = houseLength;
         depth = houseDepth + kGalleryDepth + kStairLength;
         centre = middle;
@@ -219,7 +222,7 @@ void getHouseRectWithStair(const NUXPrefabHouseObject& house, double& length, do
 
     // Deliberate: the shift applies to any code, also to a centre that an unknown code left as it was, since
     // existing drawings hold such codes and keep their results.
-    if (stair == kStairAlongSide)
+    if (stairs == stair::kAlongSide)
         shift(centre, across, -1050.0);
     else
         shift(centre, across, house.getIsFB() != 0 ? 250.0 : -250.0);

@@ -30,7 +30,8 @@ inline const std::bitset<16> kFiveValidityChecks(0x1F);
 /// Points whose squared distance is at most this, the square of the double epsilon, coincide.
 inline constexpr double kCoincidentSquared = 4.930380657631324e-32;
 
-/// Turns the outline so that the clock sign of its first loop is 1.
+/// Turns the outline so that the clock sign of its first loop is 1: the outline itself, also one that the
+/// host keeps, as a road's.
 void normaliseOrientation(hrx::CPolygon& outline);
 
 /// The corners of a rectangle turned about its centre by an angle in degrees: counter-clockwise from the one

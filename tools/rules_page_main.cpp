@@ -3,11 +3,11 @@
 #include "InputError.h"
 #include "command_line/Output.h"
 #include "rules_page/rules_page.h"
+#include "text/use_utf8.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QTextCodec>
 
 #include <cstdio>
 
@@ -32,7 +32,7 @@ void writePage(const QStringList& words) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    useUtf8();
     const QCoreApplication application(argc, argv);
     try {
         writePage(QCoreApplication::arguments().mid(1));

@@ -1,9 +1,9 @@
 #include "lint/RuleFileNode.h"
 
 #include "lint/XmlPlaces.h"
+#include "lint/decoded_xml.h"
 #include "rules/rule_file.h"
 
-#include <QTextCodec>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -14,19 +14,10 @@ namespace {
 
 constexpr int kLevelsBelowRoot = 3; // groups, rules, texts
 
-/// The characters of a document, in the encoding that it declares, so that they can be counted.
-QString textOf(const QByteArray& bytes) {
-    QXmlStreamReader reader(bytes);
-    reader.readNext();
-    QTextCodec* codec = QTextCodec::codecForName(reader.documentEncoding().toString().toLatin1());
-    return QTextCodec::codecForUtfText(bytes, codec ? codec : QTextCodec::codecForName("UTF-8"))
-        ->toUnicode(bytes);
-}
-
 class NodeReader {
 public:
     explicit NodeReader(const std::string& fileName)
-        : m_fileName(fileName), m_text(textOf(ruleFileContent(fileName))), m_places(m_text),
+        : m_fileName(fileName), m_text(decodedXml(ruleFileContent(fileName))), m_places(m_text),
           m_reader(m_text) {
         m_reader.setNamespaceProcessing(false);
     }

@@ -66,7 +66,7 @@ WallAxis axisOf(const NUXWallObject& wall) {
 
 const UdDbObject* firstOpened(const Doors& doors) {
     UdDbObject* door = nullptr;
-    UdDbOpenUdDbObject(door, doors.front(), UdDb::kForRead, false);
+    UdDbOpenUdDbObject(door, doors.front(), static_cast<UdDb::OpenMode>(kForReading), false);
     return door;
 }
 

@@ -17,8 +17,8 @@ std::vector<NuxStandardCheckRule> checkDoorToDoor(const UdDbBlock& modelSpace,
 
 /// A wall's axis in plan.
 struct WallAxis {
-    hrx::CVec2<double> start;
-    hrx::CVec2<double> end;
+    hrx::CVec2<double> start{0.0, 0.0};
+    hrx::CVec2<double> end{0.0, 0.0};
 };
 
 /// The angle, in radians from 0 to 2 pi, by which the rule judges the corner between two walls; nothing when

@@ -10,6 +10,7 @@
 #include "geometry/CreatePolygon.h"
 #include "geometry/GBodyBuilder.h"
 #include "site/bodies.h"
+#include "site/host_codes.h"
 #include "site/outlines.h"
 
 namespace firestandard {
@@ -95,9 +96,9 @@ std::unique_ptr<hrx::CBody> buildCableBody(const NUXServiceCableObject& cable) {
     const hrx::CVec3<double> end{cable.getEndPt().x, cable.getEndPt().y, endHeight};
     const double radius = cable.getServiceCableRadius();
     hrx::GBodyBuilder builder(true, true);
-    if (cable.m_shapeKind == kStraightShape)
+    if (cable.m_shapeKind == shape::kStraight)
         return std::unique_ptr<hrx::CBody>(builder.CylinderBody(start, end, radius));
-    if (cable.m_shapeKind != kArcShape)
+    if (cable.m_shapeKind != shape::kArc)
         return nullptr;
     const hrx::CVec3<double> middle{cable.getMiddlePt().x, cable.getMiddlePt().y,
                                     (startHeight + endHeight) * 0.5};

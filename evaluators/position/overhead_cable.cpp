@@ -11,6 +11,7 @@
 #include "geometry/CPositionJudge.h"
 #include "geometry/DistEpsilon.h"
 #include "site/element_type_identifiers.h"
+#include "site/host_codes.h"
 #include "site/model_space_walk.h"
 #include "site/outlines.h"
 
@@ -67,16 +68,16 @@ bool isRaised(const NUXServiceCableObject& cable) {
 
 std::vector<hrx::PolyPt2d> planOutline(const NUXBaseObject& area) {
     std::vector<hrx::PolyPt2d> points;
-    if (area.m_shapeKind == kRectangleShape) {
+    if (area.m_shapeKind == shape::kRectangle) {
         // Deliberate: the angle is taken to be in degrees, whatever a host's NUXRectParam makes of it, as
         // drawings of every host have been judged.
         const hrx::CVec3<double> centre = area.getPtRectCenter();
         for (const hrx::CVec2<double>& corner : turnedRectangleCorners(
                  {centre.x, centre.y}, area.getRectWidthL(), area.getRectHigh(), area.getRectAngle()))
             points.push_back({corner.x, corner.y, 0.0});
-    } else if (area.m_shapeKind == kPolylineShape) {
+    } else if (area.m_shapeKind == shape::kPolyline) {
         area.GetPolyPts(points);
-    } else if (area.m_shapeKind == kCircleShape) {
+    } else if (area.m_shapeKind == shape::kCircle) {
         // Deliberate: only the x of the radius point counts, the circle is taken through its horizontal
         // diameter; existing drawings keep their radius point there.
         const hrx::CVec3<double> centre = area.getPtCircleCenter();

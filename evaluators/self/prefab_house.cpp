@@ -2,6 +2,7 @@
 
 #include "elements/NUXPrefabHouseObject.h"
 #include "evaluators/rule_catalogue.h"
+#include "site/host_codes.h"
 
 #include <algorithm>
 
@@ -50,5 +51,5 @@ bool isStairsMissing(const NUXElementObject* element) {
         return false;
     if (floorArea(*house) <= kLargestAreaWithoutStairs && house->getFloorCount() < kFewestFloorsWithStairs)
         return false;
-    return house->getStairPosition() != kStairAtBothEnds;
+    return house->getStairPosition() != stair::kAtBothEnds;
 }

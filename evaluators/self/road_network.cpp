@@ -10,10 +10,12 @@
 #include "geometry/CPositionJudge.h"
 #include "geometry/Curve2dlistToCoedgelists.h"
 #include "site/element_type_identifiers.h"
+#include "site/host_codes.h"
 #include "site/model_space_walk.h"
 #include "site/outlines.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace firestandard;
 
@@ -24,16 +26,43 @@ constexpr int kOutlinesMeet = 0;
 // The state of curves that could all be taken up.
 constexpr int kJoined = 0;
 
+/// An outline that the host fills in or replaces; released here unless taken.
+struct OutlineToFill {
+    hrx::CPolygon* outline = new hrx::CPolygon();
+
+    OutlineToFill() = default;
+    OutlineToFill(const OutlineToFill&) = delete;
+    OutlineToFill& operator=(const OutlineToFill&) = delete;
+    ~OutlineToFill() {
+        if (outline)
+            outline->Free();
+    }
+    OutlinePtr take() { return OutlinePtr(std::exchange(outline, nullptr)); }
+};
+
+/// Outlines that the host makes and the caller releases.
+struct OwnedFaces {
+    std::vector<hrx::CPolygon*> outlines;
+
+    OwnedFaces() = default;
+    OwnedFaces(const OwnedFaces&) = delete;
+    OwnedFaces& operator=(const OwnedFaces&) = delete;
+    ~OwnedFaces() {
+        for (hrx::CPolygon* outline : outlines)
+            outline->Free();
+    }
+};
+
 OutlinePtr outlineOf(const NUXRoadObject& road, bool isStraight) {
-    auto* polygon = new hrx::CPolygon();
+    OutlineToFill filled;
     const double width = road.getWidth();
     if (isStraight)
-        NUXBuildPolygon::buildLinePolgonAsTwoPt(polygon, road.getOriginalStartPt(), road.getOriginalEndPt(),
-                                                width);
+        NUXBuildPolygon::buildLinePolgonAsTwoPt(filled.outline, road.getOriginalStartPt(),
+                                                road.getOriginalEndPt(), width);
     else
-        NUXBuildPolygon::buildArcPolygon(polygon, road.getOriginalStartPt(), road.getOriginalEndPt(),
+        NUXBuildPolygon::buildArcPolygon(filled.outline, road.getOriginalStartPt(), road.getOriginalEndPt(),
                                          road.getOriginalRefPt(), width, 0.0);
-    return OutlinePtr(polygon);
+    return filled.take();
 }
 
 /// No road at all passes, one alone never does.
@@ -42,7 +71,7 @@ bool roadsFormLoop(const Roads& roads) {
     for (std::size_t i = 0; i < roads.size(); ++i) {
         // Deliberate: the kind of the earlier road decides how the outlines of both are built. Networks of
         // straight and curved roads in existing drawings are judged so.
-        const bool isStraight = roads[i]->m_shapeKind == kStraightShape;
+        const bool isStraight = roads[i]->m_shapeKind == shape::kStraight;
         const OutlinePtr outline = outlineOf(*roads[i], isStraight);
         for (std::size_t j = i + 1; j < roads.size(); ++j) {
             const OutlinePtr other = outlineOf(*roads[j], isStraight);
@@ -90,7 +119,7 @@ Roads identifiedFireRoads(const UdDbBlock& modelSpace) {
 std::unique_ptr<hrx::CCurve2d> centreLine(const NUXRoadObject& road) {
     const hrx::CVec2<double> start = road.getOriginalStartPt();
     const hrx::CVec2<double> end = road.getOriginalEndPt();
-    if (road.m_shapeKind == kStraightShape)
+    if (road.m_shapeKind == shape::kStraight)
         return std::make_unique<hrx::CLine2d>(start, end);
     const hrx::CVec2<double> reference = road.getOriginalRefPt();
     if (coincide(start, end) && coincide(start, reference))
@@ -103,13 +132,12 @@ LoopState loopStateOf(const Curves& curves) {
     if (hrx::Curve2dlistToCoedgelists(curves, coedgeLists, kJoiningTolerance) != kJoined)
         return LoopState::NotJoined;
 
-    std::vector<hrx::CPolygon*> polygons;
-    const bool hasPolygons = hrx::CLoopTreeNode::GenPolygonListByCoedgeList(coedgeLists, polygons);
-    const std::vector<OutlinePtr> outlines(polygons.begin(), polygons.end());
-    const bool isClosed =
-        hasPolygons && std::any_of(outlines.begin(), outlines.end(), [](const OutlinePtr& outline) {
-            return outline->IsValid(kFiveValidityChecks, nullptr);
-        });
+    OwnedFaces faces;
+    const bool hasFaces = hrx::CLoopTreeNode::GenPolygonListByCoedgeList(coedgeLists, faces.outlines);
+    const bool isClosed = hasFaces && std::any_of(faces.outlines.begin(), faces.outlines.end(),
+                                                  [](const hrx::CPolygon* outline) {
+                                                      return outline->IsValid(kFiveValidityChecks, nullptr);
+                                                  });
     return isClosed ? LoopState::Closed : LoopState::Open;
 }
 
