@@ -180,7 +180,6 @@ NUXRectParam houseRectWithStair(const NUXPrefabHouseObject& house) {
 
 } // namespace firestandard
 
-
 void getHouseRectWithStair(const NUXPrefabHouseObject& house, double& length, double& depth,
                            hrx::CVec2<double>& centre) {
     const double houseLength = house.getRectWidthL();
