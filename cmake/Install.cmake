@@ -32,6 +32,8 @@ install(FILES ${PROJECT_BINARY_DIR}/FireStandardCheckConfig.cmake
               ${PROJECT_BINARY_DIR}/FireStandardCheckConfigVersion.cmake
         DESTINATION ${package_directory})
 
+# Relative, so that the package can be installed anywhere.
+file(RELATIVE_PATH prefix_from_here /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/firestandardcheck.pc.in ${PROJECT_BINARY_DIR}/firestandardcheck.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/firestandardcheck.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 

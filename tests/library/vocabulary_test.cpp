@@ -1,8 +1,10 @@
 #include "site/IdentifierField.h"
 #include "site/element_type_identifiers.h"
 
+#include <QCryptographicHash>
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,18 @@ TEST(Vocabulary, FamiliesAreCompleteAndOfTheirPrefix) {
     EXPECT_THAT(kElementFamily, testing::Each(testing::StartsWith(L"NUX_ELEMENT_TYPE_")));
     EXPECT_EQ(kDrawingObjectFamily.size(), 96u);
     EXPECT_THAT(kDrawingObjectFamily, testing::Each(testing::StartsWith(L"NUX_EDO_TYPE_")));
+}
+
+// Hosts and rule files spell these; a misspelt one would never be found, whether or not a rule uses it.
+TEST(Vocabulary, IsSpeltAsEver) {
+    std::vector<std::wstring> all = kElementFamily;
+    all.insert(all.end(), kDrawingObjectFamily.begin(), kDrawingObjectFamily.end());
+    all.insert(all.end(), {NUX_SINGLE_IDENTIFIERS(TEXT)});
+    std::sort(all.begin(), all.end());
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    for (const std::wstring& name : all)
+        hash.addData(QString::fromStdWString(name).toLatin1() + '\n');
+    EXPECT_EQ(hash.result().toHex().toStdString(), "052d4da68c73cdcad631349fb6f9875b");
 }
 
 TEST(IdentifierField, MatchesTheWholeTextAndNothingElse) {

@@ -16,4 +16,16 @@ run(${WORK_DIRECTORY}/build/small_host ${prefix}/share/firestandardcheck)
 if(NOT output STREQUAL "7 Self_RoadMinWidth\n")
     message(FATAL_ERROR "unexpected violations: ${output}")
 endif()
+
+# By pkg-config.
+set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBRARY_DIRECTORY}/pkgconfig)
+run(pkg-config --cflags --libs firestandardcheck)
+separate_arguments(flags UNIX_COMMAND "${output}")
+run(${COMPILER} -std=c++17 -fPIC ${SOURCE_DIRECTORY}/main.cpp -o ${WORK_DIRECTORY}/by_pkg_config ${flags}
+    -lReferenceHost -Wl,-rpath,${prefix}/${LIBRARY_DIRECTORY})
+run(${WORK_DIRECTORY}/by_pkg_config ${prefix}/share/firestandardcheck)
+if(NOT output STREQUAL "7 Self_RoadMinWidth\n")
+    message(FATAL_ERROR "unexpected violations by pkg-config: ${output}")
+endif()
+
 run(${prefix}/bin/firecheck check ${prefix}/share/doc/FireStandardCheck/examples/tower-site-compliant.json)
