@@ -2,6 +2,7 @@
 #include "elements/NUXRoadObject.h"
 #include "engine/NUXCheck.h"
 #include "engine/NuxFireStandardCheck.h"
+#include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
@@ -10,6 +11,8 @@
 #include "rules_config/NUXRuleConfigFile.h"
 
 #include <gtest/gtest.h>
+
+#include <new>
 
 using firestandard::RuleMap;
 
@@ -129,6 +132,29 @@ TEST_F(Engine, FilesResultsAndFlags) {
         engine.clearMapRulesCheckState();
         EXPECT_EQ(states(engine), row.clearedStates) << row.what;
     }
+}
+
+TEST_F(Engine, KeepsResultsAndFlagsWhenACheckIsGivenUp) {
+    struct GivesUpAtTheSecondRule : firestandard::CheckObserver {
+        void beginRule(const NuxStandardCheckRule&) override {
+            if (++rules == 2)
+                throw std::bad_alloc();
+        }
+        void endRule() override {}
+        void compared(const firestandard::Comparison&) override {}
+        void notJudged(const UdDbObject&, firestandard::NotJudged) override {}
+        void pairNotJudged(const UdDbObject&, const UdDbObject&, firestandard::NotJudged) override {}
+        int rules = 0;
+    };
+    useRules({{"K", {kNarrow}}});
+    NuxFireStandardCheck& engine = *NUXCheck::instance();
+    engine.DoCheck();
+    useRules({{"J", {kLoop}}, {"K", {kMissing}}});
+    GivesUpAtTheSecondRule observer;
+    firestandard::setCheckObserver(&observer);
+    EXPECT_THROW(engine.DoCheck(), std::bad_alloc);
+    firestandard::setCheckObserver(nullptr);
+    EXPECT_EQ(results(engine) + " / " + states(engine), "17: N; 42: N / 17:N: 1; 42:N: 1");
 }
 
 TEST_F(Engine, KeepsResultsAndFlagsWithoutADrawing) {
