@@ -66,8 +66,8 @@ class CheckObserver {
 public:
     virtual ~CheckObserver() = default;
 
-    /// Before each rule. Whoever throws here, or from any of the others, gives the check up: results and flags
-    /// stay as they were.
+    /// Before each rule. Whoever throws here, or from any of the others, gives the check up: results and
+    /// flags stay as they were.
     virtual void beginRule(const NuxStandardCheckRule& rule) = 0;
     virtual void endRule() = 0;
     virtual void compared(const Comparison& comparison) = 0;
