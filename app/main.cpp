@@ -2,6 +2,7 @@
 #include "command_line/Command.h"
 #include "command_line/Options.h"
 #include "command_line/commands.h"
+#include "command_line/safe_outputs.h"
 #include "text/use_utf8.h"
 
 #include <QCoreApplication>
@@ -24,8 +25,11 @@ int run(const QStringList& words) {
         std::puts("firecheck " FIRECHECK_VERSION);
         return kNothingFound;
     }
-    if (const Command* known = findCommand(command.toStdString()))
-        return known->run(Options(rest, *known));
+    if (const Command* known = findCommand(command.toStdString())) {
+        const Options options(rest, *known);
+        requireSafeOutputs(options, *known);
+        return known->run(options);
+    }
     throw InputError(
         (command.isEmpty() ? "No command is given." : "No such command: \"" + command + "\".").toStdString() +
         " Try \"firecheck --help\".");

@@ -44,7 +44,7 @@ std::string relatedList(const Subject& subject) {
 }
 
 std::string askedFor(const Measure& measure) {
-    return "; the code asks for " + limitText(measure);
+    return "; the rule asks for " + limitText(measure);
 }
 
 std::string distancePhrase(const Subject& subject, const Measure& measure) {
@@ -68,7 +68,7 @@ std::string distanceSentence(const Subject& subject) {
 std::string boxSentence(const Subject& subject) {
     Measure limit;
     limit.maximum = subject.fixedLimit() * kMetresPerMillimetre;
-    const std::string asked = "; the code asks for one " + limitText(limit) + " away that does not touch it";
+    const std::string asked = "; the rule asks for one " + limitText(limit) + " away that does not touch it";
     if (subject.measures.empty())
         return subject.element() + " has no extinguisher box, nor has the site any" + asked;
     const Measure& nearest = subject.measures.front();
@@ -96,7 +96,7 @@ std::string widthSentence(const Subject& subject) {
 }
 
 std::string stairsSentence(const Subject& subject) {
-    return subject.element() + " has no stair at each end; the code asks for both where a house has " +
+    return subject.element() + " has no stair at each end; the rule asks for both where a house has " +
            numberWord(static_cast<int>(subject.fixedLimit(1))) + " or more floors, or more than " +
            QString::number(subject.fixedLimit()).toStdString() + " m² a floor";
 }
@@ -118,7 +118,7 @@ std::string headroomSentence(const Subject& subject) {
     Measure height;
     height.value = subject.fixedLimit() * kMetresPerMillimetre;
     return relatedList(subject) + " reaches into the " + valueText(height) + " above " + subject.element() +
-           " that the code asks to keep clear";
+           " that the rule asks to keep clear";
 }
 
 std::string cableSentence(const Subject& subject) {

@@ -5,7 +5,7 @@
 namespace firecheck {
 
 /// What is wrong, as a planner would say it, without a full stop: 'dormitory 413 "Row C" stands 3.50 m from
-/// dormitory 414; the code asks for at least 4.00 m'. Names as the site file gives them.
+/// dormitory 414; the rule asks for at least 4.00 m'. Names as the site file gives them.
 std::string sentenceOf(const SiteReport& report, const NuxStandardCheckRule& record,
                        const std::vector<Measure>& measures);
 

@@ -66,7 +66,7 @@ const std::string kNarrowReport = R"(narrow.json: Plot 7
     1  Self_RoadMinWidth
 
 Self_RoadMinWidth (1):  太窄  [clause 1]
-  fire road 3 "Gate?[31m road" is 3.999 m wide; the code asks for at least 4.000 m
+  fire road 3 "Gate?[31m road" is 3.999 m wide; the rule asks for at least 4.000 m
     #3 road NUX_EDO_TYPE_ROAD at (4.50, 0.00) m
 
 What was judged
@@ -166,6 +166,29 @@ TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenAllIsWell) {
     EXPECT_EQ(outcome.output + outcome.messages, kMention);
     EXPECT_EQ(read("食堂.txt"), kNarrowReport);
     EXPECT_EQ(run("firecheck check narrow.json --rules rules.xml --output gone/report.txt").status, 2);
+}
+
+TEST_F(CommandLine, OverwritesNothingThatItReads) {
+    const std::string check = "firecheck check narrow.json --rules rules.xml ";
+    ASSERT_EQ(
+        run(check + "--write-accept accepted.json; ln -s narrow.json linked.json; ln rules.xml same.xml")
+            .status,
+        0);
+    const std::map<std::string, std::string> files{{"narrow.json", read("narrow.json")},
+                                                   {"rules.xml", read("rules.xml")},
+                                                   {"accepted.json", read("accepted.json")}};
+    for (const char* options :
+         {"--output narrow.json", "--output ./linked.json", "--output same.xml", "--write-accept narrow.json",
+          "--accept accepted.json --output accepted.json", "--write-accept accepted.json",
+          "--output new.txt --write-accept ./new.txt"}) {
+        const Outcome outcome = run(check + options);
+        EXPECT_EQ(outcome.status, 2) << options;
+        EXPECT_NE(outcome.messages.find("expected a"), std::string::npos) << options << outcome.messages;
+        for (const auto& [name, text] : files)
+            EXPECT_EQ(read(name), text) << options;
+    }
+    EXPECT_EQ(run("firecheck lint-rules wrong.xml --output wrong.xml").status, 2);
+    EXPECT_EQ(run(check + "--output /dev/null").status, 1);
 }
 
 TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {

@@ -159,14 +159,14 @@ TEST_F(Renderers, SayWhatAPlannerWouldSay) {
             QString::fromStdString(finding.sentence).remove(QRegularExpression(" \"[^\"]*\"")).toStdString();
     const std::map<std::string, std::string> expected = {
         {"Distant_PrefabHouseToPrefabHouse",
-         "dormitory 413 stands 3.50 m from dormitory 414; the code asks for at least 4.00 m"},
+         "dormitory 413 stands 3.50 m from dormitory 414; the rule asks for at least 4.00 m"},
         {"Distant_PrefabHouseToWoodWorkingFactory",
-         "office 404 stands 6.20 m from woodworking workshop 602; the code asks for at least 7.00 m"},
+         "office 404 stands 6.20 m from woodworking workshop 602; the rule asks for at least 7.00 m"},
         {"Self_PrefabHouseRoomArea",
-         "office 402 has a room of 126.00 m²; the code asks for at most 100.00 m²"},
+         "office 402 has a room of 126.00 m²; the rule asks for at most 100.00 m²"},
         {"Without_SmookingRoom", "the site has no smoking room"},
         {"Position_FireExtinguisherBoxToWoodFactory", "formwork workshop 601 is touched by extinguisher box "
-                                                      "1222; the code asks for one at most 3.00 m away "
+                                                      "1222; the rule asks for one at most 3.00 m away "
                                                       "that does not touch it"},
     };
     for (const auto& [rule, sentence] : expected)
