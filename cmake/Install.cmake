@@ -4,7 +4,7 @@ include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/FireStandardCheck)
 set(header_directory ${CMAKE_INSTALL_INCLUDEDIR}/firestandardcheck)
 
-install(TARGETS FireStandardCheck ReferenceHost EXPORT FireStandardCheckTargets)
+install(TARGETS FireStandardCheck FireStandardCheckExplained ReferenceHost EXPORT FireStandardCheckTargets)
 install(EXPORT FireStandardCheckTargets NAMESPACE FireStandardCheck:: DESTINATION ${package_directory})
 
 foreach(header
@@ -12,7 +12,15 @@ foreach(header
         engine/NUXRule.h
         engine/NuxFireStandardCheck.h
         rules_config/NUXRuleConfigFile.h
-        rules_config/NuxStandardCheckRule.h)
+        rules_config/NuxStandardCheckRule.h
+        # Of the library that explains alone:
+        evaluators/CheckObserver.h
+        explain/CheckReport.h
+        explain/Finding.h
+        explain/explain_check.h
+        rules_config/RuleFileStatus.h
+        site/min_body_distance.h
+        site/outlines.h)
     get_filename_component(directory ${header} DIRECTORY)
     install(FILES ${header} DESTINATION ${header_directory}/${directory})
 endforeach()
@@ -34,8 +42,10 @@ install(FILES ${PROJECT_BINARY_DIR}/FireStandardCheckConfig.cmake
 
 # Relative, so that the package can be installed anywhere.
 file(RELATIVE_PATH prefix_from_here /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(cmake/firestandardcheck.pc.in ${PROJECT_BINARY_DIR}/firestandardcheck.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/firestandardcheck.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package firestandardcheck firestandardcheck-explained)
+    configure_file(cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME firestandardcheck)

@@ -1,5 +1,5 @@
-# The check library: a shared library that exports its five public types, and one of the same sources, static unless
-# asked otherwise, in which tests and the checker see everything.
+# The check library twice: a shared one that exports its five public types, and one, static unless asked otherwise, that
+# explains what it found as well and hides nothing, for hosts that report, the checker and the tests.
 include(GenerateExportHeader)
 
 set(library_sources
@@ -29,15 +29,31 @@ set(library_sources
     rules_config/rule_file_bounds.cpp
     site/IdentifierField.cpp
     site/bodies.cpp
+    site/current_model_space.cpp
     site/min_body_distance.cpp
     site/outlines.cpp)
 
+set(explaining_sources
+    explain/CheckRecorder.cpp
+    explain/CheckReport.cpp
+    explain/element_noun.cpp
+    explain/explain_check.cpp
+    explain/judged_rules.cpp
+    explain/measure_text.cpp
+    explain/number_word.cpp
+    explain/record_measures.cpp
+    explain/rule_text_fields.cpp
+    explain/rule_wording.cpp
+    explain/sentence.cpp)
+
 get_filename_component(library_root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
 list(TRANSFORM library_sources PREPEND ${library_root}/)
+list(TRANSFORM explaining_sources PREPEND ${library_root}/)
 
 add_library(FireStandardCheck SHARED ${library_sources})
 add_library(FireStandardCheck::FireStandardCheck ALIAS FireStandardCheck)
-add_library(FireStandardCheckWhiteBox ${FIRECHECK_WHITE_BOX_TYPE} ${library_sources})
+add_library(FireStandardCheckExplained ${FIRECHECK_EXPLAINED_TYPE} ${library_sources} ${explaining_sources})
+add_library(FireStandardCheck::FireStandardCheckExplained ALIAS FireStandardCheckExplained)
 
 generate_export_header(FireStandardCheck BASE_NAME firestandardcheck
                        EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/firestandardcheck_export.h)
@@ -46,13 +62,15 @@ set_target_properties(FireStandardCheck PROPERTIES
     VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
-target_compile_definitions(FireStandardCheckWhiteBox PUBLIC FIRESTANDARDCHECK_STATIC_DEFINE)
+target_compile_definitions(FireStandardCheckExplained PUBLIC FIRESTANDARDCHECK_STATIC_DEFINE)
 
-foreach(library FireStandardCheck FireStandardCheckWhiteBox)
+foreach(library FireStandardCheck FireStandardCheckExplained)
     target_include_directories(${library} PUBLIC
         $<BUILD_INTERFACE:${library_root}> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/firestandardcheck>)
-    target_link_libraries(${library} PUBLIC Qt${FIRECHECK_QT}::Core PRIVATE Qt${FIRECHECK_QT}::Xml ${FIRECHECK_HOST_TARGET} firecheck_settings)
+    target_link_libraries(${library}
+        PUBLIC Qt${FIRECHECK_QT}::Core
+        PRIVATE Qt${FIRECHECK_QT}::Xml ${FIRECHECK_HOST_TARGET} $<BUILD_INTERFACE:firecheck_settings>)
 endforeach()
-# White-box users see the host types that the library's inner headers speak of.
-target_link_libraries(FireStandardCheckWhiteBox PUBLIC ${FIRECHECK_HOST_TARGET})
+# Its headers speak of host types.
+target_link_libraries(FireStandardCheckExplained PUBLIC ${FIRECHECK_HOST_TARGET})

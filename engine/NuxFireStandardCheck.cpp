@@ -1,21 +1,14 @@
 #include "engine/NuxFireStandardCheck.h"
 
-#include "cad/UdApDocManager.h"
 #include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
 #include "rules_config/NUXRuleConfigFile.h"
+#include "site/current_model_space.h"
 
 namespace {
-
-UdDbBlock* currentModelSpace() {
-    UdApDocManager* manager = UdDocManagerPtr();
-    UdApDocument* current = manager ? manager->CurDocument() : nullptr;
-    UdDbDocument* document = current ? current->Database() : nullptr;
-    return document ? document->GetModelSpace() : nullptr;
-}
 
 std::vector<NuxStandardCheckRule> judge(NUXRule& evaluator, UdDbBlock* modelSpace,
                                         const NuxStandardCheckRule& rule) {
@@ -55,7 +48,7 @@ NuxFireStandardCheck& NuxFireStandardCheck::operator=(const NuxFireStandardCheck
 NuxFireStandardCheck::~NuxFireStandardCheck() = default;
 
 void NuxFireStandardCheck::DoCheck() {
-    UdDbBlock* modelSpace = currentModelSpace();
+    UdDbBlock* modelSpace = firestandard::currentModelSpace();
     if (!modelSpace)
         return;
 

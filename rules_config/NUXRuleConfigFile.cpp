@@ -1,11 +1,23 @@
 #include "rules_config/NUXRuleConfigFile.h"
 
+#include "rules_config/RuleFileStatus.h"
 #include "rules_config/read_rules.h"
 
 #include <algorithm>
 #include <iterator>
 
 NUXRuleConfigFile* NUXRuleConfigFile::m_instance = nullptr;
+
+namespace {
+
+firestandard::RuleFileStatus s_status; ///< beside the store, whose members are part of its interface
+
+} // namespace
+
+firestandard::RuleFileStatus firestandard::ruleFileStatus() {
+    NUXRuleConfigFile::Single();
+    return s_status;
+}
 
 NUXRuleConfigFile* NUXRuleConfigFile::Single() {
     if (!m_instance)
@@ -28,7 +40,8 @@ void NUXRuleConfigFile::setConfigFilePath(const QString& path) {
 }
 
 void NUXRuleConfigFile::loadFile() {
-    m_ruleMap = firestandard::readRules(m_configFilePath + QStringLiteral("\\FireStandardCheck.xml"));
+    m_ruleMap =
+        firestandard::readRules(m_configFilePath + QStringLiteral("\\FireStandardCheck.xml"), s_status);
 }
 
 const QMap<QString, std::vector<NuxStandardCheckRule>>& NUXRuleConfigFile::getAllRuleMap() const {

@@ -8,26 +8,28 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <optional>
+
 namespace firestandard {
 
 namespace {
 
-/// Empty for what is no file: opening a pipe would wait for its other end.
-QByteArray contentOf(const QString& fileName) {
+/// Nothing for what is no file, since opening a pipe would wait for its other end, and for what cannot be
+/// read.
+std::optional<QByteArray> contentOf(const QString& fileName) {
     QFile file(fileName);
-    if (!QFileInfo(fileName).isFile() || file.size() > kLargestRuleFile || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    if (file.size() > kLargestRuleFile)
         return QByteArray();
     return file.read(file.size()); // the room is taken before the first byte, so no more than needed
 }
 
-/// Without a document element when there is nothing to read.
-QDomDocument documentOf(const QString& fileName) {
-    QDomDocument document;
+/// Whether it is well-formed. What stands before a mistake is in the document all the same.
+bool parse(const QByteArray& bytes, QDomDocument& document) {
     QBuffer content;
-    content.setData(contentOf(fileName));
-    if (isWithinBounds(content.data()) && content.open(QIODevice::ReadOnly))
-        document.setContent(&content);
-    return document;
+    content.setData(bytes);
+    return isWithinBounds(bytes) && content.open(QIODevice::ReadOnly) && document.setContent(&content);
 }
 
 QString attribute(const QDomNode& node, const char* name) {
@@ -64,9 +66,13 @@ NuxStandardCheckRule analyzeRule(const QDomNode& node) {
 
 } // namespace
 
-RuleMap readRules(const QString& fileName) {
+RuleMap readRules(const QString& fileName, RuleFileStatus& status) {
     RuleMap rules;
-    const QDomDocument document = documentOf(resolveRootedFileName(fileName));
+    QDomDocument document;
+    const std::optional<QByteArray> content = contentOf(resolveRootedFileName(fileName));
+    status = RuleFileStatus();
+    status.isFound = content.has_value();
+    status.isParsed = parse(content.value_or(QByteArray()), document);
     const QDomElement root = document.documentElement();
     for (QDomNode group = root.firstChild(); !group.isNull(); group = group.nextSibling()) {
         const QDomElement groupElement = group.toElement();
@@ -75,6 +81,7 @@ RuleMap readRules(const QString& fileName) {
         for (QDomNode node = groupElement.firstChild(); !node.isNull(); node = node.nextSibling()) {
             const NuxStandardCheckRule rule = analyzeRule(node);
             rules[ruleKey(rule)].push_back(rule);
+            ++status.ruleCount;
         }
     }
     return rules;

@@ -16,7 +16,10 @@ struct RuleFileInPlace {
         if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
             qFatal("the rule file cannot be written");
     }
-    firestandard::RuleMap read() const { return firestandard::readRules(fileName()); }
+    firestandard::RuleMap read() const {
+        firestandard::RuleFileStatus status;
+        return firestandard::readRules(fileName(), status);
+    }
     firestandard::RuleMap rulesOf(const QByteArray& text) const {
         write(text);
         return read();

@@ -6,8 +6,8 @@
 
 namespace firecheck {
 
-/// Runs the check engine on a site, which becomes the current document meanwhile. `rules` are those that the
-/// engine uses.
-SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& rules);
+/// Runs the check engine on a site, which becomes the current document meanwhile. The rules in use are asked
+/// for so that nobody checks before the rule store has read its file.
+SiteReport checkSite(Site site, const std::string& fileName, const RuleMap& rulesInUse);
 
 } // namespace firecheck

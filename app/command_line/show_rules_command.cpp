@@ -2,8 +2,9 @@
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
-#include "rules/rule_fields.h"
+#include "explain/rule_text_fields.h"
 #include "rules/rule_file.h"
+#include "rules/rule_texts.h"
 
 namespace firecheck {
 
@@ -27,7 +28,7 @@ std::string rulesAsText(const RuleMap& rules) {
         text += Json(entry.key().toStdString()).dump() + "\n";
         for (const NuxStandardCheckRule& rule : entry.value()) {
             const char* bullet = "  - ";
-            for (const auto& [name, member] : ruleTextFields()) {
+            for (const auto& [name, member] : firestandard::ruleTextFields()) {
                 if ((rule.*member).isEmpty())
                     continue;
                 text += bullet + std::string(name) + ": " + Json((rule.*member).toStdString()).dump() + "\n";

@@ -1,5 +1,5 @@
 #include "report/ReportWriter.h"
-#include "rules/rule_fields.h"
+#include "rules/rule_texts.h"
 
 namespace firecheck {
 

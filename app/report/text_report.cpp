@@ -1,7 +1,7 @@
+#include "explain/measure_text.h"
+#include "explain/sentence.h"
 #include "report/ReportWriter.h"
 #include "report/judgement_text.h"
-#include "report/measure_text.h"
-#include "report/sentence.h"
 #include "text/printable.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "rules/vocabulary.h"
 
 #include "evaluators/rule_catalogue.h"
-#include "rules/rule_wording.h"
+#include "explain/number_word.h"
+#include "explain/rule_wording.h"
 #include "site/element_type_identifiers.h"
-#include "text/number_word.h"
 
 #include <QString>
 
@@ -33,7 +33,8 @@ std::string filledIn(const char* wording, const RuleRow& row) {
     QString filled = QString::fromUtf8(wording);
     filled.replace("{use}", useText(row.use));
     filled.replace("{limit}", QString::number(row.fixedLimits[0]));
-    filled.replace("{floors}", QString::fromStdString(numberWord(static_cast<int>(row.fixedLimits[1]))));
+    filled.replace("{floors}",
+                   QString::fromStdString(firestandard::numberWord(static_cast<int>(row.fixedLimits[1]))));
     return filled.toStdString();
 }
 
@@ -41,7 +42,7 @@ std::string filledIn(const char* wording, const RuleRow& row) {
 const std::string kOfAnyFacility =
     "With an empty PropertyType any element of the type will do; a 3-D model of the type always does.";
 
-std::string peculiarityOf(const RuleRow& row, const RuleWording& wording) {
+std::string peculiarityOf(const RuleRow& row, const firestandard::RuleWording& wording) {
     const std::string own = filledIn(wording.peculiarity, row);
     if (row.test != RuleTest::RequiredFacility)
         return own;
@@ -65,7 +66,7 @@ std::vector<std::string> namesOf(const AttributesRead& read) {
 std::vector<RuleName> explained(const std::vector<RuleRow>& rows) {
     std::vector<RuleName> names;
     for (const RuleRow& row : rows) {
-        const RuleWording& wording = *findRuleWording(row.name);
+        const firestandard::RuleWording& wording = *firestandard::findRuleWording(row.name);
         names.push_back({row.name, row.type, text(row.elementType), text(row.referenceElementType),
                          namesOf(row.reads()), filledIn(wording.judges, row), filledIn(wording.limits, row),
                          peculiarityOf(row, wording)});

@@ -3,13 +3,13 @@
 #include "RandomSite.h"
 #include "bare_walk.h"
 #include "cad/UdApDocManager.h"
-#include "check/CheckRecorder.h"
 #include "engine/NUXCheck.h"
 #include "engine/NuxFireStandardCheck.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
+#include "explain/CheckRecorder.h"
 #include "shipped_rules.h"
 
 #include <benchmark/benchmark.h>
@@ -38,7 +38,7 @@ void recordedCheck(benchmark::State& state) {
     shippedRules();
     UdApDocument* document = UdDocManagerPtr()->open(randomSite(sizeOf(state)));
     for ([[maybe_unused]] auto _ : state) {
-        firecheck::CheckRecorder recorder;
+        firestandard::CheckRecorder recorder;
         NUXCheck::instance()->DoCheck();
         benchmark::DoNotOptimize(recorder.takeRuns());
     }

@@ -2,15 +2,15 @@
 
 #include "InputError.h"
 #include "case_file/case_directory.h"
-#include "check/judged_rules.h"
 #include "evaluators/CheckObserver.h"
 #include "evaluators/distant/NUXRelElementTypeDistantRule.h"
 #include "evaluators/position/NUXRelElementTypePositionRule.h"
 #include "evaluators/self/NUXElementTypeRule.h"
 #include "evaluators/without/NUXWithoutElementTypeRule.h"
+#include "explain/judged_rules.h"
 #include "report/judgement_text.h"
-#include "rules/rule_fields.h"
 #include "rules/rule_file.h"
+#include "rules/rule_texts.h"
 #include "site_file/site_reader.h"
 
 #include <gtest/gtest.h>

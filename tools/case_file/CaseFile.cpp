@@ -2,9 +2,9 @@
 
 #include "InputError.h"
 #include "case_file/placeholders.h"
+#include "explain/rule_text_fields.h"
 #include "json/Field.h"
 #include "json/parse_json.h"
-#include "rules/rule_fields.h"
 #include "site_file/site_reader.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ QString fieldText(const Json& value) {
 void setFields(NuxStandardCheckRule& record, const Json& fields) {
     for (const auto& [key, value] : fields.items()) {
         const std::string& name = key;
-        const auto& known = ruleTextFields();
+        const auto& known = firestandard::ruleTextFields();
         const auto field =
             std::find_if(known.begin(), known.end(), [&](const auto& each) { return each.name == name; });
         if (field == known.end())

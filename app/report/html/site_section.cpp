@@ -1,9 +1,9 @@
 #include "report/html/site_section.h"
 
+#include "explain/sentence.h"
 #include "report/escape.h"
 #include "report/judgement_text.h"
 #include "report/plan/plan_svg.h"
-#include "report/sentence.h"
 
 #include <QStringList>
 
@@ -104,8 +104,8 @@ private:
         QString elements = "<option value=\"\">All elements</option>";
         for (const auto& [handle, violations] : violationsByElement())
             elements += "<option value=\"" + QString::number(handle) + "\">" +
-                        escaped(elementPhrase(m_report, handle)) + " (" + QString::number(violations) +
-                        ")</option>";
+                        escaped(firestandard::elementPhrase(m_report, handle)) + " (" +
+                        QString::number(violations) + ")</option>";
         return element("form", ofClass("filters"),
                        "<label>Rule<select name=\"rule\">" + rules + "</select></label>\n" +
                            "<label>Element<select name=\"element\">" + elements + "</select></label>\n" +

@@ -1,8 +1,8 @@
 #include "report/plan/plan_svg.h"
 
+#include "explain/measure_text.h"
 #include "report/assets.h"
 #include "report/escape.h"
-#include "report/measure_text.h"
 #include "report/plan/plan_labels.h"
 
 #include <QStringList>
@@ -218,7 +218,7 @@ private:
             const DrawnPoint from = m_frame.drawn(measure.points->onElement);
             const DrawnPoint to = m_frame.drawn(measure.points->onOther);
             PlanLabel label;
-            label.text = QString::fromStdString(valueText(measure));
+            label.text = QString::fromStdString(firestandard::valueText(measure));
             label.classes = "value " + colourOf(number);
             label.middle = {0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
             label.halfWidth = 0.5 * std::abs(from.x - to.x);

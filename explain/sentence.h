@@ -1,15 +1,15 @@
 #pragma once
 
-#include "report/SiteReport.h"
+#include "explain/CheckReport.h"
 
-namespace firecheck {
+namespace firestandard {
 
 /// What is wrong, as a planner would say it, without a full stop: 'dormitory 413 "Row C" stands 3.50 m from
 /// dormitory 414; the rule asks for at least 4.00 m'. Names as the site file gives them.
-std::string sentenceOf(const SiteReport& report, const NuxStandardCheckRule& record,
+std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,
                        const std::vector<Measure>& measures);
 
 /// 'dormitory 413 "Row C"', or "element 413" where nothing is known of it.
-std::string elementPhrase(const SiteReport& report, long long handle);
+std::string elementPhrase(const CheckReport& report, long long handle);
 
-} // namespace firecheck
+} // namespace firestandard

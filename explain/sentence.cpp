@@ -1,25 +1,23 @@
-#include "report/sentence.h"
+#include "explain/sentence.h"
 
 #include "evaluators/rule_catalogue.h"
-#include "report/measure_text.h"
-#include "text/number_word.h"
+#include "explain/measure_text.h"
+#include "explain/number_word.h"
 
 #include <QStringList>
 
-namespace firecheck {
+namespace firestandard {
 
 namespace {
 
 constexpr std::size_t kMostNamed = 3; ///< elements that one sentence names before it counts the others
 
-using firestandard::RuleTest;
-
 /// What a sentence is made of.
 struct Subject {
-    const SiteReport& report;
+    const CheckReport& report;
     const NuxStandardCheckRule& record;
     const std::vector<Measure>& measures;
-    const firestandard::RuleRow* row; ///< the catalogue's; null for a name that it does not have
+    const RuleRow* row; ///< the catalogue's; null for a name that it does not have
 
     double fixedLimit(std::size_t index = 0) const { return row->fixedLimits[index]; }
     std::string element() const { return elementPhrase(report, record.handle); }
@@ -176,7 +174,7 @@ std::string knownSentence(const Subject& subject) {
 
 } // namespace
 
-std::string elementPhrase(const SiteReport& report, long long handle) {
+std::string elementPhrase(const CheckReport& report, long long handle) {
     const ElementLabel* element = report.element(handle);
     const std::string noun = element && !element->noun.empty() ? element->noun : "element";
     const std::string phrase = noun + " " + std::to_string(handle);
@@ -185,9 +183,9 @@ std::string elementPhrase(const SiteReport& report, long long handle) {
     return saysMore ? phrase + " \"" + element->name + "\"" : phrase;
 }
 
-std::string sentenceOf(const SiteReport& report, const NuxStandardCheckRule& record,
+std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,
                        const std::vector<Measure>& measures) {
-    const Subject subject{report, record, measures, firestandard::findRule(record.name, record.type)};
+    const Subject subject{report, record, measures, findRule(record.name, record.type)};
     if (record.type == QLatin1String("without"))
         return absenceSentence(subject);
     if (record.type == QLatin1String("distant") && !measures.empty())
@@ -195,4 +193,4 @@ std::string sentenceOf(const SiteReport& report, const NuxStandardCheckRule& rec
     return subject.row ? knownSentence(subject) : plainSentence(subject);
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,8 +1,8 @@
-#include "text/number_word.h"
+#include "explain/number_word.h"
 
 #include <array>
 
-namespace firecheck {
+namespace firestandard {
 
 std::string numberWord(int number) {
     static const std::array<const char*, 10> words = {"zero", "one", "two",   "three", "four",
@@ -11,4 +11,4 @@ std::string numberWord(int number) {
     return hasWord ? words[static_cast<std::size_t>(number)] : std::to_string(number);
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "check/CheckRecorder.h"
-#include "report/SiteReport.h"
+#include "explain/CheckRecorder.h"
+#include "explain/CheckReport.h"
 
 #include <QHash>
 
 #include <limits>
 #include <vector>
 
-namespace firecheck {
+namespace firestandard {
 
 /// Numbers rules from 0, those that are equal in all texts alike. Borrows them.
 class RuleNumbers {
@@ -42,7 +42,7 @@ private:
 };
 
 /// The outcome of each rule of the map, in its order. Reads the findings of the report.
-std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& runs,
+std::vector<JudgedRule> judgedRules(const CheckReport& report, const RuleRuns& runs,
                                     const std::vector<NuxStandardCheckRule>& rules);
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "check/CheckRecorder.h"
-#include "report/Finding.h"
+#include "explain/CheckRecorder.h"
+#include "explain/Finding.h"
 
-namespace firecheck {
+namespace firestandard {
 
 /// What the rule of `run` measured about the elements of one of its records, distances from the nearest on.
 std::vector<Measure> recordMeasures(const NuxStandardCheckRule& record, const RuleRun& run);
 
-} // namespace firecheck
+} // namespace firestandard

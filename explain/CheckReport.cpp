@@ -1,16 +1,16 @@
-#include "report/SiteReport.h"
+#include "explain/CheckReport.h"
 
 #include <algorithm>
 
-namespace firecheck {
+namespace firestandard {
 
-std::size_t SiteReport::acceptedCount() const {
+std::size_t CheckReport::acceptedCount() const {
     return static_cast<std::size_t>(
         std::count_if(findings.begin(), findings.end(),
                       [](const Finding& finding) { return finding.acceptedBecause.has_value(); }));
 }
 
-const ElementLabel* SiteReport::element(long long handle) const {
+const ElementLabel* CheckReport::element(long long handle) const {
     const auto found =
         std::lower_bound(elements.begin(), elements.end(), handle,
                          [](const ElementLabel& label, long long wanted) { return label.handle < wanted; });
@@ -27,4 +27,4 @@ std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStand
     return handles;
 }
 
-} // namespace firecheck
+} // namespace firestandard

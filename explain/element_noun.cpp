@@ -1,4 +1,4 @@
-#include "check/element_noun.h"
+#include "explain/element_noun.h"
 
 #include "elements/NUX3dsBaseObject.h"
 #include "elements/NUXOpenHouseObject.h"
@@ -11,7 +11,7 @@
 #include <map>
 #include <string_view>
 
-namespace firecheck {
+namespace firestandard {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::string elementNoun(const UdDbObject& object) {
     return end.isEmpty() ? "object" : end.toStdString();
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,10 +1,10 @@
-#include "rules/rule_wording.h"
+#include "explain/rule_wording.h"
 
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 
-namespace firecheck {
+namespace firestandard {
 
 namespace {
 
@@ -169,4 +169,4 @@ const RuleWording* findRuleWording(const char* name) {
     return found == std::end(kWordings) ? nullptr : found;
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,10 +1,8 @@
-#include "check/record_measures.h"
+#include "explain/record_measures.h"
 
 #include <algorithm>
 
-namespace firecheck {
-
-using firestandard::Quantity;
+namespace firestandard {
 
 namespace {
 
@@ -62,4 +60,4 @@ std::vector<Measure> recordMeasures(const NuxStandardCheckRule& record, const Ru
     return measures;
 }
 
-} // namespace firecheck
+} // namespace firestandard

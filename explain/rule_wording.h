@@ -1,6 +1,6 @@
 #pragma once
 
-namespace firecheck {
+namespace firestandard {
 
 /// What people are told of a rule name, beside the facts of the catalogue. "{use}" stands for the use that
 /// the name asks for, "{limit}" and "{floors}" for its first and second fixed limit.
@@ -15,4 +15,4 @@ struct RuleWording {
 /// Null for a name without a row; every name of the catalogue has one.
 const RuleWording* findRuleWording(const char* name);
 
-} // namespace firecheck
+} // namespace firestandard

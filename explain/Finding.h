@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace firecheck {
+namespace firestandard {
 
 inline constexpr double kMetresPerMillimetre = 1e-3;
 
@@ -44,4 +44,4 @@ struct Finding {
     std::optional<std::string> acceptedBecause;
 };
 
-} // namespace firecheck
+} // namespace firestandard

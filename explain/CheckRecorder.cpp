@@ -1,14 +1,10 @@
-#include "check/CheckRecorder.h"
+#include "explain/CheckRecorder.h"
 
 #include "cad/UdDbObject.h"
 
 #include <algorithm>
 
-namespace firecheck {
-
-using firestandard::Comparison;
-using firestandard::NotJudged;
-using firestandard::Quantity;
+namespace firestandard {
 
 namespace {
 
@@ -70,4 +66,4 @@ CheckRecorder::TakenUp& CheckRecorder::takenUp(const UdDbObject& element) {
     return *m_last;
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -2,9 +2,9 @@
 
 #include <string>
 
-namespace firecheck {
+namespace firestandard {
 
 /// A small number as a sentence has it: "three"; in digits from ten on.
 std::string numberWord(int number);
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,17 +1,14 @@
-#include "check/judged_rules.h"
+#include "explain/judged_rules.h"
 
 #include "evaluators/rule_catalogue.h"
-#include "rules/rule_fields.h"
-#include "rules/rule_wording.h"
+#include "explain/rule_text_fields.h"
+#include "explain/rule_wording.h"
 
 #include <algorithm>
 #include <set>
 #include <vector>
 
-namespace firecheck {
-
-using firestandard::NotJudged;
-using firestandard::RuleRow;
+namespace firestandard {
 
 namespace {
 
@@ -22,7 +19,7 @@ bool haveSameTexts(const NuxStandardCheckRule& a, const NuxStandardCheckRule& b)
 }
 
 JudgedRule::Verdict verdictOf(const JudgedRule& judged, const RuleRun* run) {
-    if (!firestandard::isJudged(judged.rule))
+    if (!isJudged(judged.rule))
         return JudgedRule::Verdict::NoEvaluator;
     const bool isAbsenceRule = judged.rule.type == QLatin1String("without");
     return judged.violations > 0 || isAbsenceRule || (run && run->judged > 0)
@@ -37,7 +34,7 @@ std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
     if (end != run.unjudged.end())
         return "ended at #" + std::to_string(end->element) +
                ", to which no box has a measurable distance; what follows it in the drawing was not judged";
-    const RuleRow* row = firestandard::findRule(rule.name, rule.type);
+    const RuleRow* row = findRule(rule.name, rule.type);
     const bool hasFound = run.judged > 0 || !run.unjudged.empty();
     return row && hasFound ? findRuleWording(row->name)->note : std::string();
 }
@@ -88,7 +85,7 @@ const RuleRun* RuleRuns::of(const NuxStandardCheckRule& rule) const {
     return number == RuleNumbers::kUnknown ? nullptr : &m_runs[m_first[number]];
 }
 
-std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& runs,
+std::vector<JudgedRule> judgedRules(const CheckReport& report, const RuleRuns& runs,
                                     const std::vector<NuxStandardCheckRule>& rules) {
     RuleNumbers numbers;
     std::vector<JudgedRule> result;
@@ -117,4 +114,4 @@ std::vector<JudgedRule> judgedRules(const SiteReport& report, const RuleRuns& ru
     return result;
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -1,8 +1,8 @@
-#include "report/measure_text.h"
+#include "explain/measure_text.h"
 
 #include <QString>
 
-namespace firecheck {
+namespace firestandard {
 
 namespace {
 
@@ -43,4 +43,4 @@ std::string limitText(const Measure& measure) {
     return text;
 }
 
-} // namespace firecheck
+} // namespace firestandard

@@ -8,19 +8,19 @@
 #include <unordered_map>
 #include <vector>
 
-namespace firecheck {
+namespace firestandard {
 
 /// A measured comparison that takes part in a violation.
 struct Offence {
     long long element = 0;
     long long other = 0; ///< 0 for an element judged by itself
-    firestandard::Measurement measurement;
-    std::optional<firestandard::Contact> contact; ///< nothing when the rule took the distance for granted
+    Measurement measurement;
+    std::optional<Contact> contact; ///< nothing when the rule took the distance for granted
 };
 
 struct UnjudgedElement {
     long long element = 0;
-    firestandard::NotJudged why;
+    NotJudged why;
 };
 
 /// What one rule looked at during a check.
@@ -35,10 +35,10 @@ struct RuleRun {
 
 /// Watches a check as long as it lives. Of what it is told it keeps what reports name, so that it needs no
 /// more memory than the results.
-class CheckRecorder : public firestandard::CheckObserver {
+class CheckRecorder : public CheckObserver {
 public:
-    CheckRecorder() { firestandard::setCheckObserver(this); }
-    ~CheckRecorder() override { firestandard::setCheckObserver(nullptr); }
+    CheckRecorder() { setCheckObserver(this); }
+    ~CheckRecorder() override { setCheckObserver(nullptr); }
     CheckRecorder(const CheckRecorder&) = delete;
     CheckRecorder& operator=(const CheckRecorder&) = delete;
 
@@ -47,14 +47,14 @@ public:
 
     void beginRule(const NuxStandardCheckRule& rule) override;
     void endRule() override;
-    void compared(const firestandard::Comparison& comparison) override;
-    void notJudged(const UdDbObject& element, firestandard::NotJudged why) override;
-    void pairNotJudged(const UdDbObject&, const UdDbObject&, firestandard::NotJudged) override {}
+    void compared(const Comparison& comparison) override;
+    void notJudged(const UdDbObject& element, NotJudged why) override;
+    void pairNotJudged(const UdDbObject&, const UdDbObject&, NotJudged) override {}
 
 private:
     struct TakenUp {
         bool isJudged = false;
-        std::optional<firestandard::NotJudged> why;
+        std::optional<NotJudged> why;
     };
 
     TakenUp& takenUp(const UdDbObject& element);
@@ -67,4 +67,4 @@ private:
     std::chrono::steady_clock::time_point m_begin;
 };
 
-} // namespace firecheck
+} // namespace firestandard

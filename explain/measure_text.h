@@ -1,10 +1,10 @@
 #pragma once
 
-#include "report/Finding.h"
+#include "explain/Finding.h"
 
 #include <string>
 
-namespace firecheck {
+namespace firestandard {
 
 /// The measured value with its unit, "4.20 m" or "312.00 m²": two decimals, and as many more as it takes to
 /// tell it from a limit that it is not.
@@ -13,4 +13,4 @@ std::string valueText(const Measure& measure);
 /// What the rule asks for: "at least 7.00 m", "at most 300.00 m²", or both limits.
 std::string limitText(const Measure& measure);
 
-} // namespace firecheck
+} // namespace firestandard

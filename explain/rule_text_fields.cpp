@@ -1,6 +1,6 @@
-#include "rules/rule_fields.h"
+#include "explain/rule_text_fields.h"
 
-namespace firecheck {
+namespace firestandard {
 
 const std::array<RuleTextField, 13>& ruleTextFields() {
     using Rule = NuxStandardCheckRule;
@@ -22,11 +22,4 @@ const std::array<RuleTextField, 13>& ruleTextFields() {
     return fields;
 }
 
-Json ruleTexts(const NuxStandardCheckRule& rule) {
-    Json texts;
-    for (const auto& [name, member] : ruleTextFields())
-        texts[name] = (rule.*member).toStdString();
-    return texts;
-}
-
-} // namespace firecheck
+} // namespace firestandard
