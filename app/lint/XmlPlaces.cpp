@@ -41,18 +41,21 @@ Place XmlPlaces::placeOfToken(qint64 offset) const {
 }
 
 std::vector<Place> XmlPlaces::attributePlaces(qint64 tagOffset, qint64 tagEnd) const {
+    // Not from tokenStart: the reader may stand behind the name already, which is where blanks are.
+    const int start = static_cast<int>(std::clamp<qint64>(tagOffset, 1, m_text.size()));
     const int end = static_cast<int>(std::clamp<qint64>(tagEnd, 0, m_text.size()));
     std::vector<Place> places;
     int nameStart = -1;
-    for (int at = tokenStart(tagOffset) + 1; at < end; ++at) {
+    for (int at = start; at < end; ++at) {
         const QChar character = m_text[at];
         if (character == '"' || character == '\'') {
-            places.push_back(placeAt(nameStart));
+            if (nameStart >= 0)
+                places.push_back(placeAt(nameStart));
             at = m_text.indexOf(character, at + 1);
             if (at < 0)
                 break;
             nameStart = -1;
-        } else if (nameStart < 0 && at > 0 && !character.isSpace() && m_text[at - 1].isSpace()) {
+        } else if (nameStart < 0 && character != '<' && !character.isSpace() && m_text[at - 1].isSpace()) {
             nameStart = at;
         }
     }
