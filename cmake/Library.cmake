@@ -44,7 +44,8 @@ set(explaining_sources
     explain/record_measures.cpp
     explain/rule_text_fields.cpp
     explain/rule_wording.cpp
-    explain/sentence.cpp)
+    explain/sentence.cpp
+    explain/unjudged_reason.cpp)
 
 get_filename_component(library_root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
 list(TRANSFORM library_sources PREPEND ${library_root}/)

@@ -1,6 +1,7 @@
 #include "explain/CheckRecorder.h"
 
 #include "cad/UdDbObject.h"
+#include "explain/unjudged_reason.h"
 
 #include <algorithm>
 
@@ -12,6 +13,18 @@ long long handleOf(const UdDbObject& object) {
     return object.Handle().GetID();
 }
 
+constexpr double kFarthest = 99999999999.0; ///< what evaluators measure beyond it counts as no distance
+
+/// Whether the limits would be broken by some value that could have been measured.
+bool canOffend(const Comparison& comparison) {
+    if (comparison.offends || !comparison.measurement)
+        return true;
+    const Measurement& told = *comparison.measurement;
+    const bool isTakenForGranted = told.quantity == Quantity::Distance && !comparison.contact;
+    return !isTakenForGranted &&
+           ((told.minimum && *told.minimum > 0.0) || (told.maximum && *told.maximum < kFarthest));
+}
+
 } // namespace
 
 void CheckRecorder::beginRule(const NuxStandardCheckRule& rule) {
@@ -19,6 +32,7 @@ void CheckRecorder::beginRule(const NuxStandardCheckRule& rule) {
     m_runs.back().rule = rule;
     m_takenUp.clear();
     m_order.clear();
+    m_unfit.clear();
     m_last = nullptr;
     m_begin = std::chrono::steady_clock::now();
 }
@@ -27,21 +41,27 @@ void CheckRecorder::endRule() {
     RuleRun& run = m_runs.back();
     run.time = std::chrono::steady_clock::now() - m_begin;
     for (const long long handle : m_order) {
-        const TakenUp& element = m_takenUp[handle];
+        TakenUp& element = m_takenUp[handle];
         if (element.isJudged)
             ++run.judged;
         else if (element.why)
-            run.unjudged.push_back({handle, *element.why});
+            run.unjudged.push_back({handle, *element.why, std::move(element.reason)});
     }
     std::stable_sort(run.offences.begin(), run.offences.end(),
                      [](const Offence& a, const Offence& b) { return a.element < b.element; });
 }
 
 void CheckRecorder::compared(const Comparison& comparison) {
-    takenUp(comparison.element).isJudged = true;
+    TakenUp& element = takenUp(comparison.element);
+    if (!element.isJudged)
+        m_compared.insert(handleOf(comparison.element));
+    element.isJudged = true;
+    if (comparison.other)
+        m_compared.insert(handleOf(*comparison.other));
+    RuleRun& run = m_runs.back();
+    run.canOffend = run.canOffend || canOffend(comparison);
     if (!comparison.measurement)
         return;
-    RuleRun& run = m_runs.back();
     if (comparison.other && comparison.measurement->quantity == Quantity::Distance)
         ++run.pairCount;
     if (comparison.offends)
@@ -51,7 +71,17 @@ void CheckRecorder::compared(const Comparison& comparison) {
 }
 
 void CheckRecorder::notJudged(const UdDbObject& element, NotJudged why) {
-    takenUp(element).why = why;
+    TakenUp& taken = takenUp(element);
+    if (taken.why != why && isLeftOut(why))
+        taken.reason = unjudgedReason(element, why);
+    taken.why = why;
+}
+
+void CheckRecorder::pairNotJudged(const UdDbObject&, const UdDbObject& other, NotJudged why) {
+    RuleRun& run = m_runs.back();
+    run.neverMeasuredPairs += why == NotJudged::NeverMeasured;
+    if (isLeftOut(why) && m_unfit.insert(handleOf(other)).second)
+        run.unfit.push_back({handleOf(other), why, unjudgedReason(other, why)});
 }
 
 CheckRecorder::TakenUp& CheckRecorder::takenUp(const UdDbObject& element) {

@@ -10,21 +10,18 @@ std::size_t CheckReport::acceptedCount() const {
                       [](const Finding& finding) { return finding.acceptedBecause.has_value(); }));
 }
 
+std::size_t CheckReport::unjudgedCount() const {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < unjudged.size(); ++i)
+        count += i == 0 || unjudged[i].handle != unjudged[i - 1].handle;
+    return count;
+}
+
 const ElementLabel* CheckReport::element(long long handle) const {
     const auto found =
         std::lower_bound(elements.begin(), elements.end(), handle,
                          [](const ElementLabel& label, long long wanted) { return label.handle < wanted; });
     return found != elements.end() && found->handle == handle ? &*found : nullptr;
-}
-
-std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStandardCheckRule& record) {
-    std::vector<long long> handles;
-    for (const Measure& measure : finding.measures)
-        if (measure.kind == Measure::Kind::Distance)
-            handles.push_back(measure.other);
-    if (handles.size() < record.relatedHandles.size())
-        handles.assign(record.relatedHandles.begin(), record.relatedHandles.end());
-    return handles;
 }
 
 } // namespace firestandard

@@ -42,8 +42,17 @@ struct JudgedRule {
     std::size_t pairs = 0;                     ///< pairs of elements compared by distance
     std::size_t offending = 0;                 ///< elements that break the rule
     std::size_t violations = 0;                ///< records, those about the site as a whole included
-    std::string note;                          ///< what else there is to know of this judgement; mostly empty
+    bool canOffend = true; ///< false where no value that was compared could break the limits as written
+    std::size_t neverMeasuredPairs = 0; ///< pairs of types that the library has no measure for
+    std::string note;                   ///< what else there is to know of this judgement; mostly empty
     std::chrono::nanoseconds time{0};
+};
+
+/// An element that rules took up and left out, because it is unfit or because they ended before it.
+struct UnjudgedElement {
+    long long handle = 0;
+    std::string reason;         ///< after its name: "its depth is not above 0"
+    std::vector<QString> rules; ///< names, in the order in which they were run
 };
 
 /// A rule or an object that was passed over, and why.
@@ -60,9 +69,11 @@ struct CheckReport {
 
     std::vector<Finding> findings;      ///< one for each record, rule by rule in the order of `counts`
     std::vector<RuleCount> counts;      ///< rules with violations, in the order of the rule map
-    std::vector<ElementLabel> elements; ///< those that the results name, by ascending handle
+    std::vector<ElementLabel> elements; ///< those named by what follows or the results, by ascending handle
     std::vector<JudgedRule> judged;     ///< in the order of the rule map
+    std::vector<UnjudgedElement> unjudged; ///< by ascending handle, those of one reason together
     std::vector<PassedOver> notJudged;
+    std::vector<ElementLabel> judgedByNoRule; ///< elements that no rule compared, in the order of the drawing
 
     std::size_t violationCount() const { return findings.size(); }
     std::size_t acceptedCount() const;
@@ -71,12 +82,11 @@ struct CheckReport {
         return results[finding.entry].second[finding.index];
     }
 
+    /// How many elements are left out by some rule.
+    std::size_t unjudgedCount() const;
+
     /// Null for a handle that no element of the report has.
     const ElementLabel* element(long long handle) const;
 };
-
-/// The elements that a finding relates to: from the nearest on where their distances are known, else in the
-/// order of the record.
-std::vector<long long> relatedFromNearest(const Finding& finding, const NuxStandardCheckRule& record);
 
 } // namespace firestandard

@@ -33,15 +33,32 @@ struct Measure {
     std::optional<Points> points;
 };
 
+/// That a violation was accepted at a value than which it has got worse.
+struct Outgrown {
+    double value = 0.0; ///< as a Measure has it
+    std::string reason;
+};
+
+/// Reports tell this many of what a violation relates to, and count the others: a rule may relate one element
+/// to every box of a large site.
+inline constexpr std::size_t kMostTold = 5;
+
 /// One record of the results with what a planner needs to act on it.
 struct Finding {
     // Which record of the results it is about.
     std::size_t entry = 0;
     std::size_t index = 0;
 
-    std::vector<Measure> measures; ///< distances from the nearest on
-    std::string sentence;          ///< what is wrong, as a planner would say it; UTF-8, names as given
+    std::vector<Measure> measures; ///< distances from the nearest on, the first kMostTold
+    std::size_t measureCount = 0;  ///< of all, told or not
+    std::vector<long long>
+        related; ///< handles from the nearest on, or as the record has them; the first kMostTold
+    std::size_t relatedCount = 0; ///< of all, told or not
+    std::string sentence;         ///< what is wrong, as a planner would say it; UTF-8, names as given
+
+    // Set by whoever keeps what was accepted.
     std::optional<std::string> acceptedBecause;
+    std::optional<Outgrown> outgrown;
 };
 
 } // namespace firestandard

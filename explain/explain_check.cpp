@@ -10,6 +10,7 @@
 #include "explain/judged_rules.h"
 #include "explain/record_measures.h"
 #include "explain/sentence.h"
+#include "explain/unjudged_reason.h"
 #include "rules_config/NUXRuleConfigFile.h"
 #include "site/current_model_space.h"
 #include "site/model_space_walk.h"
@@ -30,7 +31,7 @@ public:
     AskingRecorder(const CheckProgress& goOn, std::size_t rules) : m_goOn(goOn), m_rules(rules) {}
 
     void beginRule(const NuxStandardCheckRule& rule) override {
-        if (m_goOn && !m_goOn(m_judged, m_rules))
+        if (m_goOn && !m_goOn({m_judged, m_rules, rule}))
             throw GivenUp();
         ++m_judged;
         CheckRecorder::beginRule(rule);
@@ -72,29 +73,70 @@ std::set<long long> namedHandles(const CheckReport& report) {
             handles.insert(record.relatedHandles.begin(), record.relatedHandles.end());
         }
     }
+    for (const UnjudgedElement& element : report.unjudged)
+        handles.insert(element.handle);
     handles.erase(0);
     return handles;
+}
+
+ElementLabel labelOf(long long handle, const UdDbObject* object, const NameOfElement& nameOf) {
+    ElementLabel label;
+    label.handle = handle;
+    if (object) {
+        label.identifier = elementIdentifier(*object);
+        label.noun = elementNoun(*object);
+    }
+    if (nameOf)
+        label.name = nameOf(handle);
+    return label;
 }
 
 std::vector<ElementLabel> labels(const CheckReport& report, const UdDbBlock& modelSpace,
                                  const NameOfElement& nameOf) {
     std::map<long long, ElementLabel> labels;
-    for (const long long handle : namedHandles(report)) {
-        ElementLabel& label = labels[handle];
-        label.handle = handle;
-        if (nameOf)
-            label.name = nameOf(handle);
-    }
+    for (const long long handle : namedHandles(report))
+        labels[handle] = labelOf(handle, nullptr, nameOf);
     walkModelSpace(modelSpace, [&](const UdDbObject* object) {
         const auto named = object ? labels.find(object->Handle().GetID()) : labels.end();
-        if (named == labels.end())
-            return;
-        named->second.identifier = elementIdentifier(*object);
-        named->second.noun = elementNoun(*object);
+        if (named != labels.end())
+            named->second = labelOf(named->first, object, nameOf);
     });
     std::vector<ElementLabel> result;
     for (auto& entry : labels)
         result.push_back(std::move(entry.second));
+    return result;
+}
+
+/// Each element with each reason once, with the rules that left it out for it.
+std::vector<UnjudgedElement> unjudgedElements(const std::vector<NuxStandardCheckRule>& rules,
+                                              const RuleRuns& runs) {
+    std::map<std::pair<long long, std::string>, std::vector<QString>> byElement;
+    const auto add = [&](const NuxStandardCheckRule& rule, const Unjudged& element) {
+        std::vector<QString>& names = byElement[{element.element, element.reason}];
+        if (names.empty() || names.back() != rule.name)
+            names.push_back(rule.name);
+    };
+    for (const NuxStandardCheckRule& rule : rules) {
+        const RuleRun* run = runs.of(rule);
+        for (const auto* list : {run ? &run->unjudged : nullptr, run ? &run->unfit : nullptr})
+            for (std::size_t i = 0; list && i < list->size(); ++i)
+                if (isLeftOut((*list)[i].why))
+                    add(rule, (*list)[i]);
+    }
+    std::vector<UnjudgedElement> result;
+    for (auto& [element, names] : byElement)
+        result.push_back({element.first, element.second, std::move(names)});
+    return result;
+}
+
+std::vector<ElementLabel> judgedByNoRule(const CheckRecorder& recorder, const UdDbBlock& modelSpace,
+                                         const NameOfElement& nameOf) {
+    std::vector<ElementLabel> result;
+    walkModelSpace(modelSpace, [&](const UdDbObject* object) {
+        const long long handle = object ? object->Handle().GetID() : 0;
+        if (object && !recorder.hasCompared(handle))
+            result.push_back(labelOf(handle, object, nameOf));
+    });
     return result;
 }
 
@@ -117,6 +159,21 @@ std::vector<RuleCount> countsByRule(const CheckReport& report,
     return counts;
 }
 
+/// Leaves the nearest and the numbers of all.
+void tellNearest(Finding& finding, const NuxStandardCheckRule& record) {
+    finding.measureCount = finding.measures.size();
+    finding.relatedCount = record.relatedHandles.size();
+    for (const Measure& measure : finding.measures)
+        if (measure.kind == Measure::Kind::Distance)
+            finding.related.push_back(measure.other);
+    if (finding.related.size() < finding.relatedCount)
+        finding.related.assign(record.relatedHandles.begin(), record.relatedHandles.end());
+    finding.related.resize(std::min(finding.related.size(), kMostTold));
+    finding.related.shrink_to_fit();
+    finding.measures.resize(std::min(finding.measures.size(), kMostTold));
+    finding.measures.shrink_to_fit();
+}
+
 std::vector<Finding> findings(const CheckReport& report, const RuleRuns& runs) {
     std::map<QString, std::size_t> rankOfRule;
     for (std::size_t i = 0; i < report.counts.size(); ++i)
@@ -133,6 +190,7 @@ std::vector<Finding> findings(const CheckReport& report, const RuleRuns& runs) {
             if (const RuleRun* run = runs.of(record))
                 finding.measures = recordMeasures(record, *run);
             finding.sentence = sentenceOf(report, record, finding.measures);
+            tellNearest(finding, record);
             result.push_back(std::move(finding));
         }
     }
@@ -160,6 +218,7 @@ CheckReport explained(NuxFireStandardCheck& engine, const RuleRuns& runs,
     report.results = entries(engine.getMapRules());
     report.checkState = entries(engine.getMapRulesCheckState());
     report.counts = countsByRule(report, rules);
+    report.unjudged = unjudgedElements(rules, runs);
     report.elements = labels(report, modelSpace, nameOf);
     report.findings = findings(report, runs);
     report.judged = judgedRules(report, runs, rules);
@@ -182,7 +241,9 @@ std::optional<CheckReport> explainCheck(const NameOfElement& nameOf, const Check
     } catch (const GivenUp&) {
         return std::nullopt;
     }
-    return explained(engine, RuleRuns(recorder.takeRuns()), rules, *modelSpace, nameOf);
+    CheckReport report = explained(engine, RuleRuns(recorder.takeRuns()), rules, *modelSpace, nameOf);
+    report.judgedByNoRule = judgedByNoRule(recorder, *modelSpace, nameOf);
+    return report;
 }
 
 } // namespace firestandard

@@ -11,9 +11,15 @@ namespace firestandard {
 /// What people call an element beside its kind, UTF-8; empty for one without a name.
 using NameOfElement = std::function<std::string(long long handle)>;
 
-/// Is told before each rule how many were judged and how many there are. A check goes on when it answers
-/// true.
-using CheckProgress = std::function<bool(std::size_t judged, std::size_t rules)>;
+/// How far a check has come.
+struct CheckStep {
+    std::size_t judged; ///< rules
+    std::size_t rules;  ///< in all
+    const NuxStandardCheckRule& next;
+};
+
+/// Is told before each rule. A check goes on when it answers true.
+using CheckProgress = std::function<bool(const CheckStep& step)>;
 
 /// Runs the check engine on the current document and explains what it found. Results and flags of the engine
 /// change as by DoCheck(). Nothing, with results and flags as they were, when there is no document with a

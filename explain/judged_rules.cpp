@@ -28,9 +28,8 @@ JudgedRule::Verdict verdictOf(const JudgedRule& judged, const RuleRun* run) {
 }
 
 std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
-    const auto end = std::find_if(run.unjudged.begin(), run.unjudged.end(), [](const UnjudgedElement& one) {
-        return one.why == NotJudged::NoBoxMeasurable;
-    });
+    const auto end = std::find_if(run.unjudged.begin(), run.unjudged.end(),
+                                  [](const Unjudged& one) { return one.why == NotJudged::NoBoxMeasurable; });
     if (end != run.unjudged.end())
         return "ended at #" + std::to_string(end->element) +
                ", to which no box has a measurable distance; what follows it in the drawing was not judged";
@@ -42,13 +41,15 @@ std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
 /// Elements of another use are not what the rule is about.
 void takeFrom(const RuleRun& run, JudgedRule& judged) {
     judged.found = run.judged;
-    for (const UnjudgedElement& element : run.unjudged) {
+    for (const Unjudged& element : run.unjudged) {
         if (element.why == NotJudged::OtherUse)
             continue;
         ++judged.found;
         ++judged.unjudged[element.why];
     }
     judged.pairs = run.pairCount;
+    judged.canOffend = run.canOffend || run.judged == 0;
+    judged.neverMeasuredPairs = run.neverMeasuredPairs;
     judged.time = run.time;
     judged.note = noteOf(judged.rule, run);
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cmath>
+
 namespace firestandard {
 
 namespace {
@@ -10,7 +12,9 @@ constexpr int kFewestDecimals = 2;
 constexpr int kMostDecimals = 8; // a distance is known to 1e-8 m
 
 QString rounded(double value, int decimals) {
-    return QString::number(value, 'f', decimals);
+    constexpr double kBeyondAnySite = 1e9;
+    return std::abs(value) < kBeyondAnySite ? QString::number(value, 'f', decimals)
+                                            : QString::number(value, 'g');
 }
 
 /// Both limits and the value are written alike.

@@ -1,6 +1,7 @@
 #include "explain/record_measures.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace firestandard {
 
@@ -26,6 +27,12 @@ std::optional<Measure::Kind> kindOf(Quantity quantity) {
     return std::nullopt;
 }
 
+/// A rule file may ask for more than a number holds.
+double finite(double value) {
+    constexpr double most = std::numeric_limits<double>::max();
+    return std::clamp(value, -most, most);
+}
+
 Measure measureOf(const Offence& offence, Measure::Kind kind) {
     const double scale = kind == Measure::Kind::Area ? 1.0 : kMetresPerMillimetre;
     const auto& told = offence.measurement;
@@ -34,9 +41,9 @@ Measure measureOf(const Offence& offence, Measure::Kind kind) {
     measure.other = offence.other;
     measure.value = told.value * scale;
     if (told.minimum)
-        measure.minimum = *told.minimum * scale;
+        measure.minimum = finite(*told.minimum * scale);
     if (told.maximum)
-        measure.maximum = *told.maximum * scale;
+        measure.maximum = finite(*told.maximum * scale);
     if (offence.contact)
         measure.points =
             Measure::Points{inMetres(offence.contact->onFirst), inMetres(offence.contact->onSecond)};

@@ -174,13 +174,19 @@ std::string knownSentence(const Subject& subject) {
 
 } // namespace
 
+std::string labelPhrase(const ElementLabel& label) {
+    const std::string noun = label.noun.empty() ? "element" : label.noun;
+    const std::string phrase = noun + " " + std::to_string(label.handle);
+    const bool saysMore =
+        !label.name.empty() && QString::fromStdString(label.name).toLower().toStdString() != noun;
+    return saysMore ? phrase + " \"" + label.name + "\"" : phrase;
+}
+
 std::string elementPhrase(const CheckReport& report, long long handle) {
+    if (handle == 0)
+        return "an element that the drawing does not have";
     const ElementLabel* element = report.element(handle);
-    const std::string noun = element && !element->noun.empty() ? element->noun : "element";
-    const std::string phrase = noun + " " + std::to_string(handle);
-    const bool saysMore = element && !element->name.empty() &&
-                          QString::fromStdString(element->name).toLower().toStdString() != noun;
-    return saysMore ? phrase + " \"" + element->name + "\"" : phrase;
+    return element ? labelPhrase(*element) : "element " + std::to_string(handle);
 }
 
 std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,

@@ -9,7 +9,10 @@ namespace firestandard {
 std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,
                        const std::vector<Measure>& measures);
 
-/// 'dormitory 413 "Row C"', or "element 413" where nothing is known of it.
+/// 'dormitory 413 "Row C"'.
+std::string labelPhrase(const ElementLabel& label);
+
+/// The same; "element 413" where nothing is known of it.
 std::string elementPhrase(const CheckReport& report, long long handle);
 
 } // namespace firestandard

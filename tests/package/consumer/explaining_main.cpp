@@ -26,7 +26,7 @@ int main(int, char** arguments) {
     document->Database()->append(std::make_unique<NUXRoadObject>(road), 7);
     std::size_t asked = 0;
     const auto report = explainCheck([](long long) { return "North road"; },
-                                     [&asked](std::size_t judged, std::size_t) { return judged == asked++; });
+                                     [&asked](const CheckStep& step) { return step.judged == asked++; });
     std::cout << (asked == rules.ruleCount) << '\n';
     for (const Finding& finding : report->findings)
         if (report->record(finding).handle == 7)
@@ -35,6 +35,6 @@ int main(int, char** arguments) {
     auto& results = NUXCheck::instance()->getMapRules();
     const int before = results.size();
     document->Database()->append(std::make_unique<NUXRoadObject>(road), 8);
-    std::cout << explainCheck({}, [](std::size_t judged, std::size_t) { return judged < 5; }).has_value()
+    std::cout << explainCheck({}, [](const CheckStep& step) { return step.judged < 5; }).has_value()
               << (results.size() == before && !results.contains("8")) << '\n';
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "evaluators/CheckObserver.h"
+
+#include <string>
+
+class UdDbObject;
+
+namespace firestandard {
+
+/// Why an element was not judged, after its name: "its depth is 0", "its outline crosses itself: the edge
+/// from corner 2 to 3 crosses that from 4 to 1". Corners count from 1 as the host gives them.
+std::string unjudgedReason(const UdDbObject& element, NotJudged why);
+
+/// Whether the element is unfit or was left out, rather than of no concern to the rule, as a cable that lies
+/// on the ground or an element of another use.
+bool isLeftOut(NotJudged why);
+
+} // namespace firestandard
