@@ -2,28 +2,44 @@
 
 #include "report/SiteReport.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace firecheck {
 
 /// A violation that somebody answers for: known by its rule and the elements concerned, so that it stays
-/// accepted while things are moved about.
+/// accepted while things are moved about, as long as it does not get worse.
 struct Acceptance {
+    std::string site; ///< its file, with or without directories; empty for the one site that is checked
     std::string rule;
     std::vector<long long> handles; ///< ascending; none for a violation of the site as a whole
     std::string reason;
+    std::optional<double> value; ///< that of the violation when it was accepted, of a distance the nearest
 };
 
-/// Reads a file of accepted violations: {"accepted": [{"rule": ..., "handles": ["413", "414"], "reason":
-/// ...}]}. Every entry needs a reason. Throws InputError for anything else.
-std::vector<Acceptance> loadAcceptances(const std::string& fileName);
+/// Reads a file of accepted violations: {"accepted": [{"rule": ..., "handles": ["413", "414"], "reason": ...,
+/// "value": 3.5}]}. Every entry needs a reason, and its site where `needSites`; value is optional. Throws
+/// InputError for anything else, and for two entries about one violation.
+std::vector<Acceptance> loadAcceptances(const std::string& fileName, bool needSites);
 
-/// Marks the findings that are accepted, and lists the acceptances that no finding matches as stale.
+/// Marks the findings that are accepted, and those that have got worse since. Lists the acceptances of this
+/// site that no finding matches as stale.
 void acceptFindings(const std::vector<Acceptance>& acceptances, SiteReport& report);
 
-/// The text of such a file with an entry for every finding of the report, reasons as given so far; those
-/// still to be given are empty, which makes the file unreadable until somebody has given them.
-std::string acceptFileText(const SiteReport& report);
+/// What a new file of accepted violations says: the entries of the old one as they are, so that no reason is
+/// lost, and after them one without a reason for each further violation of the sites checked. Until somebody
+/// has given the reasons the file cannot be read.
+class AcceptFileText {
+public:
+    AcceptFileText(std::vector<Acceptance> acceptances, bool tellSites);
+
+    void add(const SiteReport& report);
+    std::string text() const;
+
+private:
+    std::vector<Acceptance> m_entries;
+    bool m_tellSites;
+};
 
 } // namespace firecheck

@@ -2,7 +2,6 @@
 
 #include "cad/UdApDocManager.h"
 #include "explain/element_noun.h"
-#include "explain/explain_check.h"
 #include "report/plan/plan_shapes.h"
 
 namespace firecheck {
@@ -74,15 +73,18 @@ std::vector<PlanShape> plan(const CurrentDocument& document, const Site& site) {
 
 } // namespace
 
-SiteReport checkSite(Site site, const std::string& fileName, const RuleMap&) {
+SiteReport checkSite(Site site, const std::string& fileName, const RuleMap&,
+                     const firestandard::CheckProgress& progress) {
     const CurrentDocument document(std::move(site.document));
     SiteReport report;
     static_cast<firestandard::CheckReport&>(report) =
-        firestandard::explainCheck([&](long long handle) { return nameOf(site, handle); }).value();
+        firestandard::explainCheck([&](long long handle) { return nameOf(site, handle); }, progress).value();
     report.fileName = fileName;
     report.siteName = site.name;
     report.objectCount = document.objects().size();
     for (ElementLabel& label : report.elements)
+        complete(label, document, site);
+    for (ElementLabel& label : report.judgedByNoRule)
         complete(label, document, site);
     for (const auto& object : document.objects())
         if (!object->opens())

@@ -31,6 +31,9 @@ private:
 /// One JSON object: {"sites": [...]}, one entry for each site checked.
 std::unique_ptr<ReportWriter> jsonReportWriter(ReportWriter::Sink sink);
 
+/// The same but for the engine's two maps, whose size is that of all relations of all records.
+std::unique_ptr<ReportWriter> jsonReportWriterWithoutResults(ReportWriter::Sink sink);
+
 /// For people. With `coloured`, ANSI escape sequences set off what counts.
 std::unique_ptr<ReportWriter> textReportWriter(ReportWriter::Sink sink, bool coloured);
 

@@ -19,7 +19,8 @@ struct SiteReport : firestandard::CheckReport {
     std::string fileName;
     std::string siteName;
     std::size_t objectCount = 0;
-    std::vector<PlanShape> plan; ///< every element that can be drawn, in the order of the drawing
+    std::vector<PlanShape> plan;  ///< every element that can be drawn, in the order of the drawing
+    std::size_t leftOutRules = 0; ///< of the rule file, by a selection
     std::vector<std::string> staleAcceptances; ///< accepted violations that are no longer there
 };
 

@@ -1,4 +1,5 @@
 #include "report/ReportWriter.h"
+#include "report/unjudged_text.h"
 
 #include <QString>
 #include <QStringList>
@@ -71,7 +72,8 @@ QStringList measureCells(const Measure* measure) {
 const char* const kHead = "file,site,violation,rule,description,standard,sentence,accepted because,"
                           "handle,class,identifier,name,x (m),y (m),"
                           "related handle,related class,related identifier,related name,related x (m),"
-                          "related y (m),value,unit,at least,at most";
+                          "related y (m),value,unit,at least,at most,further related";
+constexpr int kColumns = 25;
 
 class CsvReportWriter : public ReportWriter {
 public:
@@ -83,6 +85,8 @@ public:
         long long number = 0;
         for (const Finding& finding : report.findings)
             writeFinding(report, finding, ++number);
+        for (const firestandard::UnjudgedElement& element : report.unjudged)
+            writeUnjudged(report, element);
     }
 
 private:
@@ -97,15 +101,37 @@ private:
                                              cell(finding.sentence),
                                              cell(finding.acceptedBecause.value_or(""))} +
                                  elementCells(report, record.handle);
-        std::vector<qint64> related = record.relatedHandles;
+        std::vector<long long> related = finding.related;
         if (related.empty())
             related.push_back(0);
-        for (const qint64 handle : related) {
-            const QStringList line =
-                head + elementCells(report, handle) + measureCells(measureOf(finding, handle));
-            write((line.join(',') + kLineEnd).toStdString());
-        }
+        const std::size_t others = finding.relatedCount - finding.related.size();
+        for (const long long handle : related)
+            writeLine(head + elementCells(report, handle) + measureCells(measureOf(finding, handle)) +
+                      QStringList{handle == related.back() && others > 0
+                                      ? cell(static_cast<long long>(others))
+                                      : QString()});
     }
+
+    /// Without a number: it is no violation, but the element's silence says nothing.
+    void writeUnjudged(const SiteReport& report, const firestandard::UnjudgedElement& element) const {
+        QStringList rules;
+        for (const QString& rule : element.rules)
+            rules << rule;
+        QStringList line{cell(report.fileName),
+                         cell(report.siteName),
+                         {},
+                         cell(rules.join("; ")),
+                         {},
+                         {},
+                         cell("not judged: " + unjudgedText(report, element)),
+                         {}};
+        line += elementCells(report, element.handle);
+        while (line.size() < kColumns)
+            line << QString();
+        writeLine(line);
+    }
+
+    void writeLine(const QStringList& cells) const { write((cells.join(',') + kLineEnd).toStdString()); }
 };
 
 } // namespace

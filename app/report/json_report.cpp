@@ -1,4 +1,5 @@
 #include "report/ReportWriter.h"
+#include "report/judgement_text.h"
 #include "rules/rule_texts.h"
 
 namespace firecheck {
@@ -44,9 +45,9 @@ Json countsJson(const SiteReport& report) {
     return counts;
 }
 
-Json elementsJson(const SiteReport& report) {
+Json labelsJson(const std::vector<ElementLabel>& labels) {
     Json elements = Json::array();
-    for (const ElementLabel& element : report.elements)
+    for (const ElementLabel& element : labels)
         elements.push_back({{"handle", decimal(element.handle)},
                             {"class", element.className},
                             {"identifier", element.identifier},
@@ -78,7 +79,7 @@ Json measureJson(const Measure& measure) {
 Json findingJson(const SiteReport& report, const Finding& finding) {
     const NuxStandardCheckRule& record = report.record(finding);
     Json related = Json::array();
-    for (const qint64 handle : record.relatedHandles)
+    for (const long long handle : finding.related)
         related.push_back(decimal(handle));
     Json measures = Json::array();
     for (const Measure& measure : finding.measures)
@@ -88,9 +89,13 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
             {"index", finding.index},
             {"handle", decimal(record.handle)},
             {"relatedHandles", std::move(related)},
+            {"relatedCount", finding.relatedCount},
             {"sentence", finding.sentence},
             {"measures", std::move(measures)},
-            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()}};
+            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()},
+            {"outgrown", finding.outgrown
+                             ? Json{{"value", finding.outgrown->value}, {"reason", finding.outgrown->reason}}
+                             : Json()}};
 }
 
 const char* verdictName(JudgedRule::Verdict verdict) {
@@ -115,6 +120,9 @@ Json judgedJson(const SiteReport& report) {
                           {"pairs", rule.pairs},
                           {"offending", rule.offending},
                           {"violations", rule.violations},
+                          {"outcome", judgementText(rule)},
+                          {"canOffend", rule.canOffend},
+                          {"neverMeasuredPairs", rule.neverMeasuredPairs},
                           {"note", rule.note}});
     return judged;
 }
@@ -126,6 +134,18 @@ Json notJudgedJson(const SiteReport& report) {
     return notJudged;
 }
 
+Json unjudgedJson(const SiteReport& report) {
+    Json unjudged = Json::array();
+    for (const firestandard::UnjudgedElement& element : report.unjudged) {
+        Json rules = Json::array();
+        for (const QString& rule : element.rules)
+            rules.push_back(rule.toStdString());
+        unjudged.push_back(
+            {{"handle", decimal(element.handle)}, {"reason", element.reason}, {"rules", std::move(rules)}});
+    }
+    return unjudged;
+}
+
 /// What stands before the records and what stands behind them.
 Json headJson(const SiteReport& report) {
     return {{"file", report.fileName},
@@ -133,14 +153,17 @@ Json headJson(const SiteReport& report) {
             {"objects", report.objectCount},
             {"violations", report.violationCount()},
             {"accepted", report.acceptedCount()},
+            {"notJudgedElements", report.unjudgedCount()},
+            {"leftOutRules", report.leftOutRules},
             {"countsByRule", countsJson(report)}};
 }
 
 Json tailJson(const SiteReport& report) {
-    return {{"checkState", checkStateJson(report)},
-            {"elements", elementsJson(report)},
+    return {{"elements", labelsJson(report.elements)},
             {"judged", judgedJson(report)},
+            {"unjudged", unjudgedJson(report)},
             {"notJudged", notJudgedJson(report)},
+            {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
             {"staleAcceptances", report.staleAcceptances}};
 }
 
@@ -165,7 +188,7 @@ std::string textOf(const Json& json, int indent) {
 /// Writes records one by one, because each may name every element of a large site.
 class JsonReportWriter : public ReportWriter {
 public:
-    using ReportWriter::ReportWriter;
+    JsonReportWriter(Sink sink, bool hasResults) : ReportWriter(std::move(sink)), m_hasResults(hasResults) {}
 
     void begin() override { write("{\n  \"sites\": ["); }
 
@@ -177,10 +200,13 @@ public:
         for (const Finding& finding : report.findings)
             writeItem(findingJson(report, finding), &finding == &report.findings.front());
         writeListEnd(report.findings.empty());
-        writeListStart("results");
-        for (const auto& entry : report.results)
-            writeItem(filedJson(entry.first, entry.second), &entry == &report.results.front());
-        writeListEnd(report.results.empty());
+        if (m_hasResults) {
+            writeListStart("results");
+            for (const auto& entry : report.results)
+                writeItem(filedJson(entry.first, entry.second), &entry == &report.results.front());
+            writeListEnd(report.results.empty());
+            writeMembers({{"checkState", checkStateJson(report)}}, ",");
+        }
         writeMembers(tailJson(report), ",");
         write(lineAt(kSiteIndent) + "}");
     }
@@ -206,13 +232,18 @@ private:
     }
     void writeListEnd(bool isEmpty) const { write(isEmpty ? "]" : lineAt(kMemberIndent) + "]"); }
 
+    bool m_hasResults;
     bool m_isFirst = true;
 };
 
 } // namespace
 
 std::unique_ptr<ReportWriter> jsonReportWriter(ReportWriter::Sink sink) {
-    return std::make_unique<JsonReportWriter>(std::move(sink));
+    return std::make_unique<JsonReportWriter>(std::move(sink), true);
+}
+
+std::unique_ptr<ReportWriter> jsonReportWriterWithoutResults(ReportWriter::Sink sink) {
+    return std::make_unique<JsonReportWriter>(std::move(sink), false);
 }
 
 } // namespace firecheck

@@ -1,15 +1,27 @@
 #include "report/judgement_text.h"
 
+#include "evaluators/rule_catalogue.h"
+
 namespace firecheck {
 
 using firestandard::NotJudged;
 
 namespace {
 
+/// Of violations that name no element. Those of gates are about one that the drawing does not have.
+std::string withoutElementText(const JudgedRule& judged) {
+    const firestandard::RuleRow* row = firestandard::findRule(judged.rule.name, judged.rule.type);
+    return row && row->test == firestandard::RuleTest::DoorToDoor
+               ? "a gate that is not in the drawing offends"
+               : "the site as a whole offends";
+}
+
 std::string offendersText(const JudgedRule& judged) {
     if (judged.offending > 0)
         return std::to_string(judged.offending) + (judged.offending == 1 ? " offends" : " offend");
-    return judged.violations > 0 ? "the site as a whole offends" : "none offends";
+    if (judged.violations > 0)
+        return withoutElementText(judged);
+    return judged.canOffend ? "none offends" : "none can offend as the rule is written";
 }
 
 /// Why elements were not judged: "on the ground".
@@ -69,7 +81,10 @@ std::string nothingJudgedText(const JudgedRule& judged) {
 }
 
 std::string judgedText(const JudgedRule& judged) {
-    const std::string text = std::to_string(judged.found) + " found, " + offendersText(judged);
+    const std::string text = std::to_string(judged.found) + " found, " + offendersText(judged) +
+                             (judged.neverMeasuredPairs > 0
+                                  ? ", " + std::to_string(judged.neverMeasuredPairs) + " pairs never measured"
+                                  : "");
     std::size_t unjudged = 0;
     for (const auto& entry : judged.unjudged)
         unjudged += entry.second;

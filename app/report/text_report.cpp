@@ -2,15 +2,12 @@
 #include "explain/sentence.h"
 #include "report/ReportWriter.h"
 #include "report/judgement_text.h"
+#include "report/unjudged_text.h"
 #include "text/printable.h"
-
-#include <algorithm>
 
 namespace firecheck {
 
 namespace {
-
-constexpr std::size_t kMostPlaced = 4; ///< elements whose place is told, the offending one included
 
 std::string shown(const QString& text) {
     return printable(text.toStdString());
@@ -37,6 +34,16 @@ std::string placeText(const SiteReport& report, long long handle) {
     return text;
 }
 
+/// What the head tells beside the violations: ", 2 accepted, 1 element not judged".
+std::string otherCounts(const SiteReport& report) {
+    const std::size_t accepted = report.acceptedCount();
+    const std::size_t unjudged = report.unjudgedCount();
+    return (accepted > 0 ? ", " + std::to_string(accepted) + " accepted" : std::string()) +
+           (unjudged > 0 ? ", " + counted(unjudged, "element") + " not judged" : std::string()) +
+           (report.leftOutRules > 0 ? ", " + counted(report.leftOutRules, "rule") + " left out"
+                                    : std::string());
+}
+
 class TextReportWriter : public ReportWriter {
 public:
     TextReportWriter(Sink sink, bool coloured) : ReportWriter(std::move(sink)), m_coloured(coloured) {}
@@ -47,11 +54,8 @@ public:
         writeHead(report);
         writeFindings(report);
         writeStale(report);
+        writeNotJudged(report);
         writeJudged(report);
-        if (!report.notJudged.empty())
-            write("\nNot judged\n");
-        for (const PassedOver& passedOver : report.notJudged)
-            write("  " + printable(passedOver.what) + ": " + printable(passedOver.reason) + "\n");
     }
 
 private:
@@ -63,14 +67,10 @@ private:
         const std::string title =
             printable(report.fileName) + (report.siteName.empty() ? "" : ": " + printable(report.siteName));
         write(emphasised(title, "1") + "\n" + counted(report.objectCount, "object") + ", ");
-        if (report.counts.empty()) {
-            write(emphasised("no violations", "32") + "\n");
-            return;
-        }
-        const std::size_t accepted = report.acceptedCount();
-        write(emphasised(counted(report.violationCount(), "violation"), "31") + " of " +
-              counted(report.counts.size(), "rule") +
-              (accepted > 0 ? ", " + std::to_string(accepted) + " accepted" : "") + "\n");
+        write((report.counts.empty() ? emphasised("no violations", "32")
+                                     : emphasised(counted(report.violationCount(), "violation"), "31") +
+                                           " of " + counted(report.counts.size(), "rule")) +
+              otherCounts(report) + "\n");
         for (const RuleCount& count : report.counts) {
             const std::string number = std::to_string(count.violations);
             const std::string padding(number.size() < 5 ? 5 - number.size() : 0, ' ');
@@ -103,16 +103,17 @@ private:
         write("  " + printable(finding.sentence) + "\n");
         if (finding.acceptedBecause)
             write("    accepted: " + printable(*finding.acceptedBecause) + "\n");
+        if (finding.outgrown)
+            write("    " + printable(outgrownText(finding)) + "\n");
 
-        std::vector<long long> handles = relatedFromNearest(finding, record);
+        std::vector<long long> handles = finding.related;
         if (record.handle != 0)
             handles.insert(handles.begin(), record.handle);
-        const std::size_t placed = std::min(handles.size(), kMostPlaced);
         std::string places;
-        for (std::size_t i = 0; i < placed; ++i)
+        for (std::size_t i = 0; i < handles.size(); ++i)
             places += (i == 0 ? "" : ", ") + placeText(report, handles[i]);
-        if (placed < handles.size())
-            places += " and " + std::to_string(handles.size() - placed) + " others";
+        if (finding.related.size() < finding.relatedCount)
+            places += " and " + counted(finding.relatedCount - finding.related.size(), "other");
         if (!places.empty())
             write("    " + places + "\n");
     }
@@ -122,6 +123,20 @@ private:
             write("\nAccepted before, but no longer there\n");
         for (const std::string& entry : report.staleAcceptances)
             write("  " + printable(entry) + "\n");
+    }
+
+    void writeNotJudged(const SiteReport& report) const {
+        if (!report.unjudged.empty() || !report.notJudged.empty())
+            write("\n" + emphasised("Not judged", "33") + "\n");
+        for (const firestandard::UnjudgedElement& element : report.unjudged)
+            write("  " + printable(unjudgedText(report, element)) + "\n    " +
+                  printable(unjudgedByText(element)) + "\n");
+        for (const PassedOver& passedOver : report.notJudged)
+            write("  " + printable(passedOver.what) + ": " + printable(passedOver.reason) + "\n");
+        if (!report.judgedByNoRule.empty())
+            write("\nJudged by no rule\n");
+        for (const ElementLabel& element : report.judgedByNoRule)
+            write("  " + printable(firestandard::labelPhrase(element)) + "\n");
     }
 
     void writeJudged(const SiteReport& report) const {

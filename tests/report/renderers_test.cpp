@@ -75,7 +75,7 @@ Counts countsOfCsv(const QString& csv) {
     QString previous;
     const auto rows = csvRows(csv);
     for (std::size_t i = 1; i < rows.size(); ++i) {
-        if (rows[i][2] != previous)
+        if (rows[i][2] != previous && !rows[i][2].isEmpty()) // without a number: an element not judged
             ++counts[rows[i][3]];
         previous = rows[i][2];
     }
@@ -86,7 +86,8 @@ Counts countsOfCsv(const QString& csv) {
 Counts countsOfText(const QString& text) {
     Counts counts;
     int all = 0;
-    const QString findings = text.section("\nWhat was judged", 0, 0);
+    const QString findings =
+        text.section(QRegularExpression("\\n(What was judged|Not judged|Judged by no rule)\\n"), 0, 0);
     const QRegularExpression head("^(\\w+) \\((\\d+)\\)", QRegularExpression::MultilineOption);
     for (auto match = head.globalMatch(findings); match.hasNext();) {
         const auto group = match.next();
@@ -216,24 +217,39 @@ TEST_F(Renderers, KeepNamesFromBecomingAnythingElse) {
     EXPECT_EQ(row.value(nameColumn + 1), "-4.5"); // a number stays one
 }
 
-TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStale) {
+Acceptance accepted(const char* rule, std::vector<long long> handles, const char* reason,
+                    std::optional<double> value = {}, const char* site = "") {
+    return {site, rule, std::move(handles), reason, value};
+}
+
+TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
     SiteReport report = checkExample("tower-site.json");
     const std::size_t all = report.violationCount();
-    acceptFindings({{"Distant_PrefabHouseToPrefabHouse", {413, 414}, "one group"},
-                    {"Self_RoadLoop", {}, "turning area"},
-                    {"Distant_PrefabHouseToPrefabHouse", {413}, "moved"},
-                    {"Self_RoadMinWidth", {413, 414}, "another rule"}},
-                   report);
+    const std::vector<Acceptance> entries{
+        accepted("Distant_PrefabHouseToPrefabHouse", {413, 414}, "one group", 3.5),
+        accepted("Self_RoadLoop", {}, "turning area"),
+        accepted("Distant_PrefabHouseToPrefabHouse", {413}, "moved"),
+        accepted("Self_RoadMinWidth", {413, 414}, "another rule"),
+        accepted("Self_PrefabHouseRoomArea", {402}, "a hall", 125.0),
+        accepted("Distant_PrefabHouseToWoodWorkingFactory", {404, 602}, "a wall between", 6.3),
+        accepted("Without_SmookingRoom", {}, "of another site", {}, "other.json"),
+        accepted("Self_RoadMinWidth", {1}, "also of another site", {}, "other.json")};
+    acceptFindings(entries, report);
     EXPECT_EQ(report.violationCount(), all);
     EXPECT_EQ(report.acceptedCount(), 2u);
     ASSERT_EQ(report.staleAcceptances.size(), 2u);
     EXPECT_EQ(report.staleAcceptances[0], "Distant_PrefabHouseToPrefabHouse #413: moved");
+    const QString text = rendered(report, plainTextWriter);
+    EXPECT_EQ(text.count("accepted at 125.00 m², but worse now: a hall"), 1);
+    EXPECT_EQ(text.count("accepted at 6.30 m, but worse now: a wall between"), 1);
 
-    const Json entries = Json::parse(acceptFileText(report))["accepted"];
-    EXPECT_EQ(entries.size(), all);
-    EXPECT_EQ(std::count_if(entries.begin(), entries.end(),
+    AcceptFileText fresh(entries, false);
+    fresh.add(report);
+    const Json written = Json::parse(fresh.text())["accepted"];
+    EXPECT_EQ(written.size(), all + 4) << "also those that match nothing keep their reasons";
+    EXPECT_EQ(std::count_if(written.begin(), written.end(),
                             [](const Json& entry) { return entry["reason"] != ""; }),
-              2);
+              std::ptrdiff_t(entries.size()));
 }
 
 } // namespace

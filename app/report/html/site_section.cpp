@@ -4,6 +4,7 @@
 #include "report/escape.h"
 #include "report/judgement_text.h"
 #include "report/plan/plan_svg.h"
+#include "report/unjudged_text.h"
 
 #include <QStringList>
 
@@ -12,8 +13,6 @@
 namespace firecheck {
 
 namespace {
-
-constexpr std::size_t kMostPlaced = 4; ///< elements of a finding whose place is shown at once
 
 QString counted(std::size_t count, const QString& noun) {
     return QString::number(count) + " " + noun + (count == 1 ? "" : "s");
@@ -49,7 +48,8 @@ public:
         put("<section class=\"site\" id=\"" + m_id + "\">\n" + header() + opened("div", ofClass("panes")) +
             planPane());
         writeListPane();
-        put("</div>\n" + element("div", ofClass("tables"), "\n" + judgedTable() + notJudgedTable()) +
+        put("</div>\n" +
+            element("div", ofClass("tables"), "\n" + notJudgedTable() + noRuleTable() + judgedTable()) +
             "</section>\n");
     }
 
@@ -63,6 +63,11 @@ private:
                                                           " of " + counted(m_report.counts.size(), "rule");
         if (accepted > 0)
             verdict += ", " + QString::number(accepted) + " accepted";
+        if (m_report.leftOutRules > 0)
+            verdict += ", " + counted(m_report.leftOutRules, "rule") + " left out";
+        const std::size_t unjudged = m_report.unjudgedCount();
+        if (unjudged > 0)
+            verdict += ", " + counted(unjudged, "element") + " not judged";
         const QString state = m_report.findings.empty() ? "verdict clean" : "verdict offending";
         return element(
             "header", {},
@@ -122,10 +127,10 @@ private:
 
     /// The offending element, then the others from the nearest on.
     std::vector<long long> concerned(const Finding& finding) const {
-        const NuxStandardCheckRule& record = m_report.record(finding);
-        std::vector<long long> handles = relatedFromNearest(finding, record);
-        if (record.handle != 0)
-            handles.insert(handles.begin(), record.handle);
+        std::vector<long long> handles = finding.related;
+        const long long offender = m_report.record(finding).handle;
+        if (offender != 0)
+            handles.insert(handles.begin(), offender);
         return handles;
     }
 
@@ -168,28 +173,25 @@ private:
                           "</a>\n";
         if (finding.acceptedBecause)
             content += element("p", ofClass("reason"), "Accepted: " + escaped(*finding.acceptedBecause));
-        return element("li", attributes, content + places(handles));
+        if (finding.outgrown)
+            content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
+        return element("li", attributes, content + places(finding));
     }
 
     /// What the plan turns to: the whole group, or of a long one the offender and what is nearest to it.
     static QStringList focus(const Finding& finding, const QStringList& all) {
-        const bool isLong = finding.measures.size() > 1 && all.size() > int(kMostPlaced);
+        const bool isLong = finding.measureCount > 1 && finding.relatedCount >= firestandard::kMostTold;
         return isLong ? QStringList(all.mid(0, 2)) : all;
     }
 
-    QString places(const std::vector<long long>& handles) const {
-        QString shown;
-        QString others;
-        for (std::size_t i = 0; i < handles.size(); ++i)
-            (i < kMostPlaced ? shown : others) += element("li", {}, placeText(handles[i]));
-        if (shown.isEmpty())
-            return {};
-        QString text = element("ul", ofClass("places"), "\n" + shown);
-        if (!others.isEmpty())
-            text += element("details", {},
-                            "<summary>and " + counted(handles.size() - kMostPlaced, "other") + "</summary>" +
-                                element("ul", ofClass("places"), "\n" + others));
-        return text;
+    QString places(const Finding& finding) const {
+        QString items;
+        for (const long long handle : concerned(finding))
+            items += element("li", {}, placeText(handle));
+        const std::size_t others = finding.relatedCount - finding.related.size();
+        if (others > 0)
+            items += element("li", {}, "and " + counted(others, "other"));
+        return items.isEmpty() ? items : element("ul", ofClass("places"), "\n" + items);
     }
 
     QString placeText(long long handle) const {
@@ -237,15 +239,31 @@ private:
     }
 
     QString notJudgedTable() const {
-        if (m_report.notJudged.empty())
-            return {};
+        const std::size_t count = m_report.unjudged.size() + m_report.notJudged.size();
         QString rows;
+        const auto row = [](const QString& what, const QString& by) {
+            return element("tr", {}, "<td>" + what + "</td><td>" + by + "</td>");
+        };
+        for (const firestandard::UnjudgedElement& unjudged : m_report.unjudged)
+            rows += row(asSentence(unjudgedText(m_report, unjudged)), escaped(unjudgedByText(unjudged)));
         for (const PassedOver& passedOver : m_report.notJudged)
-            rows += element("tr", {},
-                            "<td>" + escaped(passedOver.what) + "</td><td>" + escaped(passedOver.reason) +
-                                "</td>");
-        return element("details", {},
-                       "<summary>Not judged: " + QString::number(m_report.notJudged.size()) + "</summary>\n" +
+            rows += row(escaped(passedOver.what), escaped(passedOver.reason));
+        return count == 0 ? QString() : openTable("Not judged: " + QString::number(count), rows);
+    }
+
+    QString noRuleTable() const {
+        QString rows;
+        for (const ElementLabel& label : m_report.judgedByNoRule)
+            rows += element("tr", {}, "<td>" + escaped(firestandard::labelPhrase(label)) + "</td>");
+        return rows.isEmpty()
+                   ? rows
+                   : openTable("Judged by no rule: " + QString::number(m_report.judgedByNoRule.size()), rows);
+    }
+
+    /// Open from the start: what was not looked at must not be overlooked.
+    static QString openTable(const QString& summary, const QString& rows) {
+        return element("details", " open",
+                       "<summary>" + summary + "</summary>\n" +
                            element("div", ofClass("scroll"), "<table><tbody>\n" + rows + "</tbody></table>"));
     }
 

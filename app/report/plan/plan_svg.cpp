@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 
 namespace firecheck {
 
@@ -101,6 +102,8 @@ public:
     PlanDrawing(const SiteReport& report, PlanIds ids, bool hasList)
         : m_report(report), m_ids(std::move(ids)), m_hasList(hasList), m_frame(report.plan),
           m_ruleIndices(ruleIndices(report)) {
+        for (const firestandard::UnjudgedElement& element : report.unjudged)
+            m_unjudged.insert(element.handle);
         for (std::size_t i = 0; i < report.findings.size(); ++i) {
             const long long handle = report.record(report.findings[i]).handle;
             if (handle != 0)
@@ -139,11 +142,14 @@ private:
         const auto numbers = m_numbersByHandle.find(shape.handle);
         const bool offends = numbers != m_numbersByHandle.end();
         QString classes = QStringLiteral("element ") + kindClass(shape.kind);
+        if (m_unjudged.count(shape.handle) != 0)
+            classes += " unjudged";
         if (offends)
             classes += " offends " + colourOf(numbers->second.front());
         const QString handle = QString::number(shape.handle);
         const QString drawing = "<g class=\"" + classes + "\" id=\"" + m_ids.element(shape.handle) +
                                 "\" data-handle=\"" + handle + "\"><title>" + escaped(shape.title) +
+                                (m_unjudged.count(shape.handle) != 0 ? ", not judged" : "") +
                                 "</title><path d=\"" + pathData(shape, m_frame) + "\"/></g>";
         if (!offends || !m_hasList)
             return drawing + "\n";
@@ -289,6 +295,7 @@ private:
     const PlanFrame m_frame;
     const std::vector<std::size_t> m_ruleIndices;
     std::map<long long, std::vector<std::size_t>> m_numbersByHandle;
+    std::set<long long> m_unjudged;
 };
 
 } // namespace
