@@ -1,38 +1,33 @@
 #include "InputError.h"
 #include "command_line/Command.h"
 #include "command_line/Options.h"
+#include "command_line/Output.h"
 #include "command_line/commands.h"
 #include "command_line/safe_outputs.h"
 #include "text/use_utf8.h"
 
 #include <QCoreApplication>
 
-#include <cstdio>
 #include <exception>
 
 using namespace firecheck;
 
 namespace {
 
-int run(const QStringList& words) {
-    const QString command = words.value(0);
-    const QStringList rest = words.mid(1);
-    if (command == "--help" || command == "-h" || rest.contains("--help")) {
-        std::fputs(helpText().c_str(), stdout);
+int run(QStringList words) {
+    if (words.value(0) == "--version" || words.value(0) == "-V") {
+        Output output{QString()};
+        output.write("firecheck " FIRECHECK_VERSION "\n");
+        output.commit();
         return kNothingFound;
     }
-    if (command == "--version") {
-        std::puts("firecheck " FIRECHECK_VERSION);
-        return kNothingFound;
-    }
-    if (const Command* known = findCommand(command.toStdString())) {
-        const Options options(rest, *known);
-        requireSafeOutputs(options, *known);
-        return known->run(options);
-    }
-    throw InputError(
-        (command.isEmpty() ? "No command is given." : "No such command: \"" + command + "\".").toStdString() +
-        " Try \"firecheck --help\".");
+    // "firecheck check --help" asks what "firecheck help check" does.
+    if (words.removeAll("--help") + words.removeAll("-h") > 0)
+        words = QStringList("help") + words.mid(0, 1);
+    const Command& command = requiredCommand(words.value(0).toStdString());
+    const Options options(words.mid(1), command);
+    requireSafeOutputs(options, command);
+    return command.run(options);
 }
 
 } // namespace

@@ -1,24 +1,34 @@
 #include "command_line/AcceptOptions.h"
 
-#include "InputError.h"
 #include "command_line/Output.h"
 
 namespace firecheck {
 
-AcceptOptions::AcceptOptions(const Options& options) : m_target(options.value("write-accept")) {
+namespace {
+
+std::vector<Acceptance> given(const Options& options) {
     const auto source = options.value("accept");
-    if ((source || m_target) && options.arguments().size() > 1)
-        throw InputError("Accepted violations are those of one site: give one site file.");
-    if (source)
-        m_acceptances = loadAcceptances(source->toStdString());
+    return source ? loadAcceptances(source->toStdString(), options.arguments().size() > 1)
+                  : std::vector<Acceptance>();
 }
 
-void AcceptOptions::applyTo(SiteReport& report) const {
+} // namespace
+
+AcceptOptions::AcceptOptions(const Options& options)
+    : m_acceptances(given(options)), m_new(m_acceptances, options.arguments().size() > 1),
+      m_target(options.value("write-accept")) {}
+
+void AcceptOptions::applyTo(SiteReport& report) {
     acceptFindings(m_acceptances, report);
+    if (m_target)
+        m_new.add(report);
+}
+
+void AcceptOptions::write() const {
     if (!m_target)
         return;
     Output output(*m_target);
-    output.write(acceptFileText(report));
+    output.write(m_new.text());
     output.commit();
 }
 

@@ -7,17 +7,21 @@
 
 namespace firecheck {
 
-/// What --accept and --write-accept do with the report of the one site that they go with. Throws InputError
-/// for several sites, and for a file that cannot be used.
+/// What --accept and --write-accept do with the reports of the sites that they go with. Throws InputError for
+/// a file that cannot be used.
 class AcceptOptions {
 public:
     explicit AcceptOptions(const Options& options);
 
-    /// Marks what is accepted, and writes the file that is asked for.
-    void applyTo(SiteReport& report) const;
+    /// Marks what is accepted.
+    void applyTo(SiteReport& report);
+
+    /// Writes the file that is asked for, once all sites were looked at.
+    void write() const;
 
 private:
     std::vector<Acceptance> m_acceptances;
+    AcceptFileText m_new;
     std::optional<QString> m_target;
 };
 

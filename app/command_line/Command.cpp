@@ -8,37 +8,14 @@ namespace firecheck {
 
 namespace {
 
-constexpr std::size_t kWidestLine = 88;
-
-const CommandOption kRules{"rules", "FILE"};
-const CommandOption kOutput{"output", "FILE"};
+const CommandOption kRules{"rules", "FILE",
+                           "Judge by this rule file instead of the one that comes with the checker."};
+const CommandOption kOutput{
+    "output", "FILE",
+    "Write the result to this file, which takes the place of an older one only when all is written."};
 
 CommandOption format(const char* choice) {
-    return {"format", choice};
-}
-
-std::string usage(const Command& command) {
-    std::string text;
-    std::string line = std::string("  firecheck ") + command.name;
-    const auto append = [&](const std::string& word) {
-        if (line.size() + 1 + word.size() > kWidestLine) {
-            text += line + "\n";
-            line = std::string(7, ' ');
-        }
-        line += " " + word;
-    };
-    if (*command.arguments)
-        append(command.arguments);
-    for (const CommandOption& option : command.options)
-        append("[--" + std::string(option.name) + (*option.value ? " " : "") + option.value + "]");
-    return text + line + "\n";
-}
-
-std::string explanation(const Command& command) {
-    std::string text = "      ";
-    for (const char* character = command.explanation; *character; ++character)
-        text += *character == '\n' ? "\n      " : std::string(1, *character);
-    return text + "\n";
+    return {"format", choice, "The format of the result; the first one unless given."};
 }
 
 } // namespace
@@ -57,34 +34,62 @@ const std::vector<Command>& commands() {
          {kRules,
           format("text|json|csv|html"),
           kOutput,
-          {"accept", "FILE"},
-          {"write-accept", "FILE"},
-          {"profile", ""}},
-         "Checks each site file and reports what breaks a rule. Violations that the file of\n"
-         "--accept lists with a reason count apart; --write-accept writes such a file for what\n"
-         "is present. --profile tells the time of each rule, to standard error.",
+          {"select", "PATTERN",
+           "Report only the rules whose name fits the pattern, with * and ?; may be repeated."},
+          {"ignore", "PATTERN",
+           "Leave the rules whose name fits the pattern out of the report; may be repeated."},
+          {"unjudged", "", "List the elements, too, that no rule compared with anything."},
+          {"no-results", "", "Leave the engine's own two maps out of JSON."},
+          {"accept", "FILE",
+           "Count violations that this file lists apart, each with the reason why it is accepted. One that got worse "
+           "than accepted counts again."},
+          {"write-accept", "FILE",
+           "Write such a file: the entries of --accept, and one for each further violation, whose reason is to be "
+           "filled in before the file can be used."},
+          {"profile", "", "Tell the time that each rule took, the slowest first, on standard error."},
+          {"quiet", "", "Write no report to standard output and no notes; the exit status tells.", 'q'}},
+         "Checks each site file and reports what breaks a rule.",
+         "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
+         "when lint-rules would find something.",
          checkCommand},
-        {"plan", "SITE", {kRules, kOutput}, "Draws the site with what breaks a rule, as SVG.", planCommand},
+        {"plan",
+         "SITE",
+         {kRules, kOutput},
+         "Draws the site to scale with what breaks a rule, as SVG.",
+         "",
+         planCommand},
         {"show-rules",
          "[FILE]",
          {format("text|json"), kOutput},
          "Shows the rules of a rule file as the checker holds them.",
+         "",
          showRulesCommand},
         {"list-rules",
-         "",
+         "[NAME]",
          {format("text|json|markdown"), kOutput},
          "Lists the rule names that mean something, and what each of them judges.",
+         "With a name it tells of that rule alone.",
          listRulesCommand},
         {"lint-rules",
          "[FILE]",
          {format("text|json"), kOutput},
          "Finds what the checker passes over in silence in a rule file.",
+         "",
          lintRulesCommand},
         {"site-schema",
          "",
          {format("json|markdown"), kOutput},
          "Writes the JSON Schema of site files, or the list of their classes and keys.",
+         "",
          siteSchemaCommand},
+        {"help", "[COMMAND]", {}, "Shows the commands, or one of them with its options.", "", helpCommand},
+        {"manual", "", {kOutput}, "Writes this manual page.", "", manualCommand},
+        {"completion",
+         "bash|zsh",
+         {kOutput},
+         "Writes what a shell needs to complete commands and options.",
+         "",
+         completionCommand},
     };
     return table;
 }
@@ -93,20 +98,6 @@ const Command* findCommand(const std::string& name) {
     const auto found = std::find_if(commands().begin(), commands().end(),
                                     [&](const Command& command) { return command.name == name; });
     return found == commands().end() ? nullptr : &*found;
-}
-
-std::string helpText() {
-    std::string text = "firecheck - checks construction-site layouts against fire-safety rules\n\n";
-    for (const Command& command : commands())
-        text += usage(command) + explanation(command);
-    return text + R"(  firecheck --help | --version
-
-Results go to standard output or the file named by --output, which is replaced only
-when every input could be used; everything else goes to standard error. Without
---rules (or FILE) the rule file that comes with the checker is used.
-
-Exit status: 0 nothing found, 1 violations or findings, 2 wrong usage or input.
-)";
 }
 
 } // namespace firecheck

@@ -10,14 +10,17 @@ class Options;
 struct CommandOption {
     const char* name;  ///< without the dashes
     const char* value; ///< what the help shows for it, "a|b" for a choice; empty for a flag
+    const char* help;  ///< a sentence or two, without line breaks
+    char letter = 0;   ///< a short form, 'q' for "-q"; 0 for none
 };
 
-/// One command of the program: all that help and parsing have to know of it.
+/// One command of the program: all that parsing, help, manual page and completion have to know of it.
 struct Command {
     const char* name;
     const char* arguments; ///< as the help shows them; empty for none
     std::vector<CommandOption> options;
-    const char* explanation; ///< in lines of the help
+    const char* summary; ///< one sentence
+    const char* details; ///< more of them, without line breaks; empty for none
     int (*run)(const Options& options);
 
     /// Null when the command does not have it.
@@ -29,8 +32,5 @@ const std::vector<Command>& commands();
 
 /// Null when there is none of that name.
 const Command* findCommand(const std::string& name);
-
-/// The help of the program, made from the table.
-std::string helpText();
 
 } // namespace firecheck

@@ -1,22 +1,38 @@
 #include "command_line/Options.h"
 
 #include "InputError.h"
+#include "command_line/commands.h"
 
 namespace firecheck {
 
 Options::Options(const QStringList& words, const Command& command) : m_command(command) {
-    for (const CommandOption& option : command.options)
-        m_parser.addOption({option.name, {}, option.value});
+    for (const CommandOption& option : command.options) {
+        QStringList names{option.name};
+        if (option.letter)
+            names << QString(QChar(option.letter));
+        m_parser.addOption({names, {}, option.value});
+    }
     // The parser expects the program's name first.
-    if (!m_parser.parse(QStringList("firecheck") + words))
-        throw InputError(m_parser.errorText().toStdString() + " Try \"firecheck --help\".");
+    if (m_parser.parse(QStringList("firecheck") + words))
+        return;
+    std::string suggestion;
+    std::vector<std::string> known;
+    for (const CommandOption& option : command.options)
+        known.emplace_back("--" + std::string(option.name));
+    for (const QString& unknown : m_parser.unknownOptionNames())
+        suggestion = suggestionText("--" + unknown.toStdString(), known);
+    throw InputError(m_parser.errorText().toStdString() + " " + suggestion + "Try \"firecheck help " +
+                     command.name + "\".");
 }
 
 std::optional<QString> Options::value(const QString& option) const {
-    if (!m_parser.isSet(option))
-        return std::nullopt;
-    const QString given = m_parser.value(option);
-    if (given.isEmpty())
+    const QStringList given = values(option);
+    return given.isEmpty() ? std::nullopt : std::optional(given.last());
+}
+
+QStringList Options::values(const QString& option) const {
+    const QStringList given = m_parser.values(option);
+    if (given.contains(QString()))
         throw InputError("Option --" + option.toStdString() + " needs a value.");
     return given;
 }

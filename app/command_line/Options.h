@@ -17,6 +17,8 @@ public:
 
     /// Nothing when it is not given; the last one when it is given again.
     std::optional<QString> value(const QString& option) const;
+    /// All of them when it is given again and again.
+    QStringList values(const QString& option) const;
     bool isSet(const QString& flag) const { return m_parser.isSet(flag); }
     QStringList arguments() const { return m_parser.positionalArguments(); }
 

@@ -1,8 +1,10 @@
 #include "InputError.h"
+#include "check/RuleSelection.h"
 #include "check/check_site.h"
 #include "command_line/AcceptOptions.h"
 #include "command_line/Options.h"
 #include "command_line/Output.h"
+#include "command_line/Progress.h"
 #include "command_line/commands.h"
 #include "lint/lint_report.h"
 #include "lint/lint_rule_file.h"
@@ -20,15 +22,24 @@ namespace firecheck {
 
 namespace {
 
-std::unique_ptr<ReportWriter> writerFor(const QString& format, Output& output) {
-    const auto sink = [&output](const std::string& piece) { output.write(piece); };
+bool isColoured(const Output& output) {
+    return output.isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
+}
+
+std::unique_ptr<ReportWriter> writerFor(const Options& options, Output& output) {
+    const QString format = options.format();
+    const bool isSilent = options.isSet("quiet") && !options.value("output");
+    const auto sink = [&output, isSilent](const std::string& piece) {
+        if (!isSilent)
+            output.write(piece);
+    };
     if (format == "json")
-        return jsonReportWriter(sink);
+        return options.isSet("no-results") ? jsonReportWriterWithoutResults(sink) : jsonReportWriter(sink);
     if (format == "csv")
         return csvReportWriter(sink);
     if (format == "html")
         return htmlReportWriter(sink);
-    return textReportWriter(sink, output.isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"));
+    return textReportWriter(sink, isColoured(output));
 }
 
 /// The site, or nothing and a complaint: one wrong file does not keep the others from being checked.
@@ -42,9 +53,9 @@ std::optional<Site> tryLoadSite(const std::string& fileName) {
 }
 
 /// Refuses a rule file that is not well-formed.
-void mentionLint(const std::string& ruleFile) {
+void mentionLint(const std::string& ruleFile, bool isQuiet) {
     const std::size_t count = lintRuleFile(ruleFile).size();
-    if (count > 0)
+    if (count > 0 && !isQuiet)
         complain(ruleFile + ": " + countedFindings(count) +
                  " in the rule file, see \"firecheck lint-rules\"");
 }
@@ -58,25 +69,71 @@ void writeProfile(const SiteReport& report) {
                      [](const JudgedRule* a, const JudgedRule* b) { return a->time > b->time; });
     std::fprintf(stderr, "%s: time by rule\n", printable(report.fileName).c_str());
     for (const JudgedRule* judged : rules)
-        std::fprintf(stderr, "%10.3f ms  %s\n",
-                     std::chrono::duration<double, std::milli>(judged->time).count(),
-                     printable(judged->rule.name.toStdString()).c_str());
+        std::fprintf(
+            stderr, "%10s ms  %s\n",
+            QByteArray::number(std::chrono::duration<double, std::milli>(judged->time).count(), 'f', 3)
+                .constData(), // whatever the locale
+            printable(judged->rule.name.toStdString()).c_str());
 }
+
+std::vector<QString> ruleNames(const RuleMap& rules) {
+    std::vector<QString> names;
+    for (const auto& sharingKey : rules)
+        for (const NuxStandardCheckRule& rule : sharingKey)
+            names.push_back(rule.name);
+    return names;
+}
+
+/// What is asked of every site alike.
+class CheckRun {
+public:
+    CheckRun(const Options& options, const RuleMap& rules)
+        : m_options(options), m_rules(rules),
+          m_selection(options.values("select"), options.values("ignore"), ruleNames(rules)),
+          m_accept(options) {}
+
+    SiteReport check(Site site, const std::string& fileName) {
+        SiteReport report = withProgress(std::move(site), fileName);
+        if (!m_options.isSet("unjudged"))
+            report.judgedByNoRule.clear();
+        m_accept.applyTo(report);
+        m_selection.applyTo(report);
+        if (m_options.isSet("profile"))
+            writeProfile(report);
+        return report;
+    }
+
+    void end() const { m_accept.write(); }
+
+private:
+    SiteReport withProgress(Site site, const std::string& fileName) const {
+        Progress progress(fileName);
+        return checkSite(std::move(site), fileName, m_rules, [&](const firestandard::CheckStep& step) {
+            progress.tell(step);
+            return true;
+        });
+    }
+
+    const Options& m_options;
+    const RuleMap& m_rules;
+    const RuleSelection m_selection;
+    AcceptOptions m_accept;
+};
 
 } // namespace
 
 int checkCommand(const Options& options) {
     if (options.arguments().isEmpty())
-        throw InputError("No site file is given. Try \"firecheck --help\".");
-    const QString format = options.format();
+        throw InputError("No site file is given. Try \"firecheck help check\".");
+    options.format(); // refused before anything is read
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
-    mentionLint(ruleFile);
-    const RuleMap& rules = useRules(ruleFile);
-    const AcceptOptions accept(options);
+    mentionLint(ruleFile, options.isSet("quiet"));
+    CheckRun run(options, useRules(ruleFile));
 
     Output output(options.value("output").value_or(QString()));
-    const auto writer = writerFor(format, output);
+    const auto writer = writerFor(options, output);
+    bool isAnyRead = false;
     int status = kNothingFound;
     writer->begin();
     for (const QString& argument : options.arguments()) {
@@ -86,17 +143,17 @@ int checkCommand(const Options& options) {
             status = kWrongInput;
             continue;
         }
-        SiteReport report = checkSite(std::move(*site), fileName, rules);
-        accept.applyTo(report);
+        isAnyRead = true;
+        const SiteReport report = run.check(std::move(*site), fileName);
         if (status == kNothingFound && report.violationCount() > report.acceptedCount())
             status = kViolationsFound;
         writer->add(report);
-        if (options.isSet("profile"))
-            writeProfile(report);
     }
     writer->end();
-    if (status != kWrongInput)
+    if (isAnyRead) {
         output.commit();
+        run.end();
+    }
     return status;
 }
 

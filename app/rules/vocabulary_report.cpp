@@ -1,7 +1,5 @@
 #include "rules/vocabulary_report.h"
 
-#include "rules/vocabulary.h"
-
 namespace firecheck {
 
 namespace {
@@ -39,12 +37,16 @@ const char* const kOtherDistances =
 
 } // namespace
 
+std::string ruleNameText(const RuleName& rule) {
+    return rule.name + " (" + rule.type + ")\n" + line("judges", rule.judges) + line("about", subject(rule)) +
+           line("reads", attributeText(rule)) + line("fixed limit", rule.limits) +
+           line("note", rule.peculiarity);
+}
+
 std::string vocabularyText() {
     std::string text;
     for (const RuleName& rule : ruleNames())
-        text += rule.name + " (" + rule.type + ")\n" + line("judges", rule.judges) +
-                line("about", subject(rule)) + line("reads", attributeText(rule)) +
-                line("fixed limit", rule.limits) + line("note", rule.peculiarity);
+        text += ruleNameText(rule);
     text += "\n" + std::string(kOtherDistances);
     for (const DistanceMeasure& measure : distanceMeasures())
         text += measure.elementType + "\n" + line("to", joined(measure.referenceElementTypes)) +
@@ -52,17 +54,21 @@ std::string vocabularyText() {
     return text;
 }
 
+Json ruleNameJson(const RuleName& rule) {
+    return {{"name", rule.name},
+            {"type", rule.type},
+            {"elementType", rule.elementType},
+            {"referenceElementType", rule.referenceElementType},
+            {"reads", rule.reads},
+            {"judges", rule.judges},
+            {"limits", rule.limits},
+            {"peculiarity", rule.peculiarity}};
+}
+
 Json vocabularyJson() {
     Json rules = Json::array();
     for (const RuleName& rule : ruleNames())
-        rules.push_back({{"name", rule.name},
-                         {"type", rule.type},
-                         {"elementType", rule.elementType},
-                         {"referenceElementType", rule.referenceElementType},
-                         {"reads", rule.reads},
-                         {"judges", rule.judges},
-                         {"limits", rule.limits},
-                         {"peculiarity", rule.peculiarity}});
+        rules.push_back(ruleNameJson(rule));
     Json measures = Json::array();
     for (const DistanceMeasure& measure : distanceMeasures())
         measures.push_back({{"elementType", measure.elementType},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "json/Json.h"
+#include "rules/vocabulary.h"
 
 #include <string>
 
@@ -10,6 +11,11 @@ namespace firecheck {
 
 std::string vocabularyText();
 Json vocabularyJson();
+
+// One rule name alone.
+std::string ruleNameText(const RuleName& rule);
+Json ruleNameJson(const RuleName& rule);
+
 /// The page of the documentation.
 std::string vocabularyMarkdown();
 

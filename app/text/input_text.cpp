@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -45,10 +46,13 @@ bool isPipe(int handle) {
 
 std::string inputText(const std::string& fileName, const std::string& what) {
     const std::string refusal = fileName + ": expected " + what + ", found ";
-    if (QFileInfo(QString::fromStdString(fileName)).isDir())
+    if (fileName != "-" && QFileInfo(QString::fromStdString(fileName)).isDir())
         throw InputError(refusal + "a directory");
     QFile file;
-    openPatiently(file, fileName);
+    if (fileName == "-")
+        file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    else
+        openPatiently(file, fileName);
     std::string text;
     QByteArray part;
     do {
@@ -56,7 +60,8 @@ std::string inputText(const std::string& fileName, const std::string& what) {
         text.append(part.constData(), static_cast<std::size_t>(part.size()));
         if (text.size() > kLargestInput)
             throw InputError(refusal + "more than 256 MiB");
-    } while (part.size() == kPart); // a shorter one is the last: who types would have to end the input twice
+        // A shorter part of a file is the last: who types would have to end the input twice.
+    } while (fileName == "-" ? !part.isEmpty() : part.size() == kPart);
     if (file.error() != QFileDevice::NoError)
         failToRead(fileName, file.errorString());
     if (text.empty() && isPipe(file.handle()))

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "explain/explain_check.h"
+
+#include <chrono>
+#include <string>
+
+namespace firecheck {
+
+/// Tells people at a terminal, on standard error, how far a check has come: nothing for the first two
+/// seconds, then one line that is written over and removed at the end.
+class Progress {
+public:
+    explicit Progress(std::string fileName);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    void tell(const firestandard::CheckStep& step);
+
+private:
+    void write(const std::string& line);
+
+    std::string m_fileName;
+    bool m_isTerminal;
+    bool m_hasWritten = false;
+    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
+};
+
+} // namespace firecheck
