@@ -3,7 +3,10 @@
 #include "cad/UdDbObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXRoadObject.h"
+#include "geometry/CPolygon.h"
+#include "site/bodies.h"
 #include "site/host_codes.h"
+#include "site/outlines.h"
 
 namespace firestandard {
 
@@ -111,6 +114,17 @@ std::string unjudgedReason(const UdDbObject& element, NotJudged why) {
         return "the rule ended at an element before it in the drawing";
     }
     return {};
+}
+
+std::string polylineFlaw(const UdDbObject& element) {
+    const auto* base = NUXBaseObject::Cast(&element);
+    if (!base || base->m_shapeKind != shape::kPolyline)
+        return {};
+    const OutlinePtr outline = measuredOutlines(element).footprint;
+    if (outline && outline->IsValid(kFiveValidityChecks, nullptr))
+        return {};
+    return unjudgedReason(element,
+                          hasCrossingOutline(base) ? NotJudged::OutlineCrossesItself : NotJudged::NoOutline);
 }
 
 bool isLeftOut(NotJudged why) {

@@ -50,7 +50,7 @@ const std::vector<Command>& commands() {
           {"quiet", "", "Write no report to standard output and no notes; the exit status tells.", 'q'}},
          "Checks each site file and reports what breaks a rule.",
          "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
-         "when lint-rules would find something.",
+         "when lint-rules or lint-site would find something.",
          checkCommand},
         {"plan",
          "SITE",
@@ -76,6 +76,13 @@ const std::vector<Command>& commands() {
          "Finds what the checker passes over in silence in a rule file.",
          "",
          lintRulesCommand},
+        {"lint-site",
+         "SITE...",
+         {kRules, format("text|json"), kOutput},
+         "Finds what is wrong or doubtful in site files, all at once.",
+         "Errors are what check refuses a file for. Doubts are values that no site has, and slips that would change "
+         "a verdict without a word. The rules tell which facilities are looked for.",
+         lintSiteCommand},
         {"site-schema",
          "",
          {format("json|markdown"), kOutput},

@@ -10,7 +10,10 @@
 #include "lint/lint_rule_file.h"
 #include "report/ReportWriter.h"
 #include "rules/rule_file.h"
+#include "site_file/RefusedSite.h"
 #include "site_file/site_reader.h"
+#include "site_lint/SiteDoubts.h"
+#include "site_lint/site_lint_report.h"
 #include "text/printable.h"
 
 #include <QtGlobal>
@@ -42,14 +45,31 @@ std::unique_ptr<ReportWriter> writerFor(const Options& options, Output& output) 
     return textReportWriter(sink, isColoured(output));
 }
 
-/// The site, or nothing and a complaint: one wrong file does not keep the others from being checked.
-std::optional<Site> tryLoadSite(const std::string& fileName) {
+void complainOfAll(const RefusedSite& refused, const std::string& fileName) {
+    constexpr std::size_t most = 20;
+    const auto& messages = refused.messages();
+    for (std::size_t i = 0; i < std::min(most, messages.size()); ++i)
+        complain(messages[i]);
+    if (messages.size() > most)
+        complain(fileName + ": " + std::to_string(messages.size() - most) +
+                 " further errors, see \"firecheck lint-site\"");
+}
+
+/// The site, or nothing and complaints: one wrong file does not keep the others from being checked.
+std::optional<Site> tryLoadSite(const std::string& fileName, const RuleMap& rules, bool isQuiet) {
     try {
-        return loadSite(fileName);
+        SiteFile file = loadSiteFile(fileName);
+        const std::size_t count = isQuiet ? 0 : siteDoubts(file, rules).size();
+        if (count > 0)
+            complain(fileName + ": " + countedDoubts(count) +
+                     " about the site file, see \"firecheck lint-site\"");
+        return std::move(file.site);
+    } catch (const RefusedSite& refused) {
+        complainOfAll(refused, fileName);
     } catch (const InputError& error) {
         complain(error.what());
-        return std::nullopt;
     }
+    return std::nullopt;
 }
 
 /// Refuses a rule file that is not well-formed.
@@ -129,7 +149,8 @@ int checkCommand(const Options& options) {
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     mentionLint(ruleFile, options.isSet("quiet"));
-    CheckRun run(options, useRules(ruleFile));
+    const RuleMap& rules = useRules(ruleFile);
+    CheckRun run(options, rules);
 
     Output output(options.value("output").value_or(QString()));
     const auto writer = writerFor(options, output);
@@ -138,7 +159,7 @@ int checkCommand(const Options& options) {
     writer->begin();
     for (const QString& argument : options.arguments()) {
         const std::string fileName = argument.toStdString();
-        std::optional<Site> site = tryLoadSite(fileName);
+        std::optional<Site> site = tryLoadSite(fileName, rules, options.isSet("quiet"));
         if (!site) {
             status = kWrongInput;
             continue;

@@ -17,6 +17,7 @@ int checkCommand(const Options& options);
 int completionCommand(const Options& options);
 int helpCommand(const Options& options);
 int lintRulesCommand(const Options& options);
+int lintSiteCommand(const Options& options);
 int listRulesCommand(const Options& options);
 int manualCommand(const Options& options);
 int planCommand(const Options& options);

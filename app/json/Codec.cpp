@@ -228,8 +228,7 @@ std::int64_t readCode(const Json& value, const JsonPlace& place, const CodeNames
                                     [&given](const auto& candidate) { return candidate.first == given; });
     if (named != names.end())
         return named->second;
-    const auto near = nearestName(given, known);
-    refuse(place, "expected " + expected + (near ? "; did you mean \"" + *near + "\"?" : ""));
+    refuse(place, "expected " + expected, nearestName(given, known).value_or(std::string()));
 }
 
 Json codeSchema(const CodeNames& names, std::int64_t lowest, std::int64_t highest) {

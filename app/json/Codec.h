@@ -20,11 +20,15 @@ namespace firecheck {
 /// Makes a schema when it is asked for: whoever only reads needs none.
 using SchemaMaker = std::function<Json()>;
 
+/// Names for codes, as people write them.
+using CodeNames = std::vector<std::pair<std::string, std::int64_t>>;
+
 /// How a value of type T is written in JSON: its schema and its reader, which refuses just what the schema
 /// refuses.
 template <class T> struct Codec {
     SchemaMaker schema;
     std::function<T(const Json&, const JsonPlace&)> read;
+    CodeNames names = {}; ///< of a code
 };
 
 Codec<bool> flag();
@@ -55,9 +59,6 @@ Codec<Int> integer(Int lowest = std::numeric_limits<Int>::min(),
             }};
 }
 
-/// Names for codes, as people write them.
-using CodeNames = std::vector<std::pair<std::string, std::int64_t>>;
-
 std::int64_t readCode(const Json& value, const JsonPlace& place, const CodeNames& names, std::int64_t lowest,
                       std::int64_t highest);
 Json codeSchema(const CodeNames& names, std::int64_t lowest, std::int64_t highest);
@@ -67,9 +68,10 @@ template <class Code, class Int = Code> Codec<Code> code(CodeNames names) {
     constexpr auto lowest = std::numeric_limits<Int>::min();
     constexpr auto highest = std::numeric_limits<Int>::max();
     return {[names] { return codeSchema(names, lowest, highest); },
-            [names = std::move(names)](const Json& value, const JsonPlace& place) {
+            [names](const Json& value, const JsonPlace& place) {
                 return static_cast<Code>(readCode(value, place, names, lowest, highest));
-            }};
+            },
+            names};
 }
 
 /// Refuses what was found in favour of what was expected.

@@ -1,28 +1,42 @@
 #include "json/Field.h"
 
 #include "text/nearest_name.h"
+#include "text/shortened.h"
 
 #include <algorithm>
 
 namespace firecheck {
+
+namespace {
+
+[[noreturn]] void refuseKey(const JsonPlace& place, const std::string& key,
+                            const std::vector<KeyShape>& shapes) {
+    std::vector<std::string> known;
+    std::string all;
+    for (const KeyShape& shape : shapes) {
+        known.push_back(shape.key);
+        all += (all.empty() ? "" : ", ") + shape.key;
+    }
+    const std::string near = nearestName(key, known).value_or(std::string());
+    refuse(place, "unknown key \"" + shortened(key) + "\"" + (near.empty() ? "; the keys are " + all : ""),
+           near);
+}
+
+} // namespace
 
 void checkKeys(const Json& object, const JsonPlace& place, const std::vector<KeyShape>& shapes) {
     if (!object.is_object())
         refuseType(object, place, "an object");
     for (const auto& [key, value] : object.items()) {
         const auto& given = key;
-        if (std::any_of(shapes.begin(), shapes.end(),
-                        [&given](const KeyShape& shape) { return shape.key == given; }))
-            continue;
-        std::vector<std::string> known;
-        for (const KeyShape& shape : shapes)
-            known.push_back(shape.key);
-        const auto near = nearestName(key, known);
-        refuse(place, "unknown key \"" + key + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
+        if (std::none_of(shapes.begin(), shapes.end(),
+                         [&given](const KeyShape& shape) { return shape.key == given; }))
+            place.attempt([&] { refuseKey(JsonPlace(place, given), given, shapes); });
     }
     for (const KeyShape& shape : shapes)
         if (shape.required && !object.contains(shape.key))
-            refuse(place, "expected the key \"" + shape.key + "\" (" + shape.doc + ")");
+            place.attempt(
+                [&] { refuse(place, "expected the key \"" + shape.key + "\" (" + shape.doc + ")"); });
 }
 
 Json objectSchema(const std::vector<KeyShape>& shapes) {

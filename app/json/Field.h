@@ -15,6 +15,7 @@ struct KeyShape {
     bool required = false;
     SchemaMaker schema = {};
     std::optional<Json> defaultValue = {}; ///< stands in for a key that is not given
+    CodeNames names = {};                  ///< of the codes that mean something, where the value is a code
 };
 
 /// One key of a JSON object and what it sets in Params. Usable for whatever derives from Params as well.
@@ -32,7 +33,7 @@ template <class Params> using Fields = std::vector<Field<Params>>;
 template <class Params, class T>
 Field<Params> optionalField(std::string key, T Params::*member, Codec<T> codec, std::string doc) {
     return {
-        KeyShape{std::move(key), std::move(doc), false, std::move(codec.schema)},
+        KeyShape{std::move(key), std::move(doc), false, std::move(codec.schema), {}, std::move(codec.names)},
         [member, read = std::move(codec.read)](Params& params, const Json& value, const JsonPlace& place) {
             params.*member = read(value, place);
         }};
@@ -66,7 +67,7 @@ Fields<Params> extended(const Fields<Base>& base, Fields<Params> further) {
     return fields;
 }
 
-/// Refuses what is no object, keys other than those of the shapes, and missing ones.
+/// Refuses what is no object, every key other than those of the shapes, and every missing one.
 void checkKeys(const Json& object, const JsonPlace& place, const std::vector<KeyShape>& shapes);
 
 Json objectSchema(const std::vector<KeyShape>& shapes);
@@ -76,12 +77,13 @@ template <class Params> std::vector<KeyShape> keyShapes(const Fields<Params>& fi
 }
 
 /// Reads the fields that `object` holds, and the defaults of those it does not; its keys have been checked.
+/// What is refused of one field does not keep the others from being read (see JsonPlace::attempt).
 template <class Params>
 void readFields(Params& params, const Fields<Params>& fields, const Json& object, const JsonPlace& place) {
     for (const Field<Params>& field : fields) {
         const auto given = object.find(field.key);
         if (given != object.end())
-            field.read(params, *given, JsonPlace(place, field.key));
+            place.attempt([&] { field.read(params, *given, JsonPlace(place, field.key)); });
         else if (field.defaultValue)
             field.read(params, *field.defaultValue, JsonPlace(place, field.key));
     }

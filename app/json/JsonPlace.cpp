@@ -1,9 +1,27 @@
 #include "json/JsonPlace.h"
 
-#include "InputError.h"
 #include "json/Json.h"
 
 namespace firecheck {
+
+namespace {
+
+std::string message(const std::vector<Refusal>& refusals) {
+    std::string text;
+    for (const Refusal& refusal : refusals)
+        text += (text.empty() ? "" : "\n") + refusal.text();
+    return text;
+}
+
+} // namespace
+
+std::string Refusal::text() const {
+    return (pointer.empty() ? "top level" : pointer) + ": " + reason +
+           (suggestion.empty() ? "" : "; did you mean \"" + suggestion + "\"?");
+}
+
+RefusedJson::RefusedJson(std::vector<Refusal> refusals)
+    : InputError(message(refusals)), m_refusals(std::move(refusals)) {}
 
 std::string JsonPlace::pointer() const {
     if (!m_parent)
@@ -16,9 +34,8 @@ std::string JsonPlace::pointer() const {
     return m_parent->pointer() + step.to_string();
 }
 
-void refuse(const JsonPlace& place, const std::string& reason) {
-    const std::string pointer = place.pointer();
-    throw InputError((pointer.empty() ? "top level" : pointer) + ": " + reason);
+void refuse(const JsonPlace& place, const std::string& reason, const std::string& suggestion) {
+    throw RefusedJson({{place.pointer(), reason, suggestion}});
 }
 
 } // namespace firecheck

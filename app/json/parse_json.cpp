@@ -1,6 +1,8 @@
 #include "json/parse_json.h"
 
 #include "InputError.h"
+#include "json/json_places.h"
+#include "text/shortened.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,13 +40,8 @@ private:
 };
 
 std::string lineAndColumn(const std::string& text, std::size_t offset) {
-    const auto begin = text.begin();
-    const auto place = begin + static_cast<std::ptrdiff_t>(std::min(offset, text.size()));
-    const auto line = std::count(begin, place, '\n') + 1;
-    const auto lineStart = std::find(std::make_reverse_iterator(place), text.rend(), '\n').base();
-    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
-    const auto column = std::count_if(lineStart, place, startsCharacter) + 1;
-    return std::to_string(line) + ":" + std::to_string(column);
+    const Place place = placeAt(text, offset);
+    return std::to_string(place.line) + ":" + std::to_string(place.column);
 }
 
 /// What the parser objects to, without its own reckoning of the place and the token, which may be endless.
@@ -77,7 +74,7 @@ public:
     }
     bool key(string_t& key) override {
         if (!m_keys.back().insert(key).second)
-            throw InputError("the key \"" + key + "\" occurs twice in its object");
+            throw InputError("the key \"" + shortened(key) + "\" occurs twice in its object");
         if (m_keys.back().size() > kMostKeys)
             throw InputError("an object with more than " + std::to_string(kMostKeys) + " keys");
         return true;

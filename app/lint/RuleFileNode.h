@@ -1,15 +1,11 @@
 #pragma once
 
+#include "text/Place.h"
+
 #include <string>
 #include <vector>
 
 namespace firecheck {
-
-/// Where something stands in a file; both count from 1, columns in characters.
-struct Place {
-    int line = 1;
-    int column = 1;
-};
 
 struct RuleFileAttribute {
     std::string name;

@@ -20,9 +20,9 @@ public:
     using Link = std::function<void(const ObjectsByHandle&)>;
 
     void add(Link link) { m_links.push_back(std::move(link)); }
-    void setAll(const ObjectsByHandle& objects) const {
+    void setAll(const ObjectsByHandle& objects, const JsonPlace& top) const {
         for (const Link& link : m_links)
-            link(objects);
+            top.attempt([&] { link(objects); });
     }
 
 private:

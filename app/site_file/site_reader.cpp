@@ -1,17 +1,30 @@
 #include "site_file/site_reader.h"
 
-#include "InputError.h"
 #include "json/parse_json.h"
+#include "site_file/RefusedSite.h"
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
 #include "text/input_text.h"
 #include "text/nearest_name.h"
+#include "text/shortened.h"
 
 #include <QString>
+
+#include <set>
 
 namespace firecheck {
 
 namespace {
+
+/// The class for which the name is a use, as people may take it for a class; null for none.
+const SiteClass* classWithUse(const std::string& name) {
+    for (const SiteClass& candidate : siteClasses())
+        for (const KeyShape& key : candidate.keys)
+            for (const auto& [use, code] : key.names)
+                if (key.key == "use" && nearestName(name, {use}))
+                    return &candidate;
+    return nullptr;
+}
 
 [[noreturn]] void refuseClass(const std::string& name, const JsonPlace& place, ObjectRole role) {
     std::vector<std::string> known;
@@ -20,8 +33,15 @@ namespace {
             known.push_back(candidate.name);
     const auto near = nearestName(name, known);
     const std::string what = role == ObjectRole::SecondView ? "class of 3-D models" : "class";
-    refuse(place,
-           "unknown " + what + " \"" + name + "\"" + (near ? "; did you mean \"" + *near + "\"?" : ""));
+    std::string reason = "unknown " + what + " \"" + shortened(name) + "\"";
+    if (const SiteClass* used = near ? nullptr : classWithUse(name))
+        reason += ", which is a use of \"" + used->name + "\"";
+    else if (!near) {
+        reason += "; the classes are ";
+        for (const std::string& candidate : known)
+            reason += (candidate == known.front() ? "" : ", ") + candidate;
+    }
+    refuse(place, reason, near.value_or(std::string()));
 }
 
 /// What the reader knows about one class.
@@ -50,38 +70,49 @@ const ClassReader& readerOfClass(const std::string& name, const JsonPlace& place
 class SiteReader {
 public:
     Site read(const Json& value) {
-        const JsonPlace top;
-        checkKeys(value, top, siteKeys());
-        readNotes(value, top);
-        m_site.document = std::make_unique<UdDbDocument>();
-        const Json& objects = value.at(kObjectsKey);
-        const JsonPlace list(top, kObjectsKey);
-        if (!objects.is_array())
-            refuseType(objects, list, "a list of objects");
-        for (std::size_t i = 0; i < objects.size(); ++i)
-            appendObject(objects[i], JsonPlace(list, i));
-        m_links.setAll(m_objects);
+        std::vector<Refusal> refusals;
+        const JsonPlace top(refusals);
+        top.attempt([&] { readTop(value, top); });
+        if (!refusals.empty())
+            throw RefusedJson(std::move(refusals));
         return std::move(m_site);
     }
 
 private:
+    void readTop(const Json& value, const JsonPlace& top) {
+        checkKeys(value, top, siteKeys());
+        readNotes(value, top);
+        m_site.document = std::make_unique<UdDbDocument>();
+        const auto objects = value.find(kObjectsKey);
+        if (objects == value.end())
+            return;
+        const JsonPlace list(top, kObjectsKey);
+        if (!objects->is_array())
+            refuseType(*objects, list, "a list of objects");
+        for (std::size_t i = 0; i < objects->size(); ++i) {
+            const JsonPlace place(list, i);
+            place.attempt([&] { appendObject((*objects)[i], place); });
+        }
+        m_links.setAll(m_objects, top);
+    }
+
     void readNotes(const Json& value, const JsonPlace& top) {
-        for (const auto& [key, note] : value.items()) {
-            if (key == kObjectsKey)
+        for (const KeyShape& shape : siteKeys()) {
+            const auto note = value.find(shape.key);
+            if (shape.key == kObjectsKey || note == value.end())
                 continue;
-            const std::wstring checked = text().read(note, JsonPlace(top, key));
-            if (key == kSiteNameKey)
-                m_site.name = note.get<std::string>();
+            const JsonPlace place(top, shape.key);
+            place.attempt([&] { text().read(*note, place); });
+            if (shape.key == kSiteNameKey && note->is_string())
+                m_site.name = note->get<std::string>();
         }
     }
 
     void appendObject(const Json& value, const JsonPlace& place) {
         ObjectHead head;
         std::unique_ptr<UdDbObject> object = createObject(value, place, ObjectRole::InDocument, head);
-        const std::string handleKey = "handle";
-        if (m_site.document->hasHandle(head.handle))
-            refuse(JsonPlace(place, handleKey),
-                   "expected a handle of its own, found " + std::to_string(head.handle) + " once more");
+        if (head.handle == 0 || m_objects.count(head.handle) > 0)
+            return; // it was refused
         const auto secondView = value.find(kSecondViewKey);
         if (secondView != value.end()) {
             ObjectHead viewHead;
@@ -100,10 +131,19 @@ private:
         const ClassReader& reader = readerFor(value, place, role);
         checkKeys(value, place, reader.keys);
         readFields(head, reader.headFields, value, place);
+        if (role == ObjectRole::InDocument && head.handle != 0)
+            place.attempt([&] { requireNewHandle(head.handle, place); });
         auto object = reader.siteClass->create(value, place, head.identifier, m_links);
         if (head.extents)
             object->setExtents(*head.extents);
         return object;
+    }
+
+    void requireNewHandle(long long handle, const JsonPlace& place) {
+        const std::string handleKey = "handle";
+        if (!m_handles.insert(handle).second)
+            refuse(JsonPlace(place, handleKey),
+                   "expected a handle of its own, found " + std::to_string(handle) + " once more");
     }
 
     static const ClassReader& readerFor(const Json& value, const JsonPlace& place, ObjectRole role) {
@@ -119,6 +159,7 @@ private:
     }
 
     Site m_site;
+    std::set<long long> m_handles;
     ObjectLinks m_links;
     ObjectLinks::ObjectsByHandle m_objects;
 };
@@ -129,17 +170,28 @@ Site readSite(const Json& value) {
     return SiteReader().read(value);
 }
 
-Site parseSite(const std::string& text, const std::string& name) {
-    const Json value = parseJson(text, name);
+SiteFile parseSiteFile(std::string text, const std::string& name) {
+    SiteFile file;
+    file.text = std::move(text);
+    file.value = parseJson(file.text, name);
     try {
-        return readSite(value);
-    } catch (const InputError& error) {
-        throw InputError(name + ": " + error.what());
+        file.site = readSite(file.value);
+    } catch (const RefusedJson& refused) {
+        throw RefusedSite(name, file.text, file.value, refused.refusals());
     }
+    return file;
+}
+
+SiteFile loadSiteFile(const std::string& fileName) {
+    return parseSiteFile(inputText(fileName, "a site file"), fileName);
+}
+
+Site parseSite(const std::string& text, const std::string& name) {
+    return parseSiteFile(text, name).site;
 }
 
 Site loadSite(const std::string& fileName) {
-    return parseSite(inputText(fileName, "a site file"), fileName);
+    return loadSiteFile(fileName).site;
 }
 
 } // namespace firecheck

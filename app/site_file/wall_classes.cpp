@@ -1,4 +1,3 @@
-#include "InputError.h"
 #include "elements/NUXDoorObject.h"
 #include "elements/NUXWallObject.h"
 #include "site_file/footprint_fields.h"
@@ -100,8 +99,8 @@ UdDbObjectId doorId(const WallDoor& entry, const ObjectLinks::ObjectsByHandle& o
         return {};
     const auto found = objects.find(*entry.handle);
     if (found == objects.end() || !NUXDoorObject::Cast(found->second))
-        throw InputError(entry.pointer + ": expected the handle of a door, found " +
-                         std::to_string(*entry.handle));
+        throw RefusedJson(
+            {{entry.pointer, "expected the handle of a door, found " + std::to_string(*entry.handle), {}}});
     return UdDbObjectId(found->second);
 }
 
@@ -112,7 +111,7 @@ void linkDoors(NUXWallObject& wall, const std::vector<WallDoor>& entries,
         DoorData data = entry;
         data.doorId = doorId(entry, objects);
         if (!doors.emplace(entry.key.value_or(entry.distance), data).second)
-            throw InputError(entry.pointer + ": expected a \"key\" that no other door of the wall has");
+            throw RefusedJson({{entry.pointer, "expected a \"key\" that no other door of the wall has", {}}});
     }
     wall.setAssociationDoor(std::move(doors));
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "text/Place.h"
+
+#include <string>
+#include <vector>
+
+namespace firecheck {
+
+/// Where the values with these JSON pointers stand in a text that is JSON, in the order of the pointers: a
+/// member by its key, anything else by its first character. A value that is not there is given the place of
+/// the innermost value around it.
+std::vector<Place> jsonPlaces(const std::string& text, const std::vector<std::string>& pointers);
+
+/// Line and column of a byte of the text.
+Place placeAt(const std::string& text, std::size_t offset);
+
+} // namespace firecheck

@@ -1,0 +1,15 @@
+#include "text/shortened.h"
+
+namespace firecheck {
+
+std::string shortened(const std::string& text) {
+    constexpr std::size_t longest = 80;
+    if (text.size() <= longest)
+        return text;
+    std::size_t end = longest;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        --end;
+    return text.substr(0, end) + "...";
+}
+
+} // namespace firecheck
