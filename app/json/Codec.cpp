@@ -180,7 +180,7 @@ Codec<std::optional<hrx::CExtents3>> extents() {
 
 std::int64_t readInteger(const Json& value, const JsonPlace& place, std::int64_t lowest,
                          std::int64_t highest) {
-    constexpr double exactUpTo = 9007199254740992.0;
+    constexpr double exactUpTo = 9007199254740991.0; // the next one stands for its neighbour as well
     std::int64_t result = 0;
     bool fits = true;
     if (value.is_number_unsigned()) {

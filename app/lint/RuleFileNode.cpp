@@ -17,21 +17,28 @@ constexpr int kLevelsBelowRoot = 3; // groups, rules, texts
 class NodeReader {
 public:
     explicit NodeReader(const std::string& fileName)
-        : m_fileName(fileName), m_text(decodedXml(ruleFileContent(fileName))), m_places(m_text),
-          m_reader(m_text) {
+        : m_fileName(fileName), m_decoded(decodedXml(ruleFileContent(fileName))), m_places(m_decoded.text),
+          m_reader(m_decoded.text) {
         m_reader.setNamespaceProcessing(false);
     }
 
-    RuleFileNode document() {
+    RuleFileNodes document() {
         while (next() != QXmlStreamReader::StartElement) {
         }
         RuleFileNode root = element(kLevelsBelowRoot);
         while (next() != QXmlStreamReader::EndDocument) {
         }
-        return root;
+        return {std::move(root), wrongBytes()};
     }
 
 private:
+    std::optional<Place> wrongBytes() const {
+        if (!m_decoded.hasWrongBytes)
+            return std::nullopt;
+        const auto index = m_decoded.text.indexOf(QChar(QChar::ReplacementCharacter));
+        return m_places.placeAt(static_cast<int>(index < 0 ? m_decoded.text.size() : index));
+    }
+
     QXmlStreamReader::TokenType next() {
         m_tokenStart = m_reader.characterOffset();
         const auto token = m_reader.readNext();
@@ -41,7 +48,7 @@ private:
     }
 
     RuleFileNode nodeAtToken(RuleFileNode::Kind kind, const QString& name) const {
-        return {kind, name.toStdString(), m_places.placeOfToken(m_tokenStart), {}, {}};
+        return {kind, name.toStdString(), m_places.placeOfToken(m_tokenStart), {}, {}, {}};
     }
 
     RuleFileNode element(int levelsBelow) {
@@ -55,7 +62,7 @@ private:
                                        index < places.size() ? places[index] : node.place});
         }
         if (levelsBelow == 0)
-            skipToEnd();
+            readText(node);
         else
             readChildren(node, levelsBelow - 1);
         return node;
@@ -75,9 +82,11 @@ private:
         }
     }
 
-    void skipToEnd() {
+    void readText(RuleFileNode& node) {
         for (int depth = 1; depth > 0;) {
             const auto token = next();
+            if (token == QXmlStreamReader::Characters)
+                node.text += m_reader.text().toString().toStdString();
             depth += token == QXmlStreamReader::StartElement ? 1
                      : token == QXmlStreamReader::EndElement ? -1
                                                              : 0;
@@ -85,7 +94,7 @@ private:
     }
 
     const std::string m_fileName;
-    const QString m_text;
+    const DecodedXml m_decoded;
     const XmlPlaces m_places;
     QXmlStreamReader m_reader;
     qint64 m_tokenStart = 0;
@@ -104,7 +113,7 @@ std::string RuleFileNode::value(const std::string& wanted) const {
     return found ? found->value : std::string();
 }
 
-RuleFileNode readRuleFileNodes(const std::string& fileName) {
+RuleFileNodes readRuleFileNodes(const std::string& fileName) {
     return NodeReader(fileName).document();
 }
 

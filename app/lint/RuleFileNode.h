@@ -2,6 +2,7 @@
 
 #include "text/Place.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ struct RuleFileNode {
     Place place;
     std::vector<RuleFileAttribute> attributes;
     std::vector<RuleFileNode> children;
+    std::string text; ///< of an innermost element, such as a rule's description
 
     /// Nullptr when there is none of that name.
     const RuleFileAttribute* attribute(const std::string& wanted) const;
@@ -29,8 +31,13 @@ struct RuleFileNode {
     std::string value(const std::string& wanted) const;
 };
 
+struct RuleFileNodes {
+    RuleFileNode root;
+    std::optional<Place> wrongBytes; ///< the first bytes that are no characters of the file's encoding
+};
+
 /// The document element of a rule file, with as many levels below it as the rule store looks at: groups,
 /// rules and their texts. Throws InputError for a file that cannot be read or is not well-formed XML.
-RuleFileNode readRuleFileNodes(const std::string& fileName);
+RuleFileNodes readRuleFileNodes(const std::string& fileName);
 
 } // namespace firecheck

@@ -16,11 +16,13 @@ public:
 
     Place placeOfToken(qint64 offset) const;
 
+    /// Of the character at this index of the text.
+    Place placeAt(int offset) const;
+
     /// The places of the names of the attributes in a start tag, in their order.
     std::vector<Place> attributePlaces(qint64 tagOffset, qint64 tagEnd) const;
 
 private:
-    Place placeAt(int offset) const;
     int tokenStart(qint64 offset) const;
 
     QString m_text;

@@ -60,15 +60,19 @@ private:
                        nearestOf(m_condition, {kLess, kLessOrMore}));
     }
 
+    /// As the rule reads it: infinite values are taken as they are, whatever else is no number as 0.
     std::optional<double> number(const QString& part) {
         bool isNumber = false;
         const double value = part.toDouble(&isNumber);
         if (isNumber && std::isfinite(value) && value >= 0.0)
             return value;
-        const std::string shown = "\"" + part.toStdString() + "\"";
         m_findings.add(valuePlace(), "bad-distance",
-                       isNumber ? shown + " is no distance: a finite number of metres, 0 or more, is."
-                                : shown + " is not a number and counts as 0 m.");
+                       "\"" + part.toStdString() +
+                           "\" is no distance, which is a number of metres, 0 or more. " +
+                           (std::isnan(value)   ? "No distance offends against it."
+                            : std::isinf(value) ? "It counts as infinite."
+                            : isNumber          ? "No distance is below it."
+                                                : "It counts as 0 m."));
         return std::nullopt;
     }
 
@@ -93,6 +97,12 @@ private:
         if (limits.maximum && limits.minimum > *limits.maximum)
             m_findings.add(valuePlace(), "bad-distance",
                            "The minimum is above the maximum: every distance offends.");
+        constexpr double farthest = 1000.0;
+        for (const double limit : {limits.minimum, limits.maximum.value_or(0.0)})
+            if (limit > farthest)
+                m_findings.add(valuePlace(), "doubtful-distance",
+                               "A distance of " + QString::number(limit, 'g', 10).toStdString() +
+                                   " m is more than any site has: limits are in metres.");
     }
 
     void lintPair(const DistanceMeasure& measure, const std::optional<Limits>& limits) {

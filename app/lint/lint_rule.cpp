@@ -3,6 +3,7 @@
 #include "lint/lint_attributes.h"
 #include "lint/lint_distance_rule.h"
 #include "lint/lint_element_types.h"
+#include "lint/lint_limit_texts.h"
 #include "rules/vocabulary.h"
 
 #include <algorithm>
@@ -107,6 +108,7 @@ void lintRule(const RuleFileNode& rule, LintFindings& findings) {
     const bool areTypesRight = lintElementTypes(rule, read, known, findings);
     if (type == "distant")
         lintDistanceRule(rule, areTypesRight, findings);
+    lintLimitTexts(rule, findings);
     if (type == "without" && known && rule.value("PropertyType").empty())
         findings.add(rule.place, "ineffective-name",
                      "Without a \"PropertyType\" the name means nothing: any " + known->elementType +

@@ -17,9 +17,13 @@ using Kind = RuleFileNode::Kind;
 
 class FileLinter {
 public:
-    std::vector<LintFinding> findingsOn(const RuleFileNode& root) {
-        lintUnknownAttributes(root, {}, m_outside);
-        for (const RuleFileNode& node : root.children)
+    std::vector<LintFinding> findingsOn(const RuleFileNodes& file) {
+        if (file.wrongBytes)
+            m_outside.add(*file.wrongBytes, "wrong-bytes",
+                          "These bytes are no text in the encoding of the file, which is UTF-8 unless it "
+                          "declares another: texts come out garbled.");
+        lintUnknownAttributes(file.root, {}, m_outside);
+        for (const RuleFileNode& node : file.root.children)
             lintGroup(node);
         std::stable_sort(
             m_findings.begin(), m_findings.end(), [](const LintFinding& a, const LintFinding& b) {

@@ -20,6 +20,9 @@ public:
     using Link = std::function<void(const ObjectsByHandle&)>;
 
     void add(Link link) { m_links.push_back(std::move(link)); }
+    std::size_t count() const { return m_links.size(); }
+    /// Drops those added after the first `count`, as of an object that was not kept.
+    void keepFirst(std::size_t count) { m_links.resize(count); }
     void setAll(const ObjectsByHandle& objects, const JsonPlace& top) const {
         for (const Link& link : m_links)
             top.attempt([&] { link(objects); });

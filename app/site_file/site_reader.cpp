@@ -91,7 +91,11 @@ private:
             refuseType(*objects, list, "a list of objects");
         for (std::size_t i = 0; i < objects->size(); ++i) {
             const JsonPlace place(list, i);
-            place.attempt([&] { appendObject((*objects)[i], place); });
+            const std::size_t linksBefore = m_links.count();
+            bool isKept = false;
+            place.attempt([&] { isKept = appendObject((*objects)[i], place); });
+            if (!isKept)
+                m_links.keepFirst(linksBefore);
         }
         m_links.setAll(m_objects, top);
     }
@@ -108,11 +112,12 @@ private:
         }
     }
 
-    void appendObject(const Json& value, const JsonPlace& place) {
+    /// False for an object whose handle was refused.
+    bool appendObject(const Json& value, const JsonPlace& place) {
         ObjectHead head;
         std::unique_ptr<UdDbObject> object = createObject(value, place, ObjectRole::InDocument, head);
         if (head.handle == 0 || m_objects.count(head.handle) > 0)
-            return; // it was refused
+            return false;
         const auto secondView = value.find(kSecondViewKey);
         if (secondView != value.end()) {
             ObjectHead viewHead;
@@ -124,6 +129,7 @@ private:
         m_site.labels[head.handle] = {value.at(kClassKey).get<std::string>(),
                                       QString::fromStdWString(head.name).toStdString()};
         m_site.document->append(std::move(object), head.handle);
+        return true;
     }
 
     std::unique_ptr<UdDbObject> createObject(const Json& value, const JsonPlace& place, ObjectRole role,

@@ -16,7 +16,7 @@ using Point = hrx::CVec2<double>;
 /// Elements may stand this deep in each other before it is doubted: walls shared, outlines drawn by hand.
 constexpr double kOverlapTolerance = 100.0;
 /// No site reaches this far from its middle.
-constexpr double kFarthest = 20'000'000.0;
+constexpr double kFarthest = 5'000'000.0;
 
 /// An outline in plan, arcs as chords.
 struct Outline {
@@ -105,7 +105,7 @@ bool overlap(const Outline& a, const Outline& b) {
 
 /// Elements of which no two can have the same ground: not models, cranes, roads and what hangs above.
 bool standsAlone(const PlanShape& shape, const std::string& className) {
-    return className != "crossing" && shape.paths.size() == 1 && shape.paths.front().isClosed &&
+    return className != "crossing" && !shape.paths.empty() && shape.paths.back().isClosed &&
            (shape.kind == PlanKind::Yard || shape.kind == PlanKind::House || shape.kind == PlanKind::Shed ||
             shape.kind == PlanKind::Station || className == "wastePool");
 }
@@ -160,7 +160,8 @@ private:
         constexpr int halvings = 3;
         constexpr std::size_t longest = 1000;
         Outline outline{index, {}, shape.box};
-        for (const hrx::Edge2d& edge : shape.paths.front().edges)
+        const PlanPath& footprint = shape.paths.back(); // a house's stairs are drawn below it
+        for (const hrx::Edge2d& edge : footprint.edges)
             appendChords(edge, halvings, outline.corners);
         if (outline.corners.size() <= longest)
             m_outlines.push_back(std::move(outline));

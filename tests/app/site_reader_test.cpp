@@ -5,6 +5,7 @@
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXWallObject.h"
 #include "elements/NUXYardOBJObject.h"
+#include "json/JsonPlace.h"
 #include "site_file/site_reader.h"
 
 #include <gmock/gmock.h>
@@ -103,18 +104,19 @@ TEST(SiteReader, TakesWhatIsOdd) {
     EXPECT_TRUE(drawing.document->hasHandle(9223372036854775807));
 }
 
-struct Refusal {
+struct Refused {
     std::string text;
     std::string message;
 };
 
-template <class Matcher> void expectRefused(const std::string& text, const Matcher& message) {
-    EXPECT_THAT([&] { parseSite(text, "site.json"); }, testing::ThrowsMessage<InputError>(message))
+template <class Matcher>
+void expectRefused(const std::string& text, const Matcher& message, const char* name = "site.json") {
+    EXPECT_THAT([&] { parseSite(text, name); }, testing::ThrowsMessage<InputError>(message))
         << text.substr(0, 150);
 }
 
 TEST(SiteReader, RefusesTextThatIsNoJson) {
-    const std::vector<Refusal> refusals = {
+    const std::vector<Refused> refusals = {
         {"",
          "site.json:1:1: expected JSON in UTF-8: unexpected end of input; expected '[', '{', or a literal"},
         {"{\"objects\":\n  [",
@@ -128,7 +130,7 @@ TEST(SiteReader, RefusesTextThatIsNoJson) {
         {"{\"objects\": [NaN]}", "site.json:1:14: expected JSON in UTF-8: invalid literal"},
         {std::string(2000000, '['), "site.json:1:33: nested deeper than 32 levels"},
     };
-    for (const Refusal& refusal : refusals)
+    for (const Refused& refusal : refusals)
         expectRefused(refusal.text, refusal.message);
 }
 
@@ -136,17 +138,20 @@ TEST(SiteReader, RefusesWhatIsNoSite) {
     const std::string shed =
         R"({"class": "openShed", "handle": 1, "use": 0, "center": [0, 0], "length": 1, "depth": 1)";
     const std::string wall = R"({"class": "wall", "handle": 1, "start": [0, 0], "end": [1, 0], "doors": [)";
-    const std::vector<Refusal> refusals = {
+    const std::vector<Refused> refusals = {
         {R"({"class": "openshed", "handle": 1})",
          R"(/objects/0/class: unknown class "openshed"; did you mean "openShed"?)"},
-        {shed + R"(, "agnle": 5})", R"(/objects/0: unknown key "agnle"; did you mean "angle"?)"},
-        {shed + R"(, "jibInclination": 5})", R"(/objects/0: unknown key "jibInclination")"},
+        {shed + R"(, "agnle": 5})", R"(/objects/0/agnle: unknown key "agnle"; did you mean "angle"?)"},
+        {shed + R"(, "jibInclination": 5})",
+         "/objects/0/jibInclination: unknown key \"jibInclination\"; the keys are class, handle, name, note, "
+         "identifier, extents, refusesToOpen, center, length, depth, angle, circle, polyline, elevation, shapeKind, "
+         "use, secondView"},
         {R"({"class": "drawing"})",
          R"(/objects/0: expected the key "handle" (the number by which reports name the object; each object has its own))"},
         {shed + R"(, "angle": "0"})", "/objects/0/angle: expected a number, found a string"},
         {R"({"class": "road", "handle": 1, "start": [0, 0, 0], "end": [1, 0]})",
          "/objects/0/start: expected a point [x, y], found a list of 3"},
-        {R"({"class": "openShed", "handle": 1, "use": "hotwork"})",
+        {R"({"class": "openShed", "handle": 1, "shapeKind": 0, "use": "hotwork"})",
          R"(/objects/0/use: expected one of "general", "hotWork", "formwork", "woodworking", "mechanical", or an integer code; did you mean "hotWork"?)"},
         {R"({"class": "road", "handle": 1, "start": [0, 0], "end": [1, 0], "width": 1.5})",
          "/objects/0/width: expected an integer, found a fraction"},
@@ -167,11 +172,34 @@ TEST(SiteReader, RefusesWhatIsNoSite) {
          "/objects/0/doors/0/door: expected the handle of a door, found 1"},
         {wall + R"({"distance": 0, "door": null}, {"distance": -0.0, "door": null}]})",
          R"(/objects/0/doors/1/door: expected a "key" that no other door of the wall has)"},
-        {shed + R"(, "secondView": {"class": "model", "handle": 2}})",
-         R"(/objects/0/secondView: unknown key "handle")"},
+        {shed + R"(, "secondView": {"class": "drawing"}})",
+         "/objects/0/secondView/class: unknown class of 3-D models \"drawing\"; the classes are extinguisherBox, "
+         "model, sizelessModel"},
+        {R"({"class": "dormitory", "handle": 1})",
+         R"(/objects/0/class: unknown class "dormitory", which is a use of "prefabHouse")"},
     };
-    for (const Refusal& refusal : refusals)
-        expectRefused("{\"objects\": [" + refusal.text + "]}", "site.json: " + refusal.message);
+    for (const Refused& refusal : refusals)
+        EXPECT_THAT([&] { readSite(Json::parse("{\"objects\": [" + refusal.text + "]}")); },
+                    testing::ThrowsMessage<RefusedJson>(refusal.message));
+}
+
+TEST(SiteReader, TellsEverythingThatIsWrongWithItsPlace) {
+    const std::string text = R"({"objects": [
+  {"class": "door", "handle": 7, "positon": [0, "1"],
+   "leafWidth": -1, "name": "门"},
+  {"class": "wall", "handle": 7, "start": [0, 0], "end": [1, 0], "doors": [{"distance": 0, "door": 7}]}, 5,
+  {"class": "wall", "handle": 8, "start": [0, 0], "end": [1, 0], "doors": [{"distance": "0", "door": 6}]}],
+ "\u006eames": {"a": [1, 2]}})";
+    expectRefused(text,
+                  R"(s.json:2:3: #7 "门", /objects/0: expected the key "position" (middle of the door)
+s.json:2:34: #7 "门", /objects/0/positon: unknown key "positon"; did you mean "position"?
+s.json:3:4: #7 "门", /objects/0/leafWidth: expected an integer from 0 to 100000000
+s.json:4:21: #7, /objects/1/handle: expected a handle of its own, found 7 once more
+s.json:4:106: /objects/2: expected an object, found a number
+s.json:5:77: #8, /objects/3/doors/0/distance: expected a number, found a string
+s.json:5:94: #8, /objects/3/doors/0/door: expected the handle of a door, found 6
+s.json:6:2: /names: unknown key "names"; did you mean "name"?)",
+                  "s.json");
 }
 
 TEST(SiteReader, GivesUpQuicklyOnLargeNonsense) {

@@ -15,7 +15,7 @@ const std::string kFileName = SOURCE_DIRECTORY "/data/FireStandardCheck.xml";
 
 std::vector<RuleFileNode> shippedRules() {
     std::vector<RuleFileNode> rules;
-    for (const RuleFileNode& group : readRuleFileNodes(kFileName).children)
+    for (const RuleFileNode& group : readRuleFileNodes(kFileName).root.children)
         for (const RuleFileNode& rule : group.children)
             if (rule.kind == RuleFileNode::Kind::Element)
                 rules.push_back(rule);

@@ -38,6 +38,31 @@ std::string distant(const std::string& first, const std::string& reference, cons
            reference + "\"\nConstraintCondition=\"" + condition + "\"\nDistantValue=\"" + value + "\"/>";
 }
 
+std::string saying(const std::string& rule, const std::string& description) {
+    return rule.substr(0, rule.size() - 2) + "><RuleDescription>" + description + "</RuleDescription></Any>";
+}
+
+TEST(LintRuleFile, TextsAndLimits) {
+    const std::string seven = distant("ELEMENT_TYPE_PREFABHOUSE", "EDO_TYPE_WOODYARD", "7", "less", "Any");
+    const std::string ranged =
+        distant("ELEMENT_TYPE_PREFABHOUSE", "EDO_TYPE_WOODYARD", "3:7.5", "less or more", "Any");
+    expectFindingsInGroup({
+        {saying(seven, "Less than 7 m, of 12 m"), {}},
+        {saying(seven, "Less than 9 m apart"), {"6:18 other-limit"}},
+        {saying(seven, "少于9米的"), {"6:18 other-limit"}},
+        {saying(seven, "9 mm, 9 m², 2.7 mio, GB 50720-2011, 3.2.1"), {}},
+        {saying(ranged, "At most 7.50 m"), {}},
+        {R"(<Self_RoadMinWidth Type="self"><RuleDetailDescription>6 m</RuleDetailDescription></Self_RoadMinWidth>)",
+         {"2:32 other-limit"}},
+        {R"(<Self_PrefabHouseRoomArea Type="self"><RuleDescription>90 m²</RuleDescription></Self_PrefabHouseRoomArea>)",
+         {"2:39 other-limit"}},
+        {distant("ELEMENT_TYPE_PREFABHOUSE", "EDO_TYPE_WOODYARD", "7000"), {"6:1 doubtful-distance"}},
+        {distant("ELEMENT_TYPE_PREFABHOUSE", "EDO_TYPE_WOODYARD", "1e308"), {"6:1 doubtful-distance"}},
+        {distant("ELEMENT_TYPE_PREFABHOUSE", "EDO_TYPE_WOODYARD", "nan"), {"6:1 bad-distance"}},
+        {R"(<Self_RoadLoop Type="self" Standard=")" + std::string("\xBB\xF0\"/>"), {"2:38 wrong-bytes"}},
+    });
+}
+
 TEST(LintRuleFile, TypesAndNames) {
     expectFindingsInGroup({
         {R"(<Self_RoadLoop Type="self"/>)", {}},

@@ -52,7 +52,7 @@ double distanceBetween(const std::string& first, const std::string& reference,
 TEST(RuleVocabulary, HoldsTheNamesOfTheShippedRuleFileWithTheirTypes) {
     std::set<std::string> shipped;
     for (const RuleFileNode& group :
-         readRuleFileNodes(SOURCE_DIRECTORY "/data/FireStandardCheck.xml").children) {
+         readRuleFileNodes(SOURCE_DIRECTORY "/data/FireStandardCheck.xml").root.children) {
         for (const RuleFileNode& rule : group.children) {
             const RuleName* known = findRuleName(rule.name);
             if (!known)

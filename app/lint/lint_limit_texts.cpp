@@ -1,0 +1,81 @@
+#include "lint/lint_limit_texts.h"
+
+#include "evaluators/rule_catalogue.h"
+
+#include <QRegularExpression>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+
+namespace firecheck {
+
+namespace {
+
+using firestandard::RuleTest;
+
+struct Limits {
+    std::vector<double> values; ///< none for a rule without a limit of this unit
+    bool isArea = false;
+};
+
+Limits fixedLimits(const firestandard::RuleRow& row) {
+    switch (row.test) {
+    case RuleTest::RoadMinWidth:
+    case RuleTest::FireExtinguisherBox:
+    case RuleTest::FireRoadHeadroom:
+        return {{row.fixedLimits[0] / firestandard::kMillimetresPerMetre}};
+    case RuleTest::PrefabHouseFloorArea:
+    case RuleTest::PrefabHouseRoomArea:
+        return {{row.fixedLimits[0]}, true};
+    default:
+        return {};
+    }
+}
+
+Limits limitsOf(const RuleFileNode& rule) {
+    const QString type = QString::fromStdString(rule.value("Type"));
+    if (type == "distant") {
+        Limits limits;
+        for (const QString& part : QString::fromStdString(rule.value("DistantValue")).split(':'))
+            limits.values.push_back(part.toDouble());
+        return limits;
+    }
+    const auto* row = firestandard::findRule(QString::fromStdString(rule.name), type);
+    return row ? fixedLimits(*row) : Limits();
+}
+
+/// "4", "3.5" and the like before "m", "metres", "米" or "m2", "m²", "平方米".
+std::optional<double> firstFigure(const std::string& text, bool isArea) {
+    static const QString number = QStringLiteral("(?<![A-Za-z0-9.,])(\\d+(?:\\.\\d+)?)\\s*");
+    static const QRegularExpression length(number +
+                                           QStringLiteral("(?:(?:m|met(?:re|er)s?)(?![A-Za-z0-9²])|米)"));
+    static const QRegularExpression area(number +
+                                         QStringLiteral("(?:m²|m2|sq m|㎡|平方米|square met(?:re|er)s?)"));
+    const auto match = (isArea ? area : length).match(QString::fromStdString(text));
+    return match.hasMatch() ? std::optional(match.captured(1).toDouble()) : std::nullopt;
+}
+
+} // namespace
+
+void lintLimitTexts(const RuleFileNode& rule, LintFindings& findings) {
+    const Limits limits = limitsOf(rule);
+    if (limits.values.empty())
+        return;
+    for (const RuleFileNode& text : rule.children) {
+        if (text.name != "RuleDescription" && text.name != "RuleDetailDescription")
+            continue;
+        const auto figure = firstFigure(text.text, limits.isArea);
+        if (!figure || std::any_of(limits.values.begin(), limits.values.end(),
+                                   [&](double limit) { return std::abs(limit - *figure) < 1e-9; }))
+            continue;
+        const auto shown = [&](double value) {
+            return QString::number(value, 'g', 10).toStdString() + (limits.isArea ? " m²" : " m");
+        };
+        findings.add(text.place, "other-limit",
+                     "The text speaks of " + shown(*figure) + ", but the rule judges by " +
+                         shown(limits.values.front()) + ".");
+    }
+}
+
+} // namespace firecheck
