@@ -14,6 +14,15 @@ using namespace firecheck;
 
 namespace {
 
+/// The host's names of files are texts; one that is none would be taken for another file.
+void requireUtf8(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i)
+        if (QString::fromUtf8(argv[i]).toUtf8() != argv[i])
+            throw InputError("Argument " + std::to_string(i) + ", \"" +
+                             QString::fromUtf8(argv[i]).toStdString() +
+                             "\": expected UTF-8. Rename the file.");
+}
+
 int run(QStringList words) {
     if (words.value(0) == "--version" || words.value(0) == "-V") {
         Output output{QString()};
@@ -36,6 +45,7 @@ int main(int argc, char** argv) {
     firecheck::useUtf8();
     const QCoreApplication application(argc, argv);
     try {
+        requireUtf8(argc, argv);
         return run(QCoreApplication::arguments().mid(1));
     } catch (const std::exception& error) {
         complain(error.what());

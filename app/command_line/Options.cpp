@@ -13,8 +13,12 @@ Options::Options(const QStringList& words, const Command& command) : m_command(c
         m_parser.addOption({names, {}, option.value});
     }
     // The parser expects the program's name first.
-    if (m_parser.parse(QStringList("firecheck") + words))
+    if (m_parser.parse(QStringList("firecheck") + words)) {
+        if (arguments().contains(QString()))
+            throw InputError("An argument is empty. Try \"firecheck help " + std::string(command.name) +
+                             "\".");
         return;
+    }
     std::string suggestion;
     std::vector<std::string> known;
     for (const CommandOption& option : command.options)

@@ -5,6 +5,7 @@
 #include "explain/rule_text_fields.h"
 #include "rules/rule_file.h"
 #include "rules/rule_texts.h"
+#include "text/printable.h"
 
 namespace firecheck {
 
@@ -21,17 +22,21 @@ std::string rulesAsJson(const RuleMap& rules) {
     return Json{{"rules", std::move(entries)}}.dump(2) + "\n";
 }
 
-/// Texts are quoted as in JSON, so that blanks and control characters show; empty ones are left out.
+std::string quoted(const QString& text) {
+    return printable(Json(text.toStdString()).dump());
+}
+
+/// Texts are quoted as in JSON, so that blanks show; empty ones are left out.
 std::string rulesAsText(const RuleMap& rules) {
     std::string text;
     for (auto entry = rules.begin(); entry != rules.end(); ++entry) {
-        text += Json(entry.key().toStdString()).dump() + "\n";
+        text += quoted(entry.key()) + "\n";
         for (const NuxStandardCheckRule& rule : entry.value()) {
             const char* bullet = "  - ";
             for (const auto& [name, member] : firestandard::ruleTextFields()) {
                 if ((rule.*member).isEmpty())
                     continue;
-                text += bullet + std::string(name) + ": " + Json((rule.*member).toStdString()).dump() + "\n";
+                text += bullet + std::string(name) + ": " + quoted(rule.*member) + "\n";
                 bullet = "    ";
             }
         }

@@ -1,5 +1,6 @@
 #include "report/ReportWriter.h"
 #include "report/unjudged_text.h"
+#include "text/printable.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,14 +16,17 @@ QString quoted(QString text) {
     return '"' + text.replace('"', "\"\"") + '"';
 }
 
-/// A text that came from a file: a spreadsheet must not take it for a formula.
-QString cell(const QString& text) {
-    const bool looksLikeFormula = !text.isEmpty() && QStringLiteral("=+-@\t\r\n").contains(text[0]);
+/// A text that came from a file: a spreadsheet must not take it for a formula, whatever blanks stand before
+/// its first character and however wide that is.
+QString cell(const std::string& utf8) {
+    const QString text = QString::fromStdString(printable(utf8));
+    const QString start = text.trimmed().left(1);
+    const bool looksLikeFormula = !start.isEmpty() && QStringLiteral("=+-@＝＋－＠").contains(start);
     return quoted(looksLikeFormula ? "'" + text : text);
 }
 
-QString cell(const std::string& utf8) {
-    return cell(QString::fromStdString(utf8));
+QString cell(const QString& text) {
+    return cell(text.toStdString());
 }
 
 QString cell(long long number) {

@@ -1,18 +1,37 @@
 #include "text/printable.h"
 
 #include <QString>
+#include <QVector>
 
 namespace firecheck {
 
-std::string printable(const std::string& utf8) {
-    QString text = QString::fromStdString(utf8);
-    for (QChar& character : text) {
-        const auto category = character.category();
-        const bool breaksLine = category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
-        if (category == QChar::Other_Control || category == QChar::Other_Format || breaksLine)
-            character = '?';
+namespace {
+
+bool isHarmful(uint character) {
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
     }
-    return text.toStdString();
+}
+
+} // namespace
+
+std::string printable(const std::string& utf8) {
+    QVector<uint> characters = QString::fromStdString(utf8).toUcs4();
+    for (uint& character : characters)
+        if (isHarmful(character))
+            character = '?';
+#if QT_VERSION_MAJOR >= 6
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size())
+        .toStdString();
+#else
+    return QString::fromUcs4(characters.constData(), characters.size()).toStdString();
+#endif
 }
 
 } // namespace firecheck

@@ -1,9 +1,12 @@
 #include "text/shortened.h"
 
+#include "text/printable.h"
+
 namespace firecheck {
 
-std::string shortened(const std::string& text) {
+std::string shortened(const std::string& whole) {
     constexpr std::size_t longest = 80;
+    const std::string text = printable(whole.substr(0, 4 * longest));
     if (text.size() <= longest)
         return text;
     std::size_t end = longest;

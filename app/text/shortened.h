@@ -4,7 +4,7 @@
 
 namespace firecheck {
 
-/// A text of the input as messages show it: its start and "..." where it is long, UTF-8 kept whole.
-std::string shortened(const std::string& text);
+/// A text of the input as messages quote it: printable, and its start and "..." where it is long.
+std::string shortened(const std::string& whole);
 
 } // namespace firecheck

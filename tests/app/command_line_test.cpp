@@ -27,6 +27,9 @@ protected:
             {"class": "drawing", "handle": 4, "refusesToOpen": true}]})");
         write("fine.json", R"({"objects": [{"class": "woodYard", "handle": 1,
             "circle": {"center": [0, 0], "radius": 900}}]})");
+        write("doubtful.json", "{\"objects\": [{\"class\": \"road\", \"handle\": 3, \"start\": [0, 0],\n"
+                               "\"end\": [9, 0], \"width\": 4}]}");
+        write("wrong.json", "{\"objects\": [{\"class\": \"rod\", \"handle\": 3}]}");
         write("truncated.json", R"({"objects": [)");
         write("rules.xml", R"(<Rules><Roads><Self_RoadMinWidth Type="self" Standard="clause 1"
             ElementType="NUX_EDO_TYPE_ROAD"><RuleDescription> 太窄 </RuleDescription></Self_RoadMinWidth>
@@ -152,6 +155,47 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          "fine.json\n1 object, no violations, 2 rules left out\n", kMention, 0},
         {"firecheck check --rules rules.xml fine.json --select 'Width'", "",
          kMention + "firecheck: No rule has a name like \"Width\". Try \"firecheck show-rules\".\n", 2},
+        {"firecheck show-rules ''", "",
+         "firecheck: An argument is empty. Try \"firecheck help show-rules\".\n", 2},
+        {"firecheck check \"$(printf 'a\\377.json')\"", "",
+         "firecheck: Argument 2, \"a\uFFFD.json\": expected UTF-8. Rename the file.\n", 2},
+        {"firecheck check doubtful.json --rules rules.xml | head -1", "doubtful.json\n",
+         kMention + "firecheck: doubtful.json: 2 doubts about the site file, see \"firecheck lint-site\"\n",
+         0},
+        {"firecheck lint-site doubtful.json fine.json wrong.json truncated.json --rules rules.xml",
+         "doubtful.json:2:1: doubt: #3, /objects/0/end: 9 mm is less than 200 mm, which no such element has. Did you "
+         "mean \"9000\"? [doubtful-size]\n"
+         "doubtful.json:2:16: doubt: #3, /objects/0/width: 4 mm is less than 1000 mm, which no such element has. Did "
+         "you mean \"4000\"? [doubtful-size]\n"
+         "doubtful.json: 2 doubts\n"
+         "fine.json: clean\n"
+         "wrong.json:1:15: error: #3, /objects/0/class: unknown class \"rod\"; did you mean \"road\"? [refused]\n"
+         "wrong.json: 1 error\n",
+         "firecheck: truncated.json:1:14: expected JSON in UTF-8: unexpected end of input; "
+         "expected '[', '{', or a literal\n",
+         2},
+        {"firecheck lint-site wrong.json --format json",
+         R"({
+  "sites": [
+    {
+      "file": "wrong.json",
+      "findings": [
+        {
+          "kind": "error",
+          "line": 1,
+          "column": 15,
+          "pointer": "/objects/0/class",
+          "code": "refused",
+          "handle": "3",
+          "message": "unknown class \"rod\"",
+          "suggestion": "road"
+        }
+      ]
+    }
+  ]
+}
+)",
+         "", 1},
         {"firecheck help check > /dev/full", "",
          "firecheck: standard output: cannot be written: No space left on device\n", 2},
     };

@@ -210,10 +210,12 @@ TEST_F(Renderers, KeepNamesFromBecomingAnythingElse) {
     EXPECT_TRUE(plan.setContent(planSvgFile(siteNamed("a\x01\x7f b"))));
 
     constexpr int nameColumn = 11;
-    for (const char* name : {"=1+1", "+1", "-1", "@SUM(A1)", "\tx"})
+    for (const char* name : {"=1+1", "+1", "-1", "@SUM(A1)", "＝1+1", "＠A1", "  =1", "\u00a0=1", "\u3000-1"})
         EXPECT_EQ(roadRow(name).value(nameColumn), "'" + QString(name));
-    const QStringList row = roadRow("a,\"b\"\r\nc");
-    EXPECT_EQ(row.value(nameColumn), "a,\"b\"\r\nc");
+    for (const char* format : {"\t", "\u200b", "\u202e", "\u0085", "\U000e0001"})
+        EXPECT_EQ(roadRow((format + std::string("=1")).c_str()).value(nameColumn), "?=1");
+    const QStringList row = roadRow("a,\"b\" c");
+    EXPECT_EQ(row.value(nameColumn), "a,\"b\" c");
     EXPECT_EQ(row.value(nameColumn + 1), "-4.5"); // a number stays one
 }
 
