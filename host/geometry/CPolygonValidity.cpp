@@ -144,9 +144,24 @@ Spans spansOf(const CPolygon& polygon) {
     return spans;
 }
 
+/// Lines that all lie on one parallel of an axis overlap, but never cross.
+bool liesAlongAxis(const CPolygon& polygon) {
+    const CVec2<double> first = plan::firstCorner(polygon);
+    bool isLevel = true;
+    bool isUpright = true;
+    for (const CCoedgeList& loop : polygon.loops())
+        for (const Edge2d& edge : loop.edges()) {
+            isLevel = isLevel && edge.bulge == 0.0 && edge.start.y == first.y && edge.end.y == first.y;
+            isUpright = isUpright && edge.bulge == 0.0 && edge.start.x == first.x && edge.end.x == first.x;
+            if (!isLevel && !isUpright)
+                return false;
+        }
+    return true;
+}
+
 /// Sweeps across the main direction, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
-    if (!isFinite(polygon))
+    if (!isFinite(polygon) || liesAlongAxis(polygon))
         return true;
     Spans spans = spansOf(polygon);
     std::sort(spans.begin(), spans.end(),
