@@ -55,6 +55,13 @@ const std::vector<Command>& commands() {
          "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
          "when lint-rules or lint-site would find something.",
          checkCommand},
+        {"compare",
+         "OLD.json NEW.json",
+         {format("text|json"), kOutput, kLanguage},
+         "Tells what changed between two JSON reports: violations that are new, worse, better or gone.",
+         "The exit status is 1 when anything that is not accepted is new or worse, or is no longer reported because "
+         "its rule was not run or its element not judged.",
+         compareCommand},
         {"plan",
          "SITE",
          {kRules, kOutput, kLanguage},
