@@ -31,8 +31,9 @@ QString listed(const QStringList& named, std::size_t total) {
     if (others > 0)
         parts << (others == 1 ? Words::tr("1 other") : Words::tr("%n others", "", others));
     const QString last = parts.takeLast();
-    return parts.isEmpty() ? last
-                           : Words::tr("%1 and %2", "end of a list").arg(parts.join(Words::tr(", ")), last);
+    return parts.isEmpty()
+               ? last
+               : Words::tr("%1 and %2", "end of a list").arg(parts.join(Words::tr(", ", "in a list")), last);
 }
 
 QString relatedList(const Subject& subject) {

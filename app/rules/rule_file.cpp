@@ -4,6 +4,7 @@
 #include "base/rooted_file_name.h"
 #include "rules_config/NUXRuleConfigFile.h"
 #include "rules_config/rule_file_bounds.h"
+#include "text/language.h"
 #include "text/words.h"
 
 #include <QCoreApplication>
@@ -14,7 +15,9 @@
 namespace firecheck {
 
 std::string defaultRuleFile() {
-    const QString fileName = "FireStandardCheck.xml";
+    const QString language = currentLanguage();
+    const QString fileName =
+        language == "en" ? QStringLiteral("FireStandardCheck.xml") : "FireStandardCheck." + language + ".xml";
     const QString installed =
         QCoreApplication::applicationDirPath() + "/../share/firestandardcheck/" + fileName;
     if (QFileInfo(installed).isFile())

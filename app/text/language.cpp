@@ -3,7 +3,6 @@
 #include "InputError.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QTranslator>
 
 // Resources of a static library are linked only when they are asked for, from outside any namespace.
@@ -13,15 +12,37 @@ static void initialiseLanguages() {
 
 namespace firecheck {
 
+namespace {
+
+const QString kEnglish = QStringLiteral("en");
+
+struct Language {
+    QString name = kEnglish;
+    QTranslator translator;
+};
+
+Language& language() {
+    static Language current;
+    return current;
+}
+
+} // namespace
+
 void useLanguage(const QString& name) {
-    static QTranslator translator;
-    QCoreApplication::removeTranslator(&translator);
-    if (name == "en")
-        return;
     initialiseLanguages();
-    if (!translator.load(":/languages/" + name + ".qm"))
-        throw InputError("No language has the name \"" + name.toStdString() + "\". Known are en and zh_CN.");
-    QCoreApplication::installTranslator(&translator);
+    QTranslator& translator = language().translator;
+    QCoreApplication::removeTranslator(&translator);
+    if (name != kEnglish) {
+        if (!translator.load(":/languages/" + name + ".qm"))
+            throw InputError("No language has the name \"" + name.toStdString() +
+                             "\". Known are en and zh_CN.");
+        QCoreApplication::installTranslator(&translator);
+    }
+    language().name = name;
+}
+
+QString currentLanguage() {
+    return language().name;
 }
 
 } // namespace firecheck
