@@ -15,7 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 TRANSLATION = ROOT / "data/firecheck_zh_CN.ts"
 # Latin letters that stand in a Chinese report: identifiers, rule names, keys, units, clauses and names of files.
 TECHNICAL = re.compile(
-    r"NUX_\w+|/objects/[\w/]+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
+    r"NUX_\w+|\([a-zA-Z]+\)|/objects/[\w/]+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
 )
 
 
