@@ -14,6 +14,12 @@ const CommandOption kOutput{
     "output", "FILE",
     "Write the result to this file, which takes the place of an older one only when all is written."};
 
+const CommandOption kReach{"reach", "METRES", "The longest move that is tried; 10 unless given."};
+const CommandOption kKeep{"keep", "HANDLE", "Leave the element of this handle as it is; may be repeated."};
+const CommandOption kMove{"move", "CLASS",
+                          "Move objects of this class, too, as futureHouse or road, which stay where they are "
+                          "otherwise; may be repeated."};
+
 CommandOption format(const char* choice) {
     return {"format", choice, "The format of the result; the first one unless given."};
 }
@@ -38,6 +44,9 @@ const std::vector<Command>& commands() {
            "Report only the rules whose name fits the pattern, with * and ?; may be repeated."},
           {"ignore", "PATTERN",
            "Leave the rules whose name fits the pattern out of the report; may be repeated."},
+          {"suggest", "",
+           "Tell for each violation the smallest change of one element that removes it, in text and JSON. "
+           "\"firecheck help suggest\" tells more."},
           {"unjudged", "", "List the elements, too, that no rule compared with anything."},
           {"no-results", "", "Leave the engine's own two maps out of JSON."},
           {"accept", "FILE",
@@ -52,6 +61,25 @@ const std::vector<Command>& commands() {
          "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
          "when lint-rules or lint-site would find something.",
          checkCommand},
+        {"suggest",
+         "SITE",
+         {kRules,
+          format("text|json"),
+          kOutput,
+          kReach,
+          kKeep,
+          kMove,
+          {"all", "",
+           "Tell a sequence of changes for the whole site instead, until nothing is left or nothing helps, and what "
+           "remains."},
+          {"apply", "FILE",
+           "Write the site with the changes of --all, which this implies, and everything else as it was."}},
+         "Tells what would remove each violation: a move, a turn, a wider road, another box.",
+         "Each suggestion is the smallest change found of one element. The checker has judged the whole site with "
+         "it: the violation is gone, none is new and none is worse. Houses, sheds, yards, substations, boxes, "
+         "posters, cranes and models are moved, in steps of 10 mm; buildings under construction, roads, walls and "
+         "doors are not.",
+         suggestCommand},
         {"plan",
          "SITE",
          {kRules, kOutput},

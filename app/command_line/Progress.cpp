@@ -23,15 +23,19 @@ Progress::~Progress() {
 }
 
 void Progress::tell(const firestandard::CheckStep& step) {
+    tell(step.judged, step.rules, step.next.name.toStdString());
+}
+
+void Progress::tell(std::size_t done, std::size_t all, const std::string& next) {
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - m_begin;
     if (!m_isTerminal || spent < kPatience)
         return;
-    std::string line = m_fileName + ": " + std::to_string(100 * step.judged / step.rules) + " %";
-    if (step.judged > 0) {
-        const double left = spent.count() / double(step.judged) * double(step.rules - step.judged);
+    std::string line = m_fileName + ": " + std::to_string(100 * done / all) + " %";
+    if (done > 0) {
+        const double left = spent.count() / double(done) * double(all - done);
         line += ", about " + std::to_string(static_cast<long>(left) + 1) + " s left";
     }
-    write(line + ", " + printable(step.next.name.toStdString()));
+    write(line + ", " + printable(next));
 }
 
 void Progress::write(const std::string& line) {

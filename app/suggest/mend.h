@@ -10,6 +10,9 @@ namespace firecheck {
 /// Dispatches by the rule that found the targets, of which there is at least one.
 std::optional<Proposal> mend(Workbench& bench, const Targets& targets);
 
+/// What keeps them from being removed, after `mend` has found nothing. Takes the obstacles of the bench.
+std::string whyNothingHelps(Workbench& bench, const Targets& targets);
+
 /// Moves one of two elements, or turns it.
 std::optional<Proposal> mendDistance(Workbench& bench, const Targets& targets);
 

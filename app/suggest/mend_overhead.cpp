@@ -45,8 +45,9 @@ std::optional<Proposal> changed(Workbench& bench, const Targets& targets, std::s
 
 std::optional<Proposal> buriedCable(Workbench& bench, const Targets& targets, std::size_t cable) {
     Json object = bench.site().object(cable);
-    object["startElevationMetres"] = -kBurialDepth / kMillimetresPerMetre;
-    object.erase("endElevationMetres");
+    for (const char* key : {"startElevationMetres", "endElevationMetres"})
+        if (object.contains(key))
+            object[key] = -kBurialDepth / kMillimetresPerMetre;
     return changed(bench, targets, cable, std::move(object), Action::Kind::Bury, kBurialDepth);
 }
 
