@@ -63,10 +63,12 @@ private:
         return m_asked.count(offence) > 0 || m_asked.count(touched) > 0;
     }
 
-    /// The nearest box, and of areas the last, which is the one too large where there is one.
+    /// The nearest box, and the largest room.
     void keep(const Offence& offence, const JudgedValue& value) {
         const auto [known, isNew] = m_verdict.values.try_emplace(offence, value);
-        if (!isNew && (!m_isBoxRule || value.measurement.value < known->second.measurement.value))
+        const double kept = known->second.measurement.value;
+        const double told = value.measurement.value;
+        if (!isNew && (m_isBoxRule ? told < kept : told > kept))
             known->second = value;
     }
 

@@ -24,7 +24,7 @@ struct JudgedValue {
 /// What the engine says of a site.
 struct Verdict {
     Offences offences;
-    /// Of distances by pair, of boxes the nearest, of others by element: what offends, and what was asked for.
+    /// Of distances by pair, of boxes the nearest, of areas the largest: what offends, and what was asked for.
     std::map<Offence, JudgedValue> values;
     /// Elements, by rule, that an extinguisher box rule ended at or before.
     std::set<std::pair<std::size_t, long long>> unreached;

@@ -191,7 +191,13 @@ OffenceDifference Neighbourhood::differenceWith(const Change& change) {
         if (one.index)
             one.index = m_slots.at(*one.index);
     const PutForNow put(here, m_part[kObjectsKey]);
-    return differenceBetween(m_before, m_site.judge().judge(m_part).offences);
+    OffenceDifference difference = differenceBetween(m_before, m_site.judge().judge(m_part).offences);
+    // What offends here alone does so for lack of a box that stands farther off.
+    const Offences& known = m_site.verdict().offences;
+    difference.worse.erase(std::remove_if(difference.worse.begin(), difference.worse.end(),
+                                          [&](const Offence& offence) { return known.count(offence) == 0; }),
+                           difference.worse.end());
+    return difference;
 }
 
 } // namespace firecheck

@@ -170,7 +170,7 @@ template <class Key> std::vector<Key> mostOften(const std::map<Key, std::size_t>
 }
 
 QString listed(const QStringList& names) {
-    return names.size() == 2 ? Words::tr("%1 and %2").arg(names[0], names[1]) : names.value(0);
+    return names.size() == 2 ? Words::tr("%1 or %2").arg(names[0], names[1]) : names.value(0);
 }
 
 } // namespace
@@ -203,10 +203,6 @@ const char* actionName(Action::Kind kind) {
     return "move";
 }
 
-std::string actionText(const TrialSite& site, const Proposal& proposal) {
-    return doneText(site, proposal).toStdString();
-}
-
 std::string proposalText(const TrialSite& site, const Proposal& proposal, const Targets& targets) {
     const QString done = doneText(site, proposal);
     const auto value = tellingValue(proposal, targets);
@@ -226,13 +222,13 @@ std::string obstacleText(const TrialSite& site, const Obstacles& obstacles, doub
         elements << shown(site.element(index).phrase);
     const QString within = metres(reach);
     if (!rules.isEmpty() && !elements.isEmpty())
-        return Words::tr("nothing within %1 helps: every way breaks %2 or stands in %3")
+        return Words::tr("nothing within %1 helps: every way breaks %2, or stands in %3")
             .arg(within, listed(rules), listed(elements))
             .toStdString();
     if (!rules.isEmpty())
         return Words::tr("nothing within %1 helps: every way breaks %2").arg(within, listed(rules)).toStdString();
     if (!elements.isEmpty())
-        return Words::tr("nothing within %1 helps: %2 stands in the way").arg(within, listed(elements)).toStdString();
+        return Words::tr("nothing within %1 helps: every way stands in %2").arg(within, listed(elements)).toStdString();
     return Words::tr("nothing within %1 helps").arg(within).toStdString();
 }
 

@@ -19,7 +19,7 @@ std::optional<Proposal> mendDistance(Workbench& bench, const Targets& targets);
 /// Moves a box, or adds one, or moves the element.
 std::optional<Proposal> mendBox(Workbench& bench, const Targets& targets);
 
-/// Moves what lies below the cable, or lays the cable in the ground.
+/// Moves what lies below the cable, or the cable where such may be moved, or lays it in the ground.
 std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets);
 
 /// Raises, moves or turns what reaches into the room above a fire road.

@@ -108,6 +108,8 @@ std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets) {
         return std::nullopt;
     if (auto moved = moveAcross(bench, targets, *area, bench.site().element(*cable)))
         return moved;
+    if (auto moved = moveAcross(bench, targets, *cable, bench.site().element(*cable)))
+        return moved;
     return bench.mayChange(*cable) ? buriedCable(bench, targets, *cable) : std::nullopt;
 }
 
