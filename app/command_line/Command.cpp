@@ -16,9 +16,10 @@ const CommandOption kOutput{
 
 const CommandOption kReach{"reach", "METRES", "The longest move that is tried; 10 unless given."};
 const CommandOption kKeep{"keep", "HANDLE", "Leave the element of this handle as it is; may be repeated."};
-const CommandOption kMove{"move", "CLASS",
-                          "Move objects of this class, too, as futureHouse or road, which stay where they are "
-                          "otherwise; may be repeated."};
+const CommandOption kMove{
+    "move", "CLASS",
+    "Move objects of this class, too, as futureHouse or road, which stay where they are "
+    "otherwise; may be repeated."};
 
 CommandOption format(const char* choice) {
     return {"format", choice, "The format of the result; the first one unless given."};

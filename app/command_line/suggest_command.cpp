@@ -26,8 +26,8 @@ double reachOf(const Options& options) {
     bool isNumber = false;
     const double metres = given->toDouble(&isNumber);
     if (!isNumber || !(metres > 0.0) || metres > longest)
-        throw InputError("Option --reach: expected metres above 0 and up to 1000, found \"" + given->toStdString() +
-                         "\".");
+        throw InputError("Option --reach: expected metres above 0 and up to 1000, found \"" +
+                         given->toStdString() + "\".");
     return metres / firestandard::kMetresPerMillimetre;
 }
 
@@ -39,7 +39,8 @@ std::set<std::string> movedClasses(const Options& options) {
     for (const QString& given : options.values("move")) {
         const std::string name = given.toStdString();
         if (std::find(known.begin(), known.end(), name) == known.end())
-            throw InputError("Option --move: no class is named \"" + name + "\". " + suggestionText(name, known) +
+            throw InputError("Option --move: no class is named \"" + name + "\". " +
+                             suggestionText(name, known) +
                              "Try \"firecheck site-schema --format markdown\".");
         classes.insert(name);
     }
@@ -52,7 +53,8 @@ std::set<long long> keptHandles(const Options& options, const Site& site) {
         bool isNumber = false;
         const long long handle = given.toLongLong(&isNumber);
         if (!isNumber || site.labels.count(handle) == 0)
-            throw InputError("Option --keep: the site has no object with the handle \"" + given.toStdString() + "\".");
+            throw InputError("Option --keep: the site has no object with the handle \"" +
+                             given.toStdString() + "\".");
         handles.insert(handle);
     }
     return handles;

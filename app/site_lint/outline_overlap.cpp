@@ -28,8 +28,7 @@ double signedDistance(const Point& start, const Point& end, const Point& point) 
 /// Whether two edges cross, each end beyond the tolerance on its own side of the other.
 bool crossDeeply(const Point& a, const Point& b, const Point& c, const Point& d, double tolerance) {
     const auto apart = [tolerance](double first, double second) {
-        return std::min(std::abs(first), std::abs(second)) > tolerance &&
-               (first < 0.0) != (second < 0.0);
+        return std::min(std::abs(first), std::abs(second)) > tolerance && (first < 0.0) != (second < 0.0);
     };
     return apart(signedDistance(c, d, a), signedDistance(c, d, b)) &&
            apart(signedDistance(a, b, c), signedDistance(a, b, d));

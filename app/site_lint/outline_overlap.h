@@ -14,8 +14,8 @@ struct PlanOutline {
 
 PlanOutline planOutlineOf(const PlanPath& path);
 
-/// Whether two outlines have ground in common, or one crosses or holds the other, by more than `tolerance` mm.
-/// Two lines along each other have none.
+/// Whether two outlines have ground in common, or one crosses or holds the other, by more than `tolerance`
+/// mm. Two lines along each other have none.
 bool standInEachOther(const PlanOutline& a, const PlanOutline& b, double tolerance);
 
 } // namespace firecheck

@@ -7,9 +7,9 @@ namespace firecheck {
 
 namespace {
 
-constexpr double kFinest = 1e-6;   ///< mm; digits beyond are rounding noise
-constexpr double kPerUnit = 1e6;   ///< of the finest
-constexpr double kFarthest = 1e9;  ///< mm; beyond, doubles are coarser than the finest
+constexpr double kFinest = 1e-6;  ///< mm; digits beyond are rounding noise
+constexpr double kPerUnit = 1e6;  ///< of the finest
+constexpr double kFarthest = 1e9; ///< mm; beyond, doubles are coarser than the finest
 
 void movePoint(Json& point, const PlanMove& move) {
     point[0] = sumOf(point[0], double(move.dx));
@@ -46,7 +46,8 @@ Json sumOf(const Json& number, double addend) {
     if (std::abs(sum) < kFarthest)
         sum = std::round(sum * kPerUnit) / kPerUnit;
     const bool isWhole = std::abs(sum - std::round(sum)) < kFinest && std::abs(sum) < kFarthest;
-    return number.is_number_integer() && isWhole ? Json(static_cast<std::int64_t>(std::llround(sum))) : Json(sum);
+    return number.is_number_integer() && isWhole ? Json(static_cast<std::int64_t>(std::llround(sum)))
+                                                 : Json(sum);
 }
 
 Json movedObject(Json object, const PlanMove& move) {
@@ -60,9 +61,9 @@ Json movedObject(Json object, const PlanMove& move) {
 }
 
 std::optional<Json> turnedObject(Json object, int degrees) {
-    const bool isTurnable = object.contains("position") ||
-                            (object.contains("center") && !object.contains("polyline") &&
-                             !object.contains("circle"));
+    const bool isTurnable =
+        object.contains("position") ||
+        (object.contains("center") && !object.contains("polyline") && !object.contains("circle"));
     if (!isTurnable || object.contains("secondView") || object.contains("extents"))
         return std::nullopt;
     object["angle"] = sumOf(object.value("angle", Json(0)), double(degrees));

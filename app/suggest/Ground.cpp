@@ -63,8 +63,8 @@ bool Ground::isInTheWay(const TrialElement& element, std::size_t other) const {
     const TrialElement& standing = m_site.element(other);
     if (kind == PlanKind::Cable)
         return false;
-    if (kind == PlanKind::Poster && (standing.shape.kind == PlanKind::Road ||
-                                     standing.shape.kind == PlanKind::FireRoad))
+    if (kind == PlanKind::Poster &&
+        (standing.shape.kind == PlanKind::Road || standing.shape.kind == PlanKind::FireRoad))
         return false;
     // Squares, lawns and the like are buildings of a site file, and carry what is put on them.
     return !(isCarried(kind) && standing.className == "building");
@@ -75,7 +75,8 @@ std::optional<std::size_t> Ground::obstacleIn(const TrialElement& element, const
     const auto first =
         std::lower_bound(m_pieces.begin(), m_pieces.end(), outline.box.low.x - m_widest,
                          [](const Piece& piece, double x) { return piece.outline.box.low.x < x; });
-    for (auto piece = first; piece != m_pieces.end() && piece->outline.box.low.x <= outline.box.high.x; ++piece)
+    for (auto piece = first; piece != m_pieces.end() && piece->outline.box.low.x <= outline.box.high.x;
+         ++piece)
         if (m_site.element(piece->index).handle != element.handle && isInTheWay(element, piece->index) &&
             std::find(excused.begin(), excused.end(), piece->index) == excused.end() &&
             standInEachOther(outline, piece->outline, kTolerance))

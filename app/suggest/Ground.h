@@ -16,12 +16,13 @@ class Ground {
 public:
     explicit Ground(const TrialSite& site);
 
-    /// The element in the way when that of `index` is moved, across a wall or into another; nothing when there
-    /// is none.
+    /// The element in the way when that of `index` is moved, across a wall or into another; nothing when
+    /// there is none.
     std::optional<std::size_t> obstacleOf(std::size_t index, const PlanMove& move) const;
 
     /// The same for an element as it would be instead of that of `index`, or beside all others.
-    std::optional<std::size_t> obstacleOf(const TrialElement& element, std::optional<std::size_t> index) const;
+    std::optional<std::size_t> obstacleOf(const TrialElement& element,
+                                          std::optional<std::size_t> index) const;
 
 private:
     struct Piece {

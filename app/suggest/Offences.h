@@ -6,8 +6,8 @@
 
 namespace firecheck {
 
-/// One thing that a rule finds fault with: of a distance rule each pair, of an extinguisher box rule the element
-/// whatever the boxes are.
+/// One thing that a rule finds fault with: of a distance rule each pair, of an extinguisher box rule the
+/// element whatever the boxes are.
 struct Offence {
     std::size_t rule = 0;   ///< by its number
     long long element = 0;  ///< 0 for the site as a whole

@@ -45,7 +45,8 @@ public:
         const Offence offence{m_rule, handleOf(comparison.element),
                               isPair && !m_isBoxRule ? handleOf(*comparison.other) : 0, false};
         if (comparison.offends || isAsked(offence))
-            keep(offence, {*comparison.measurement, isPair ? handleOf(*comparison.other) : 0, comparison.contact});
+            keep(offence,
+                 {*comparison.measurement, isPair ? handleOf(*comparison.other) : 0, comparison.contact});
     }
 
     void notJudged(const UdDbObject& element, NotJudged why) override {
@@ -136,8 +137,7 @@ std::vector<Offence> SiteJudge::offencesOf(const NuxStandardCheckRule& record, c
     Offence offence{number, record.handle, 0, false};
     if (isBoxRule(number)) {
         const auto nearest = verdict.values.find(offence);
-        offence.isTouched =
-            nearest != verdict.values.end() && nearest->second.measurement.value <= 0.0;
+        offence.isTouched = nearest != verdict.values.end() && nearest->second.measurement.value <= 0.0;
         return {offence};
     }
     std::vector<Offence> offences;

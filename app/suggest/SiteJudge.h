@@ -17,14 +17,15 @@ namespace firecheck {
 /// A value that the engine measured, in the units of CheckObserver.
 struct JudgedValue {
     firestandard::Measurement measurement;
-    long long other = 0; ///< the other element of a distance; 0 for none
+    long long other = 0;                          ///< the other element of a distance; 0 for none
     std::optional<firestandard::Contact> contact; ///< nothing where the rule took the distance for granted
 };
 
 /// What the engine says of a site.
 struct Verdict {
     Offences offences;
-    /// Of distances by pair, of boxes the nearest, of areas the largest: what offends, and what was asked for.
+    /// Of distances by pair, of boxes the nearest, of areas the largest: what offends, and what was asked
+    /// for.
     std::map<Offence, JudgedValue> values;
     /// Elements, by rule, that an extinguisher box rule ended at or before.
     std::set<std::pair<std::size_t, long long>> unreached;

@@ -31,17 +31,17 @@ struct SuggestedObject {
     long long handle = 0;
     std::string className;
     bool isNew = false;
-    Json keys;                              ///< that differ, with their values; of a new object all
-    std::vector<PlanPath> outline = {};     ///< mm, where it would stand
+    Json keys;                                        ///< that differ, with their values; of a new object all
+    std::vector<PlanPath> outline = {};               ///< mm, where it would stand
     std::optional<firestandard::PlanPoint> from = {}; ///< middle of where it stands; nothing for a new one
     std::optional<firestandard::PlanPoint> to = {};
 };
 
 /// One change, on which the engine has been asked.
 struct SuggestedStep {
-    std::string kind;                     ///< "move", "turn", "widen", ...
+    std::string kind;                                 ///< "move", "turn", "widen", ...
     std::optional<firestandard::PlanPoint> move = {}; ///< metres to the east and to the north
-    std::vector<SuggestedObject> objects; ///< one, but for what is added together
+    std::vector<SuggestedObject> objects;             ///< one, but for what is added together
     std::vector<SuggestedRemoval> removes;
     std::vector<SuggestedValue> values;
     std::string sentence; ///< what to do, and what the rule measures then; UTF-8

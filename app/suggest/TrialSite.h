@@ -46,7 +46,8 @@ public:
     /// The first handle that no object has, above all of them where there is one.
     long long freeHandle() const;
 
-    /// Whether rules may relate the object to others by where they stand: not so walls, doors and most models.
+    /// Whether rules may relate the object to others by where they stand: not so walls, doors and most
+    /// models.
     bool isJudgedByPlace(std::size_t index) const;
 
     /// The largest distance that any rule asks for, mm.

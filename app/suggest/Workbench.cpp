@@ -15,12 +15,23 @@ bool isHidden(const Offence& offence, const Verdict& after) {
 } // namespace
 
 const std::set<std::string>& movableClasses() {
-    static const std::set<std::string> classes = {
-        "prefabHouse",           "closedHouse", "openShed",     "transformerSubstation",
-        "totalStepDownSubstation", "building",  "woodYard",     "templateYard",
-        "electricalMechanicalYard", "yard",     "yardMesh",     "wastePool",
-        "towerCrane",            "poster",      "extinguisherBox", "model",
-        "sizelessModel"};
+    static const std::set<std::string> classes = {"prefabHouse",
+                                                  "closedHouse",
+                                                  "openShed",
+                                                  "transformerSubstation",
+                                                  "totalStepDownSubstation",
+                                                  "building",
+                                                  "woodYard",
+                                                  "templateYard",
+                                                  "electricalMechanicalYard",
+                                                  "yard",
+                                                  "yardMesh",
+                                                  "wastePool",
+                                                  "towerCrane",
+                                                  "poster",
+                                                  "extinguisherBox",
+                                                  "model",
+                                                  "sizelessModel"};
     return classes;
 }
 

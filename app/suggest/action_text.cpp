@@ -31,9 +31,11 @@ QString namedMoveText(const QString& element, const PlanMove& move) {
     const QString length = metres(move.length());
     const QString part = metres(double(std::abs(move.dx)));
     if (move.dx == 0)
-        return (move.dy > 0 ? Words::tr("Move %1 %2 north") : Words::tr("Move %1 %2 south")).arg(element, length);
+        return (move.dy > 0 ? Words::tr("Move %1 %2 north") : Words::tr("Move %1 %2 south"))
+            .arg(element, length);
     if (move.dy == 0)
-        return (move.dx > 0 ? Words::tr("Move %1 %2 east") : Words::tr("Move %1 %2 west")).arg(element, length);
+        return (move.dx > 0 ? Words::tr("Move %1 %2 east") : Words::tr("Move %1 %2 west"))
+            .arg(element, length);
     if (move.dx > 0)
         return (move.dy > 0 ? Words::tr("Move %1 %2 north-east, %3 on each axis")
                             : Words::tr("Move %1 %2 south-east, %3 on each axis"))
@@ -49,9 +51,11 @@ QString moveText(const QString& element, const PlanMove& move) {
     const QString x = metres(double(std::abs(move.dx)));
     const QString y = metres(double(std::abs(move.dy)));
     if (move.dx > 0)
-        return (move.dy > 0 ? Words::tr("Move %1 %2 east and %3 north") : Words::tr("Move %1 %2 east and %3 south"))
+        return (move.dy > 0 ? Words::tr("Move %1 %2 east and %3 north")
+                            : Words::tr("Move %1 %2 east and %3 south"))
             .arg(element, x, y);
-    return (move.dy > 0 ? Words::tr("Move %1 %2 west and %3 north") : Words::tr("Move %1 %2 west and %3 south"))
+    return (move.dy > 0 ? Words::tr("Move %1 %2 west and %3 north")
+                        : Words::tr("Move %1 %2 west and %3 south"))
         .arg(element, x, y);
 }
 
@@ -88,13 +92,15 @@ QString addedText(const Change& change) {
     const QString y = coordinate(at, 1);
     return (change.size() == 1
                 ? Words::tr("Add an object of class %1 and use \"%2\" at (%3, %4) m, %5 by %6")
-                : Words::tr("Add an object of class %1 and use \"%2\" at (%3, %4) m, %5 by %6, with an extinguisher "
-                            "box beside it"))
+                : Words::tr(
+                      "Add an object of class %1 and use \"%2\" at (%3, %4) m, %5 by %6, with an extinguisher "
+                      "box beside it"))
         .arg(className, useOf(object), x, y, size, depth);
 }
 
 QString turnText(const QString& element, double degrees) {
-    return (degrees > 0.0 ? Words::tr("Turn %1 by %2° counter-clockwise") : Words::tr("Turn %1 by %2° clockwise"))
+    return (degrees > 0.0 ? Words::tr("Turn %1 by %2° counter-clockwise")
+                          : Words::tr("Turn %1 by %2° clockwise"))
         .arg(element, QString::number(std::abs(degrees)));
 }
 
@@ -120,9 +126,11 @@ QString doneText(const TrialSite& site, const Proposal& proposal) {
         return Words::tr("Give %1 %2 floors instead of %3")
             .arg(element, QString::number(action.value), QString::number(action.before));
     case Action::Kind::Shorten:
-        return Words::tr("Shorten %1 to %2 from %3").arg(element, metres(action.value), metres(action.before));
+        return Words::tr("Shorten %1 to %2 from %3")
+            .arg(element, metres(action.value), metres(action.before));
     case Action::Kind::Partitions:
-        return Words::tr("Set the partitions of %1 at %2 m along it").arg(element, positionsText(action.positions));
+        return Words::tr("Set the partitions of %1 at %2 m along it")
+            .arg(element, positionsText(action.positions));
     case Action::Kind::MakeFireRoad:
         return Words::tr("Make %1 a fire road").arg(element);
     case Action::Kind::Add:
@@ -132,7 +140,8 @@ QString doneText(const TrialSite& site, const Proposal& proposal) {
 }
 
 /// The one nearest to its limit of those that the change is for; nothing where nothing is measured.
-std::optional<std::pair<Offence, JudgedValue>> tellingValue(const Proposal& proposal, const Targets& targets) {
+std::optional<std::pair<Offence, JudgedValue>> tellingValue(const Proposal& proposal,
+                                                            const Targets& targets) {
     std::optional<std::pair<Offence, JudgedValue>> telling;
     for (Offence offence : targets) {
         offence.isTouched = false;
@@ -162,7 +171,8 @@ template <class Key> std::vector<Key> mostOften(const std::map<Key, std::size_t>
     std::vector<std::pair<std::size_t, Key>> sorted;
     for (const auto& [key, count] : counts)
         sorted.emplace_back(count, key);
-    std::stable_sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<Key> keys;
     for (std::size_t i = 0; i < std::min(most, sorted.size()); ++i)
         keys.push_back(sorted[i].second);
@@ -226,9 +236,13 @@ std::string obstacleText(const TrialSite& site, const Obstacles& obstacles, doub
             .arg(within, listed(rules), listed(elements))
             .toStdString();
     if (!rules.isEmpty())
-        return Words::tr("nothing within %1 helps: every way breaks %2").arg(within, listed(rules)).toStdString();
+        return Words::tr("nothing within %1 helps: every way breaks %2")
+            .arg(within, listed(rules))
+            .toStdString();
     if (!elements.isEmpty())
-        return Words::tr("nothing within %1 helps: every way stands in %2").arg(within, listed(elements)).toStdString();
+        return Words::tr("nothing within %1 helps: every way stands in %2")
+            .arg(within, listed(elements))
+            .toStdString();
     return Words::tr("nothing within %1 helps").arg(within).toStdString();
 }
 

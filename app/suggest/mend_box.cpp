@@ -117,7 +117,8 @@ std::vector<PlaceOfBox> placesFor(const Workbench& bench, std::size_t element) {
         if (gap > 2.0 * firestandard::kMaximumBoxDistance)
             continue;
         for (const PlaceOfBox& place : placesAround(there))
-            if (gapBetween({{place.x, place.y}, {place.x, place.y}}, here) < firestandard::kMaximumBoxDistance)
+            if (gapBetween({{place.x, place.y}, {place.x, place.y}}, here) <
+                firestandard::kMaximumBoxDistance)
                 places.push_back(place);
         // Half way between the two.
         const auto between = [](double aLow, double aHigh, double bLow, double bHigh) {
@@ -141,7 +142,8 @@ std::optional<Proposal> addedBox(Workbench& bench, const Targets& targets, std::
     std::vector<std::pair<std::size_t, Change>> serving; // by how many are served
     for (const PlaceOfBox& place : placesFor(bench, element)) {
         const Change change{{std::nullopt, newBox(bench, place)}};
-        if (const auto obstacle = bench.ground().obstacleOf(site.elementOf(change.front().object), std::nullopt)) {
+        if (const auto obstacle =
+                bench.ground().obstacleOf(site.elementOf(change.front().object), std::nullopt)) {
             bench.noteObstacle(*obstacle);
             continue;
         }

@@ -1,6 +1,5 @@
-#include "suggest/mend.h"
-
 #include "json/Json.h"
+#include "suggest/mend.h"
 
 #include <algorithm>
 #include <cmath>
@@ -72,7 +71,8 @@ std::optional<std::size_t> houseOf(const Workbench& bench, const Targets& target
 }
 
 /// To a floor of that many square metres.
-std::optional<Proposal> shortenedTo(Workbench& bench, const Targets& targets, std::size_t index, double area) {
+std::optional<Proposal> shortenedTo(Workbench& bench, const Targets& targets, std::size_t index,
+                                    double area) {
     const Json& house = bench.site().object(index);
     const double depth = depthOf(house);
     if (!house.contains("length") || depth <= 0.0)
@@ -85,7 +85,8 @@ std::optional<Proposal> shortenedTo(Workbench& bench, const Targets& targets, st
     if (action.value <= 0.0 || action.value >= action.before)
         return std::nullopt;
     for (const Keep keep : {Keep::Middle, Keep::Start, Keep::End})
-        if (auto proposal = bench.verified({{index, shortenedHouse(house, action.value, keep)}}, action, targets))
+        if (auto proposal =
+                bench.verified({{index, shortenedHouse(house, action.value, keep)}}, action, targets))
             return proposal;
     return std::nullopt;
 }

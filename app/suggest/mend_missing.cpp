@@ -1,8 +1,7 @@
-#include "suggest/mend.h"
-
 #include "rules/rule_texts.h"
 #include "site/element_type_identifiers.h"
 #include "site_file/site_classes.h"
+#include "suggest/mend.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,10 +40,10 @@ std::optional<Facility> facilityOf(const RuleRow& row) {
     case RequiredUse::Of::OpenShed:
         return Facility{"openShed", nameOfCode("openShed", row.use.code), 12'000.0, 8'000.0};
     case RequiredUse::Of::ClosedHouse:
-        return Facility{"closedHouse",
-                        QString::fromWCharArray(row.use.name.data(), static_cast<int>(row.use.name.size()))
-                            .toStdString(),
-                        5'000.0, 4'000.0};
+        return Facility{
+            "closedHouse",
+            QString::fromWCharArray(row.use.name.data(), static_cast<int>(row.use.name.size())).toStdString(),
+            5'000.0, 4'000.0};
     case RequiredUse::Of::WastePool:
         return Facility{"wastePool", nameOfCode("wastePool", row.use.code), 4'000.0, 3'000.0};
     default:
@@ -103,8 +102,10 @@ std::vector<Spot> spotsOf(const TrialSite& site, const Facility& facility) {
     const double widest = std::max(extents.high.x - extents.low.x, extents.high.y - extents.low.y);
     const double step = std::ceil(std::max(kGrid, widest / kMostPerSide) / kGrid) * kGrid;
     const auto up = [step](double value) { return std::ceil(value / step) * step; };
-    for (double x = up(extents.low.x + facility.length * 0.5); x <= extents.high.x - facility.length * 0.5; x += step)
-        for (double y = up(extents.low.y + facility.depth * 0.5); y <= extents.high.y - facility.depth * 0.5; y += step)
+    for (double x = up(extents.low.x + facility.length * 0.5); x <= extents.high.x - facility.length * 0.5;
+         x += step)
+        for (double y = up(extents.low.y + facility.depth * 0.5); y <= extents.high.y - facility.depth * 0.5;
+             y += step)
             spots.push_back({x, y, std::hypot(x - middle.x, y - middle.y)});
     std::stable_sort(spots.begin(), spots.end(),
                      [](const Spot& a, const Spot& b) { return a.distance < b.distance; });

@@ -95,8 +95,8 @@ std::optional<Proposal> raised(Workbench& bench, const Targets& targets, std::si
         (works(middle) ? high : low) = middle;
     }
     const double rise = double(high * kLayoutStep);
-    return changed(bench, targets, index, *raisedObject(site.object(index), className, rise), Action::Kind::Raise,
-                   rise);
+    return changed(bench, targets, index, *raisedObject(site.object(index), className, rise),
+                   Action::Kind::Raise, rise);
 }
 
 } // namespace

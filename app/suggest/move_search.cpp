@@ -29,7 +29,8 @@ std::vector<Vector> directionsOf(const MoveGoal& goal) {
     // The four quarters first, so that of equal moves the plain one is taken.
     for (const int start : {0, 2, 1, 3})
         for (int i = start; i < kCompassPoints; i += 4)
-            directions.push_back({std::cos(kFullTurn * i / kCompassPoints), std::sin(kFullTurn * i / kCompassPoints)});
+            directions.push_back(
+                {std::cos(kFullTurn * i / kCompassPoints), std::sin(kFullTurn * i / kCompassPoints)});
     return directions;
 }
 
@@ -77,8 +78,9 @@ private:
             return false;
         const auto [known, isNew] = m_known.try_emplace(move, false);
         if (isNew) {
-            known->second = isRoomFor(move) &&
-                            m_bench.meets(neighbourhoodFor(length).differenceWith(changeOf(move)), m_goal.targets);
+            known->second =
+                isRoomFor(move) &&
+                m_bench.meets(neighbourhoodFor(length).differenceWith(changeOf(move)), m_goal.targets);
             if (known->second)
                 m_working.push_back(move);
         }

@@ -11,8 +11,9 @@ namespace firecheck {
 struct MoveGoal {
     std::size_t index = 0; ///< of the element
     Targets targets;
-    double atLeast = 0.0;                            ///< mm; no shorter move can do
-    std::vector<hrx::CVec2<double>> directions = {}; ///< unit vectors, the likely ones first; others are tried too
+    double atLeast = 0.0; ///< mm; no shorter move can do
+    std::vector<hrx::CVec2<double>> directions =
+        {}; ///< unit vectors, the likely ones first; others are tried too
 };
 
 /// A move in steps of kLayoutStep that the engine agrees with, as short as trying finds, shorter than

@@ -167,7 +167,8 @@ private:
     void tellRemaining() {
         const SiteReport report = checkSite(readSite(m_site.json()), std::string(), m_rules);
         for (const auto& finding : report.findings) {
-            const std::vector<Offence> offences = m_judge.offencesOf(report.record(finding), m_site.verdict());
+            const std::vector<Offence> offences =
+                m_judge.offencesOf(report.record(finding), m_site.verdict());
             m_plan.remaining.push_back({suggestedRemoval(m_site, offences.front()), finding.sentence,
                                         m_obstacles[keyOf(offences.front())]});
         }

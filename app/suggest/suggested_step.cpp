@@ -28,7 +28,8 @@ Json changedKeys(const Json& before, const Json& after) {
 SuggestedObject suggestedObject(const TrialSite& site, const ObjectChange& change) {
     const TrialElement after = site.elementOf(change.object);
     SuggestedObject object{after.handle, after.className, !change.index,
-                           change.index ? changedKeys(site.object(*change.index), change.object) : change.object};
+                           change.index ? changedKeys(site.object(*change.index), change.object)
+                                        : change.object};
     object.outline = after.shape.paths;
     object.to = middleOf(after.shape);
     if (change.index)
@@ -59,7 +60,8 @@ SuggestedStep suggestedStep(const TrialSite& site, const Proposal& proposal, con
             continue;
         const bool isArea = found->second.measurement.quantity == firestandard::Quantity::Area;
         step.values.push_back({site.judge().rule(offence).name.toStdString(), offence.element, offence.other,
-                               found->second.measurement.value * (isArea ? 1.0 : kMetresPerMillimetre), isArea});
+                               found->second.measurement.value * (isArea ? 1.0 : kMetresPerMillimetre),
+                               isArea});
     }
     step.sentence = proposalText(site, proposal, targets);
     return step;

@@ -41,10 +41,12 @@ std::string alsoText(const SuggestedStep& step) {
 std::vector<std::string> suggestionLines(const Suggestion& suggestion) {
     std::vector<std::string> lines;
     if (suggestion.steps.empty())
-        lines.push_back(Words::tr("No suggestion: %1").arg(QString::fromStdString(suggestion.obstacle)).toStdString());
+        lines.push_back(
+            Words::tr("No suggestion: %1").arg(QString::fromStdString(suggestion.obstacle)).toStdString());
     for (std::size_t i = 0; i < suggestion.steps.size(); ++i) {
         const QString sentence = QString::fromStdString(suggestion.steps[i].sentence);
-        lines.push_back((i == 0 ? Words::tr("Suggestion: %1") : Words::tr("and then: %1")).arg(sentence).toStdString());
+        lines.push_back(
+            (i == 0 ? Words::tr("Suggestion: %1") : Words::tr("and then: %1")).arg(sentence).toStdString());
     }
     return lines;
 }
