@@ -139,9 +139,10 @@ private:
 
     void suggest(const Json& site, SiteReport& report) const {
         Progress progress(report.fileName);
-        report.suggestions = suggestChanges(
-            site, report, m_rules, {},
-            [&](std::size_t done, std::size_t all, const std::string& rule) { progress.tell(done, all, rule); });
+        report.suggestions = suggestChanges(site, report, m_rules, {},
+                                            [&](std::size_t done, std::size_t all, const std::string& rule) {
+                                                progress.tell(done, all, rule);
+                                            });
     }
 
     const Options& m_options;

@@ -161,11 +161,11 @@ Json headJson(const SiteReport& report) {
 
 Json tailJson(const SiteReport& report) {
     Json tail{{"elements", labelsJson(report.elements)},
-            {"judged", judgedJson(report)},
-            {"unjudged", unjudgedJson(report)},
-            {"notJudged", notJudgedJson(report)},
-            {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
-            {"staleAcceptances", report.staleAcceptances}};
+              {"judged", judgedJson(report)},
+              {"unjudged", unjudgedJson(report)},
+              {"notJudged", notJudgedJson(report)},
+              {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
+              {"staleAcceptances", report.staleAcceptances}};
     if (report.suggestions)
         tail["suggestions"] = suggestionsJson(*report.suggestions);
     return tail;

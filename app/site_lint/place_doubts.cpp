@@ -45,8 +45,9 @@ public:
     }
 
     void doubtOverlaps() {
-        std::sort(m_footprints.begin(), m_footprints.end(),
-                  [](const Footprint& a, const Footprint& b) { return a.outline.box.low.x < b.outline.box.low.x; });
+        std::sort(m_footprints.begin(), m_footprints.end(), [](const Footprint& a, const Footprint& b) {
+            return a.outline.box.low.x < b.outline.box.low.x;
+        });
         for (auto a = m_footprints.begin(); a != m_footprints.end(); ++a)
             for (auto b = a + 1; b != m_footprints.end() && startsWithin(*b, *a); ++b)
                 if (standInEachOther(a->outline, b->outline, kOverlapTolerance))

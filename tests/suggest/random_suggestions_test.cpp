@@ -24,16 +24,20 @@ private:
     Json place() { return {between(0, 60'000), between(0, 60'000)}; }
 
     Json footprint(int handle, const char* className) {
-        Json object = {{"class", className}, {"handle", handle},        {"center", place()},
-                       {"length", between(3'000, 18'000)}, {"depth", between(3'000, 9'000)}};
+        Json object = {{"class", className},
+                       {"handle", handle},
+                       {"center", place()},
+                       {"length", between(3'000, 18'000)},
+                       {"depth", between(3'000, 9'000)}};
         if (m_random() % 3 == 0)
             object["angle"] = between(0, 180);
         return object;
     }
 
     Json object(int handle) {
-        static const char* const plain[] = {"woodYard", "templateYard", "electricalMechanicalYard", "futureHouse",
-                                            "transformerSubstation", "totalStepDownSubstation"};
+        static const char* const plain[] = {
+            "woodYard",    "templateYard",          "electricalMechanicalYard",
+            "futureHouse", "transformerSubstation", "totalStepDownSubstation"};
         switch (m_random() % 10) {
         case 0:
         case 1: {
@@ -50,11 +54,15 @@ private:
             return shed;
         }
         case 3:
-            return {{"class", "road"}, {"handle", handle}, {"fireRoad", m_random() % 3 != 0}, {"start", place()},
-                    {"end", place()},  {"width", 3'600 + int(m_random() % 900)}};
+            return {{"class", "road"},  {"handle", handle}, {"fireRoad", m_random() % 3 != 0},
+                    {"start", place()}, {"end", place()},   {"width", 3'600 + int(m_random() % 900)}};
         case 4:
-            return {{"class", "serviceCable"}, {"handle", handle}, {"start", place()}, {"end", place()},
-                    {"startElevationMetres", between(1, 8)}, {"radius", 20}};
+            return {{"class", "serviceCable"},
+                    {"handle", handle},
+                    {"start", place()},
+                    {"end", place()},
+                    {"startElevationMetres", between(1, 8)},
+                    {"radius", 20}};
         case 5:
         case 6:
             return {{"class", "extinguisherBox"}, {"handle", handle}, {"position", place()}};

@@ -10,7 +10,8 @@ Json sourceJson(const std::string& name) {
     return Json::parse(sourceText(name));
 }
 
-std::vector<Suggestion> suggestionsFor(const Json& site, const SiteReport& report, const SuggestOptions& options = {}) {
+std::vector<Suggestion> suggestionsFor(const Json& site, const SiteReport& report,
+                                       const SuggestOptions& options = {}) {
     return suggestChanges(site, report, shippedRules(), options);
 }
 
@@ -61,7 +62,8 @@ TEST(Suggestions, AreTheSmallestChangeInWords) {
          "Move formwork yard 1 1.01 m south: Position_WireToTemplateYard is then kept"},
     };
     for (const auto& expected : cases)
-        EXPECT_EQ(said(Json::parse(R"({"objects": [)" + expected.objects + "]}"), expected.rule), expected.sentence);
+        EXPECT_EQ(said(Json::parse(R"({"objects": [)" + expected.objects + "]}"), expected.rule),
+                  expected.sentence);
 }
 
 TEST(Suggestions, LeaveAloneWhatIsKeptOrTooFar) {
@@ -76,7 +78,8 @@ TEST(Suggestions, LeaveAloneWhatIsKeptOrTooFar) {
     SuggestOptions moving;
     moving.kept = {702};
     moving.movable = {"futureHouse"};
-    EXPECT_EQ(said(site, "Distant_FutureHouseToTemplateYard", moving).rfind("Move future building 301", 0), 0u);
+    EXPECT_EQ(said(site, "Distant_FutureHouseToTemplateYard", moving).rfind("Move future building 301", 0),
+              0u);
 }
 
 TEST(Suggestions, OfEveryExampleAreKept) {
@@ -97,9 +100,10 @@ struct Broken {
 TEST(Suggestions, MoveNoFartherThanTheWayBack) {
     const Json whole = sourceJson("examples/tower-site-compliant.json");
     const std::vector<Broken> cases = {
-        {414, 0, -500},   {414, 0, 700},    {413, 0, 320},     {404, -800, 0},   {404, -2000, 300}, {702, 0, 2000},
-        {702, -1500, 900}, {701, -1400, 0}, {802, 0, -1500},   {501, 1200, -900}, {1208, 2750, 0},  {1222, 0, 620},
-        {1222, 0, -3000}, {1351, 0, 7500},  {411, 150, -260},  {602, 900, 0},    {703, 1200, 3000}, {1227, 2600, 40}};
+        {414, 0, -500},  {414, 0, 700},     {413, 0, 320},    {404, -800, 0},  {404, -2000, 300},
+        {702, 0, 2000},  {702, -1500, 900}, {701, -1400, 0},  {802, 0, -1500}, {501, 1200, -900},
+        {1208, 2750, 0}, {1222, 0, 620},    {1222, 0, -3000}, {1351, 0, 7500}, {411, 150, -260},
+        {602, 900, 0},   {703, 1200, 3000}, {1227, 2600, 40}};
     std::size_t helped = 0;
     for (const Broken& broken : cases) {
         Json site = whole;
@@ -115,7 +119,8 @@ TEST(Suggestions, MoveNoFartherThanTheWayBack) {
                 continue; // the way back mends them all at once
             const auto& move = suggestion.steps.front().move;
             ASSERT_TRUE(move) << trace << suggestion.steps.front().sentence;
-            EXPECT_LE(std::hypot(move->x, move->y), wayBack + 1e-9) << trace << suggestion.steps.front().sentence;
+            EXPECT_LE(std::hypot(move->x, move->y), wayBack + 1e-9)
+                << trace << suggestion.steps.front().sentence;
             ++helped;
         }
     }
@@ -153,12 +158,15 @@ TEST(ChangedSiteText, KeepsEveryByteOfWhatIsNotChanged) {
         std::string after;
         std::string changed;
     } cases[] = {
-        {"{ \"objects\" : [ { \"handle\" : 1 , \"a\":[ 1,2 ] } ] }", R"({"objects": [{"handle": 1, "a": [1, 3]}]})",
+        {"{ \"objects\" : [ { \"handle\" : 1 , \"a\":[ 1,2 ] } ] }",
+         R"({"objects": [{"handle": 1, "a": [1, 3]}]})",
          "{ \"objects\" : [ { \"handle\" : 1 , \"a\":[1, 3] } ] }"},
         {"{\"objects\": [{\"handle\": 1}]}", R"({"objects": [{"handle": 1, "b": {"c": true}}]})",
          "{\"objects\": [{\"handle\": 1, \"b\": {\"c\": true}}]}"},
-        {"{\"objects\": [{\"a\": 1}]}", R"({"objects": [{"a": 2, "b": 3}]})", "{\"objects\": [{\"a\": 2, \"b\": 3}]}"},
-        {"{\"objects\": [\r\n  {\"a\": 1},\r\n  {\"a\": 2}\r\n]}", R"({"objects": [{"a": 1}, {"n": 9}, {"a": 2}]})",
+        {"{\"objects\": [{\"a\": 1}]}", R"({"objects": [{"a": 2, "b": 3}]})",
+         "{\"objects\": [{\"a\": 2, \"b\": 3}]}"},
+        {"{\"objects\": [\r\n  {\"a\": 1},\r\n  {\"a\": 2}\r\n]}",
+         R"({"objects": [{"a": 1}, {"n": 9}, {"a": 2}]})",
          "{\"objects\": [\r\n  {\"a\": 1},\r\n  {\"n\": 9},\r\n  {\"a\": 2}\r\n]}"},
         {"{\"objects\": []}", R"({"objects": [{"n": "食堂"}]})", "{\"objects\": [{\"n\": \"食堂\"}]}"},
     };
