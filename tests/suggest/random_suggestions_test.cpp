@@ -81,7 +81,7 @@ bool isMissing(const NuxStandardCheckRule& record) {
 
 TEST(RandomSites, KeepWhatSuggestionsPromise) {
     SuggestOptions options;
-    options.reach = 5'000.0;
+    options.reach = 3'000.0;
     std::size_t helped = 0;
     for (unsigned seed = 1; seed <= 200; ++seed) {
         const Json site = RandomSiteFile(seed).make();
