@@ -2,6 +2,7 @@
 
 #include "explain/CheckReport.h"
 #include "report/plan/PlanShape.h"
+#include "suggest/Suggestion.h"
 
 namespace firecheck {
 
@@ -22,6 +23,8 @@ struct SiteReport : firestandard::CheckReport {
     std::vector<PlanShape> plan;  ///< every element that can be drawn, in the order of the drawing
     std::size_t leftOutRules = 0; ///< of the rule file, by a selection
     std::vector<std::string> staleAcceptances; ///< accepted violations that are no longer there
+    /// What would remove the findings that are not accepted; nothing where nobody asked.
+    std::optional<std::vector<Suggestion>> suggestions;
 };
 
 } // namespace firecheck

@@ -1,6 +1,7 @@
 #include "report/ReportWriter.h"
 #include "report/judgement_text.h"
 #include "rules/rule_texts.h"
+#include "suggest/suggestion_json.h"
 
 namespace firecheck {
 
@@ -159,12 +160,15 @@ Json headJson(const SiteReport& report) {
 }
 
 Json tailJson(const SiteReport& report) {
-    return {{"elements", labelsJson(report.elements)},
-            {"judged", judgedJson(report)},
-            {"unjudged", unjudgedJson(report)},
-            {"notJudged", notJudgedJson(report)},
-            {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
-            {"staleAcceptances", report.staleAcceptances}};
+    Json tail{{"elements", labelsJson(report.elements)},
+              {"judged", judgedJson(report)},
+              {"unjudged", unjudgedJson(report)},
+              {"notJudged", notJudgedJson(report)},
+              {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
+              {"staleAcceptances", report.staleAcceptances}};
+    if (report.suggestions)
+        tail["suggestions"] = suggestionsJson(*report.suggestions);
+    return tail;
 }
 
 std::string lineAt(int indent) {
