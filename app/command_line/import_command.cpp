@@ -1,0 +1,38 @@
+#include "InputError.h"
+#include "command_line/Options.h"
+#include "command_line/Output.h"
+#include "command_line/commands.h"
+#include "command_line/drawing_options.h"
+#include "site_file/site_keys.h"
+
+namespace firecheck {
+
+namespace {
+
+/// A line for each object, as people write site files.
+std::string siteText(const Json& value) {
+    std::string text = "{\n";
+    for (const auto& [key, member] : value.items())
+        if (key != kObjectsKey)
+            text += "  " + Json(key).dump() + ": " + member.dump() + ",\n";
+    text += "  \"" + kObjectsKey + "\": [";
+    for (const Json& object : value.at(kObjectsKey))
+        text += (text.back() == '[' ? "\n    " : ",\n    ") + object.dump();
+    return text + "\n  ]\n}\n";
+}
+
+} // namespace
+
+int importCommand(const Options& options) {
+    if (options.arguments().size() != 1)
+        throw InputError("Expected one drawing. Try \"firecheck help import\".");
+    const std::string fileName = options.arguments().first().toStdString();
+    const SiteFile file = loadSiteFile(fileName, drawingOptions(options));
+    tellDoubtsOfDrawing(file, fileName);
+    Output output(options.value("output").value_or(QString()));
+    output.write(siteText(file.value));
+    output.commit();
+    return kNothingFound;
+}
+
+} // namespace firecheck
