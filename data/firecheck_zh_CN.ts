@@ -559,7 +559,7 @@
     </message>
     <message>
         <source>a text</source>
-        <translation>文字</translation>
+        <translation>一个文本</translation>
     </message>
     <message>
         <source>a point [x, y]</source>
@@ -1796,7 +1796,7 @@
     <message numerus="yes">
         <source>this removes %n other offences as well</source>
         <translation>
-            <numerusform>同时消除另外 %n 处不符合</numerusform>
+            <numerusform>同时消除另外 %n 处违规</numerusform>
         </translation>
     </message>
     <message>
@@ -1832,6 +1832,238 @@
     <message>
         <source>What remains</source>
         <translation>遗留问题</translation>
+    </message>
+    <message>
+        <source>1 further doubt, see &quot;firecheck lint-site&quot;</source>
+        <translation>另有 1 处疑问，见“firecheck lint-site”</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further doubts, see &quot;firecheck lint-site&quot;</source>
+        <translation>
+            <numerusform>另有 %n 处疑问，见“firecheck lint-site”</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>expected blocks within at most %1 others, and none that holds itself</source>
+        <translation>块的嵌套不应超过 %1 层，且块不应包含自身</translation>
+    </message>
+    <message>
+        <source>the drawing is read in %1, in which half of its houses, yards and routes are at most %2 m long; &quot;unit&quot; in a table of layers decides</source>
+        <translation>图纸按 %1 读取，据此半数房屋、堆场和线路的长度不超过 %2 m；以图层表中的“unit”为准</translation>
+    </message>
+    <message>
+        <source>%1: expected at most 16 kB beside what its shape says, found %2 kB; a drawing cannot keep it</source>
+        <translation>%1：图形之外的数据应不超过 16 kB，实为 %2 kB，图纸无法保存</translation>
+    </message>
+    <message>
+        <source>the site as a whole</source>
+        <translation>工地整体</translation>
+    </message>
+    <message>
+        <source>%1 %2 on layer &quot;%3&quot; not taken up: %4</source>
+        <translation>图层“%3”上的 %1 个 %2 未采用：%4</translation>
+    </message>
+    <message>
+        <source>%1 %2 on layer &quot;%3&quot; without &quot;%4&quot;: %5 is assumed</source>
+        <translation>图层“%3”上的 %1 个 %2 没有“%4”：按 %5 计</translation>
+    </message>
+    <message>
+        <source>%1 attributes &quot;%2&quot; of block &quot;%3&quot; not taken up: their elements have no such key</source>
+        <translation>块“%3”的 %1 个属性“%2”未采用：其构件没有此键</translation>
+    </message>
+    <message>
+        <source>%1 doors on layer &quot;%2&quot; stand in no wall</source>
+        <translation>图层“%2”上的 %1 个大门不在任何围墙上</translation>
+    </message>
+    <message>
+        <source>1 element has no handle, or that of another; it was given a new one</source>
+        <translation>1 个构件没有句柄或句柄重复，已另给新句柄</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements have no handle, or that of another; they were given new ones</source>
+        <translation>
+            <numerusform>%n 个构件没有句柄或句柄重复，已另给新句柄</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is in paper space</source>
+        <translation>位于图纸空间</translation>
+    </message>
+    <message>
+        <source>it is invisible, or its layer is off or frozen</source>
+        <translation>不可见，或所在图层已关闭或冻结</translation>
+    </message>
+    <message>
+        <source>expected blocks that come to at most %1 entities</source>
+        <translation>块展开后的图元应不超过 %1 个</translation>
+    </message>
+    <message>
+        <source>its block is not in the drawing</source>
+        <translation>图纸中没有它的块</translation>
+    </message>
+    <message>
+        <source>it refers to another drawing</source>
+        <translation>引用的是另一张图纸</translation>
+    </message>
+    <message>
+        <source>it does not lie in the plan</source>
+        <translation>不在平面内</translation>
+    </message>
+    <message>
+        <source>the drawing does not say how its texts are encoded; they were read as %1; --encoding decides</source>
+        <translation>图纸未说明文字的编码，已按 %1 读取；可用 --encoding 指定</translation>
+    </message>
+    <message>
+        <source>the drawing says that its texts are %1, which they are not; they were read as %2; --encoding decides</source>
+        <translation>图纸称文字为 %1 编码，实则不是，已按 %2 读取；可用 --encoding 指定</translation>
+    </message>
+    <message>
+        <source>expected group 10 of a vertex before group %1</source>
+        <translation>组码 %1 之前应有顶点的组码 10</translation>
+    </message>
+    <message>
+        <source>%1: expected group %2</source>
+        <translation>%1：缺少组码 %2</translation>
+    </message>
+    <message>
+        <source>INSERT: expected an array of at most %1 cells</source>
+        <translation>INSERT：阵列应不超过 %1 格</translation>
+    </message>
+    <message>
+        <source>expected a group code of DXF, found &quot;%1&quot;</source>
+        <translation>应为 DXF 组码，实为“%1”</translation>
+    </message>
+    <message>
+        <source>expected a finite number for group %1, found &quot;%2&quot;</source>
+        <translation>组码 %1 应为有限的数，实为“%2”</translation>
+    </message>
+    <message>
+        <source>expected a whole number for group %1, found &quot;%2&quot;</source>
+        <translation>组码 %1 应为整数，实为“%2”</translation>
+    </message>
+    <message>
+        <source>expected the end of the drawing, &quot;EOF&quot;: the file is cut off here</source>
+        <translation>应有图纸结尾“EOF”：文件在此中断</translation>
+    </message>
+    <message>
+        <source>expected a SECTION of a DXF drawing, found &quot;%1&quot;</source>
+        <translation>应为 DXF 图纸的 SECTION，实为“%1”</translation>
+    </message>
+    <message>
+        <source>expected the name of the section in group 2</source>
+        <translation>组码 2 应为段的名称</translation>
+    </message>
+    <message>
+        <source>expected ENDSEC at the end of section %1</source>
+        <translation>段 %1 的结尾应为 ENDSEC</translation>
+    </message>
+    <message>
+        <source>expected a drawing of at most %1 entities</source>
+        <translation>图纸的图元应不超过 %1 个</translation>
+    </message>
+    <message>
+        <source>expected an ASCII DXF drawing, found a binary one; save it as ASCII DXF</source>
+        <translation>应为 ASCII 格式的 DXF 图纸，实为二进制格式；请另存为 ASCII DXF</translation>
+    </message>
+    <message>
+        <source>expected a DXF drawing, found DWG; save it as DXF</source>
+        <translation>应为 DXF 图纸，实为 DWG；请另存为 DXF</translation>
+    </message>
+    <message>
+        <source>expected an ASCII DXF drawing, found a NUL byte</source>
+        <translation>应为 ASCII 格式的 DXF 图纸，却含有 NUL 字节</translation>
+    </message>
+    <message>
+        <source>a text or a list of texts</source>
+        <translation>一个文本或文本列表</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; or one of %2</source>
+        <translation>应为“%1”或 %2 之一</translation>
+    </message>
+    <message>
+        <source>a list of rows</source>
+        <translation>行的列表</translation>
+    </message>
+    <message>
+        <source>expected &quot;names&quot;, &quot;layers&quot; or &quot;blocks&quot;</source>
+        <translation>缺少“names”、“layers”或“blocks”</translation>
+    </message>
+    <message>
+        <source>expected the key &quot;class&quot; (what the elements are, or &quot;ignore&quot;)</source>
+        <translation>缺少键“class”（构件是什么，或“ignore”）</translation>
+    </message>
+    <message>
+        <source>a table of layers</source>
+        <translation>图层表</translation>
+    </message>
+    <message>
+        <source>the drawing&apos;s unit has the number %1, which no unit of sites has; mm is assumed</source>
+        <translation>图纸单位的编号为 %1，不是工地所用的单位，按 mm 计</translation>
+    </message>
+    <message>
+        <source>it names no outline</source>
+        <translation>不是任何轮廓的名称</translation>
+    </message>
+    <message>
+        <source>elements of this kind are not drawn so</source>
+        <translation>此类构件不这样绘制</translation>
+    </message>
+    <message>
+        <source>extended data of the %1: %2</source>
+        <translation>%1 的扩展数据：%2</translation>
+    </message>
+    <message>
+        <source>expected the &quot;class&quot; of an object of site files</source>
+        <translation>应有工地文件中物体的“class”</translation>
+    </message>
+    <message>
+        <source>expected an object for &quot;%1&quot;</source>
+        <translation>“%1”应为对象</translation>
+    </message>
+    <message>
+        <source>it does not lie in the plan, or its scale distorts it</source>
+        <translation>不在平面内，或比例使其变形</translation>
+    </message>
+    <message>
+        <source>nothing tells what it is</source>
+        <translation>没有说明它是什么</translation>
+    </message>
+    <message>
+        <source>such entities are not read</source>
+        <translation>不读取此类图元</translation>
+    </message>
+    <message>
+        <source>it closes no outline</source>
+        <translation>未围成轮廓</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>measured value, limit</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1: 1 violation</source>
+        <translation>%1：1 处违规</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n violations</source>
+        <translation>
+            <numerusform>%1：%n 处违规</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (accepted: %2)</source>
+        <translation>%1（已接受：%2）</translation>
+    </message>
+    <message>
+        <source>%1 [handle %2]</source>
+        <translation>%1 [句柄 %2]</translation>
+    </message>
+    <message>
+        <source>doubt: %1 [%2]</source>
+        <comment>message, code</comment>
+        <translation>疑问：%1 [%2]</translation>
     </message>
 </context>
 </TS>

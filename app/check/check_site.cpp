@@ -67,6 +67,7 @@ SiteReport checkSite(Site site, const std::string& fileName, const RuleMap&,
         firestandard::explainCheck([&](long long handle) { return nameOf(site, handle); }, progress).value();
     report.fileName = fileName;
     report.siteName = site.name;
+    report.drawingUnit = site.drawingUnit.value_or(DrawingUnit());
     report.objectCount = document.objects().size();
     for (ElementLabel& label : report.elements)
         complete(label, document, site);

@@ -12,7 +12,13 @@ const CommandOption kRules{"rules", "FILE",
                            "Judge by this rule file instead of the one that comes with the checker."};
 const CommandOption kOutput{
     "output", "FILE",
-    "Write the result to this file, which takes the place of an older one only when all is written."};
+    "Write the result to this file, which takes the place of an older one only when all is written.", 'o'};
+const CommandOption kLayers{
+    "layers", "FILE",
+    "What the layers and blocks of drawings mean, as \"firecheck layers\" writes it; the "
+    "convention holds for what this table leaves out."};
+const CommandOption kEncoding{
+    "encoding", "NAME", "The encoding of the texts of drawings, as GB18030, whatever they say themselves."};
 
 const CommandOption kLanguage{"lang", "en|zh_CN", "The language of every sentence; English unless given."};
 const CommandOption kReach{"reach", "METRES", "The longest move that is tried; 10 unless given."};
@@ -40,7 +46,9 @@ const std::vector<Command>& commands() {
         {"check",
          "SITE...",
          {kRules,
-          format("text|json|csv|html"),
+          kLayers,
+          kEncoding,
+          format("text|json|csv|html|dxf"),
           kOutput,
           kLanguage,
           {"select", "PATTERN",
@@ -60,7 +68,7 @@ const std::vector<Command>& commands() {
            "filled in before the file can be used."},
           {"profile", "", "Tell the time that each rule took, the slowest first, on standard error."},
           {"quiet", "", "Write no report to standard output and no notes; the exit status tells.", 'q'}},
-         "Checks each site file and reports what breaks a rule.",
+         "Checks each site file or drawing and reports what breaks a rule.",
          "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
          "when lint-rules or lint-site would find something.",
          checkCommand},
@@ -74,6 +82,8 @@ const std::vector<Command>& commands() {
         {"suggest",
          "SITE",
          {kRules,
+          kLayers,
+          kEncoding,
           format("text|json"),
           kOutput,
           kLanguage,
@@ -84,7 +94,8 @@ const std::vector<Command>& commands() {
            "Tell a sequence of changes for the whole site instead, until nothing is left or nothing helps, and what "
            "remains."},
           {"apply", "FILE",
-           "Write the site with the changes of --all, which this implies, and everything else as it was."}},
+           "Write the site with the changes of --all, which this implies, and everything else as it was; of a drawing, as "
+           "a JSON site file."}},
          "Tells what would remove each violation: a move, a turn, a wider road, another box.",
          "Each suggestion is the smallest change found of one element. The checker has judged the whole site with "
          "it: the violation is gone, none is new and none is worse. Houses, sheds, yards, substations, boxes, "
@@ -93,7 +104,7 @@ const std::vector<Command>& commands() {
          suggestCommand},
         {"plan",
          "SITE",
-         {kRules, kOutput, kLanguage},
+         {kRules, kLayers, kEncoding, kOutput, kLanguage},
          "Draws the site to scale with what breaks a rule, as SVG.",
          "",
          planCommand},
@@ -117,11 +128,29 @@ const std::vector<Command>& commands() {
          lintRulesCommand},
         {"lint-site",
          "SITE...",
-         {kRules, format("text|json"), kOutput, kLanguage},
-         "Finds what is wrong or doubtful in site files, all at once.",
+         {kRules, kLayers, kEncoding, format("text|json"), kOutput, kLanguage},
+         "Finds what is wrong or doubtful in site files or drawings, all at once.",
          "Errors are what check refuses a file for. Doubts are values that no site has, and slips that would change "
          "a verdict without a word. The rules tell which facilities are looked for.",
          lintSiteCommand},
+        {"import",
+         "DRAWING",
+         {kLayers, kEncoding, kOutput, kLanguage},
+         "Writes the site of a DXF drawing as a site file.",
+         "What is not taken up of the drawing is told on standard error.",
+         importCommand},
+        {"export",
+         "SITE",
+         {kLayers, kEncoding, kOutput, kLanguage},
+         "Writes the site as a DXF drawing that reads back to an equal site.",
+         "Each object lies on the layer that the table has for it.",
+         exportCommand},
+        {"layers",
+         "",
+         {kOutput},
+         "Writes the table of what layers and blocks of drawings mean, as a template for --layers.",
+         "",
+         layersCommand},
         {"site-schema",
          "",
          {format("json|markdown"), kOutput},

@@ -6,12 +6,12 @@
 #include "command_line/Output.h"
 #include "command_line/Progress.h"
 #include "command_line/commands.h"
+#include "command_line/drawing_options.h"
 #include "lint/lint_report.h"
 #include "lint/lint_rule_file.h"
 #include "report/ReportWriter.h"
 #include "rules/rule_file.h"
 #include "site_file/RefusedSite.h"
-#include "site_file/site_reader.h"
 #include "site_lint/SiteDoubts.h"
 #include "site_lint/site_lint_report.h"
 #include "suggest/suggest_changes.h"
@@ -44,6 +44,8 @@ std::unique_ptr<ReportWriter> writerFor(const Options& options, Output& output) 
         return csvReportWriter(sink);
     if (format == "html")
         return htmlReportWriter(sink);
+    if (format == "dxf")
+        return dxfReportWriter(sink);
     return textReportWriter(sink, isColoured(output));
 }
 
@@ -59,9 +61,12 @@ void complainOfAll(const RefusedSite& refused, const std::string& fileName) {
 }
 
 /// The site, or nothing and complaints: one wrong file does not keep the others from being checked.
-std::optional<SiteFile> tryLoadSite(const std::string& fileName, const RuleMap& rules, bool isQuiet) {
+std::optional<SiteFile> tryLoadSite(const std::string& fileName, const RuleMap& rules,
+                                    const DrawingOptions& drawings, bool isQuiet) {
     try {
-        SiteFile file = loadSiteFile(fileName);
+        SiteFile file = loadSiteFile(fileName, drawings);
+        if (!isQuiet)
+            tellDoubtsOfDrawing(file, fileName);
         const std::size_t count = isQuiet ? 0 : siteDoubts(file, rules).size();
         if (count > 0)
             complain(fileName + ": " +
@@ -161,11 +166,15 @@ private:
 int checkCommand(const Options& options) {
     if (options.arguments().isEmpty())
         throw InputError("No site file is given. Try \"firecheck help check\".");
-    options.format(); // refused before anything is read
+    // Refused before anything is read.
+    if (options.format() == "dxf" && options.arguments().size() > 1)
+        throw InputError(
+            "Expected one site file for --format dxf: the findings of two would lie upon each other.");
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     mentionLint(ruleFile, options.isSet("quiet"));
     const RuleMap& rules = useRules(ruleFile);
+    const DrawingOptions drawings = drawingOptions(options);
     CheckRun run(options, rules);
 
     Output output(options.value("output").value_or(QString()));
@@ -175,7 +184,7 @@ int checkCommand(const Options& options) {
     writer->begin();
     for (const QString& argument : options.arguments()) {
         const std::string fileName = argument.toStdString();
-        std::optional<SiteFile> site = tryLoadSite(fileName, rules, options.isSet("quiet"));
+        std::optional<SiteFile> site = tryLoadSite(fileName, rules, drawings, options.isSet("quiet"));
         if (!site) {
             status = kWrongInput;
             continue;

@@ -2,6 +2,7 @@
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
+#include "command_line/drawing_options.h"
 #include "rules/rule_file.h"
 #include "site_lint/site_lint_report.h"
 
@@ -27,11 +28,12 @@ int lintSiteCommand(const Options& options) {
     const auto givenRules = options.value("rules");
     const RuleMap& rules = loadRules(givenRules ? givenRules->toStdString() : defaultRuleFile());
 
+    const DrawingOptions drawings = drawingOptions(options);
     int status = kNothingFound;
     std::string text;
     Json sites = Json::array();
     for (const QString& argument : options.arguments()) {
-        const SiteFindings findings = lintSite(argument.toStdString(), rules);
+        const SiteFindings findings = lintSite(argument.toStdString(), rules, drawings);
         status = std::max(status, statusOf(findings));
         if (!findings.failure.empty())
             complain(findings.failure);

@@ -3,8 +3,8 @@
 #include "command_line/Options.h"
 #include "command_line/Output.h"
 #include "command_line/commands.h"
+#include "command_line/drawing_options.h"
 #include "report/plan/plan_svg.h"
-#include "site_file/site_reader.h"
 
 namespace firecheck {
 
@@ -14,7 +14,7 @@ int planCommand(const Options& options) {
     const std::string fileName = options.arguments().first().toStdString();
     const auto givenRules = options.value("rules");
     const RuleMap& rules = loadRules(givenRules ? givenRules->toStdString() : defaultRuleFile());
-    const QString plan = planSvgFile(checkSite(loadSite(fileName), fileName, rules));
+    const QString plan = planSvgFile(checkSite(loadSite(fileName, drawingOptions(options)), fileName, rules));
     if (plan.isEmpty())
         throw InputError(fileName + ": nothing of this site can be drawn");
     Output output(options.value("output").value_or(QString()));

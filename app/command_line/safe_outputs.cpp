@@ -58,6 +58,7 @@ std::vector<NamedFile> inputsOf(const Options& options, const Command& command) 
         inputs.push_back({"an input", argument});
     append(inputs, "rules", options, command);
     append(inputs, "accept", options, command);
+    append(inputs, "layers", options, command);
     inputs.push_back({"the rule file of the checker", QString::fromStdString(defaultRuleFile())});
     return inputs;
 }

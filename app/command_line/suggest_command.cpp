@@ -4,9 +4,10 @@
 #include "command_line/Output.h"
 #include "command_line/Progress.h"
 #include "command_line/commands.h"
+#include "command_line/drawing_options.h"
 #include "rules/rule_file.h"
 #include "site_file/site_classes.h"
-#include "site_file/site_reader.h"
+#include "site_file/site_text.h"
 #include "suggest/changed_text.h"
 #include "suggest/suggest_changes.h"
 #include "suggest/suggestion_json.h"
@@ -89,7 +90,8 @@ std::string planResult(const Options& options, const SiteFile& file, const SiteR
                        const SuggestProgress& progress) {
     const SitePlan plan = planChanges(file.value, rules, suggestOptions, progress);
     if (const auto target = options.value("apply"))
-        writeFile(*target, changedSiteText(file.text, file.value, plan.site));
+        writeFile(*target,
+                  file.drawing ? siteText(plan.site) : changedSiteText(file.text, file.value, plan.site));
     if (options.format() == "text")
         return planText(report, plan);
     Json json = headJson(report, suggestOptions);
@@ -122,7 +124,8 @@ int suggestCommand(const Options& options) {
     requireWellFormed(ruleFile);
     const RuleMap& rules = useRules(ruleFile);
     const std::string fileName = options.arguments().first().toStdString();
-    SiteFile file = loadSiteFile(fileName);
+    SiteFile file = loadSiteFile(fileName, drawingOptions(options));
+    tellDoubtsOfDrawing(file, fileName);
     suggestOptions.kept = keptHandles(options, file.site);
     SiteReport report = checkSite(std::move(file.site), fileName, rules);
 

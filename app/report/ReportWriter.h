@@ -44,4 +44,8 @@ std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink);
 /// One page for a browser, complete in itself: the plan of each site, and its violations linked with it.
 std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink);
 
+/// The findings of one site as a DXF drawing in its own coordinates, to be laid over the planner's: a layer
+/// for each rule with the outlines that offend, the distances and the sentences, and a table of counts.
+std::unique_ptr<ReportWriter> dxfReportWriter(ReportWriter::Sink sink);
+
 } // namespace firecheck

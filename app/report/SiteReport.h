@@ -2,6 +2,7 @@
 
 #include "explain/CheckReport.h"
 #include "report/plan/PlanShape.h"
+#include "site_file/DrawingSource.h"
 #include "suggest/Suggestion.h"
 
 namespace firecheck {
@@ -20,6 +21,7 @@ struct SiteReport : firestandard::CheckReport {
     std::string fileName;
     std::string siteName;
     std::size_t objectCount = 0;
+    DrawingUnit drawingUnit;      ///< of the drawing that the site was read from; mm for a site file
     std::vector<PlanShape> plan;  ///< every element that can be drawn, in the order of the drawing
     std::size_t leftOutRules = 0; ///< of the rule file, by a selection
     std::vector<std::string> staleAcceptances; ///< accepted violations that are no longer there

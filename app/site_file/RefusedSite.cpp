@@ -1,7 +1,7 @@
 #include "site_file/RefusedSite.h"
 
-#include "json/json_places.h"
 #include "site_file/site_keys.h"
+#include "site_file/site_reader.h"
 #include "text/shortened.h"
 
 #include <algorithm>
@@ -13,14 +13,14 @@ namespace {
 
 using Error = RefusedSite::Error;
 
-std::vector<Error> placed(const std::string& text, const Json& site, const std::vector<Refusal>& refusals) {
+std::vector<Error> placed(const SiteFile& file, const std::vector<Refusal>& refusals) {
     std::vector<std::string> pointers;
     for (const Refusal& refusal : refusals)
         pointers.push_back(refusal.pointer);
-    const std::vector<Place> places = jsonPlaces(text, pointers);
+    const std::vector<Place> places = file.placesOf(pointers);
     std::vector<Error> errors;
     for (std::size_t i = 0; i < refusals.size(); ++i)
-        errors.push_back({refusals[i], places[i], pointedObject(site, refusals[i].pointer)});
+        errors.push_back({refusals[i], places[i], file.objectAt(refusals[i].pointer)});
     std::stable_sort(errors.begin(), errors.end(), [](const Error& a, const Error& b) {
         return std::tie(a.place.line, a.place.column) < std::tie(b.place.line, b.place.column);
     });
@@ -50,7 +50,11 @@ std::string joined(const std::vector<std::string>& lines) {
 std::string PointedObject::text() const {
     if (handle.empty())
         return {};
-    return "#" + handle + (name.empty() ? "" : " \"" + shortened(name) + "\"");
+    std::string text = "#" + handle + (name.empty() ? "" : " \"" + shortened(name) + "\"");
+    if (origin)
+        text += " (" + (origin->entity.empty() ? "" : "entity " + origin->entity + ", ") + "layer \"" +
+                shortened(origin->layer) + "\")";
+    return text;
 }
 
 PointedObject pointedObject(const Json& site, const std::string& pointer) {
@@ -65,12 +69,13 @@ PointedObject pointedObject(const Json& site, const std::string& pointer) {
     const auto name = value.find("name");
     const bool hasHandle = handle != value.end() && handle->is_number_integer();
     return {hasHandle ? handle->dump() : std::string(),
-            name != value.end() && name->is_string() ? name->get<std::string>() : std::string()};
+            name != value.end() && name->is_string() ? name->get<std::string>() : std::string(),
+            {}};
 }
 
-RefusedSite::RefusedSite(const std::string& fileName, const std::string& text, const Json& site,
+RefusedSite::RefusedSite(const std::string& fileName, const SiteFile& file,
                          const std::vector<Refusal>& refusals)
-    : RefusedSite(fileName, placed(text, site, refusals)) {}
+    : RefusedSite(fileName, placed(file, refusals)) {}
 
 RefusedSite::RefusedSite(const std::string& fileName, std::vector<Error> errors)
     : RefusedSite(errors, messagesOf(fileName, errors)) {}

@@ -2,19 +2,23 @@
 
 #include "json/Json.h"
 #include "json/JsonPlace.h"
-#include "text/Place.h"
+#include "site_file/DrawingSource.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace firecheck {
 
+struct SiteFile;
+
 /// The object of a site file that a JSON pointer leads into, as far as the file says who it is.
 struct PointedObject {
     std::string handle; ///< decimal; empty for none
     std::string name;
+    std::optional<DrawnOrigin> origin; ///< of a site that was read from a drawing
 
-    /// '#12 "Dormitory 3"'; empty for no object.
+    /// '#12 "Dormitory 3"', and entity and layer of a drawing; empty for no object.
     std::string text() const;
 };
 
@@ -23,9 +27,7 @@ PointedObject pointedObject(const Json& site, const std::string& pointer);
 /// Everything that keeps a site file from being read.
 class RefusedSite : public InputError {
 public:
-    /// `text` is what `site` was parsed from.
-    RefusedSite(const std::string& fileName, const std::string& text, const Json& site,
-                const std::vector<Refusal>& refusals);
+    RefusedSite(const std::string& fileName, const SiteFile& file, const std::vector<Refusal>& refusals);
 
     struct Error {
         Refusal refusal;

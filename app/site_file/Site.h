@@ -1,9 +1,11 @@
 #pragma once
 
 #include "cad/UdDbDocument.h"
+#include "site_file/DrawingSource.h"
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace firecheck {
@@ -19,6 +21,7 @@ struct Site {
     std::string name;
     std::unique_ptr<UdDbDocument> document;
     std::map<long long, ObjectLabel> labels; ///< by handle, one for every object
+    std::optional<DrawingUnit> drawingUnit;  ///< of a site that was read from a drawing
 };
 
 } // namespace firecheck

@@ -1,10 +1,9 @@
 #include "site_file/site_reader.h"
 
+#include "json/json_places.h"
 #include "json/parse_json.h"
-#include "site_file/RefusedSite.h"
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
-#include "text/input_text.h"
 #include "text/nearest_name.h"
 #include "text/shortened.h"
 #include "text/words.h"
@@ -179,28 +178,35 @@ Site readSite(const Json& value) {
     return SiteReader().read(value);
 }
 
+std::vector<Place> SiteFile::placesOf(const std::vector<std::string>& pointers) const {
+    return drawing ? drawing->placesOf(pointers) : jsonPlaces(text, pointers);
+}
+
+PointedObject SiteFile::objectAt(const std::string& pointer) const {
+    PointedObject object = pointedObject(value, pointer);
+    if (const DrawnOrigin* origin = drawing ? drawing->origin(pointer) : nullptr)
+        object.origin = *origin;
+    return object;
+}
+
 SiteFile parseSiteFile(std::string text, const std::string& name) {
     SiteFile file;
     file.text = std::move(text);
     file.value = parseJson(file.text, name);
-    try {
-        file.site = readSite(file.value);
-    } catch (const RefusedJson& refused) {
-        throw RefusedSite(name, file.text, file.value, refused.refusals());
-    }
+    fillSite(file, name);
     return file;
 }
 
-SiteFile loadSiteFile(const std::string& fileName) {
-    return parseSiteFile(inputText(fileName, filled(Words::tr("a site file"))), fileName);
+void fillSite(SiteFile& file, const std::string& name) {
+    try {
+        file.site = readSite(file.value);
+    } catch (const RefusedJson& refused) {
+        throw RefusedSite(name, file, refused.refusals());
+    }
 }
 
 Site parseSite(const std::string& text, const std::string& name) {
     return parseSiteFile(text, name).site;
-}
-
-Site loadSite(const std::string& fileName) {
-    return loadSiteFile(fileName).site;
 }
 
 } // namespace firecheck

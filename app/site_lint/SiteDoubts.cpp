@@ -20,8 +20,8 @@ std::string DoubtedSite::pointerTo(std::size_t object, const std::string& furthe
 }
 
 std::string DoubtedSite::mention(const Json& object) {
-    const PointedObject known{std::to_string(object.at("handle").get<long long>()),
-                              object.value("name", std::string())};
+    const PointedObject known{
+        std::to_string(object.at("handle").get<long long>()), object.value("name", std::string()), {}};
     return object.at(kClassKey).get<std::string>() + " " + known.text();
 }
 

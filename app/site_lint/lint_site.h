@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drawing/load_site.h"
 #include "rules/rule_file.h"
 #include "site_file/RefusedSite.h"
 
@@ -18,7 +19,8 @@ struct SiteFinding {
     PointedObject object;
     std::string code; ///< the kind of finding, for programs
     std::string message;
-    std::string suggestion; ///< what was probably meant; empty when nothing is near
+    std::string suggestion;   ///< what was probably meant; empty when nothing is near
+    bool isOfDrawing = false; ///< about the drawing that the site was read from, and no value of the site
 };
 
 struct SiteFindings {
@@ -29,6 +31,6 @@ struct SiteFindings {
 
 /// Everything wrong or doubtful in a site file. Doubts are told of files without errors only, since a file
 /// with errors is no site yet.
-SiteFindings lintSite(const std::string& fileName, const RuleMap& rules);
+SiteFindings lintSite(const std::string& fileName, const RuleMap& rules, const DrawingOptions& drawings = {});
 
 } // namespace firecheck

@@ -29,12 +29,14 @@ std::string placeOf(const SiteFinding& finding) {
 std::string messageOf(const SiteFinding& finding) {
     if (finding.suggestion.empty())
         return finding.message;
-    const bool isSentence = finding.kind == SiteFinding::Kind::Doubt;
+    const bool isSentence = finding.kind == SiteFinding::Kind::Doubt && !finding.isOfDrawing;
     return filled(isSentence ? Words::tr("%1 Did you mean \"%2\"?") : Words::tr("%1; did you mean \"%2\"?"),
                   finding.message, finding.suggestion);
 }
 
 std::string lineOf(const SiteFinding& finding) {
+    if (finding.isOfDrawing)
+        return filled(Words::tr("doubt: %1 [%2]", "message, code"), messageOf(finding), finding.code);
     const QString line = finding.kind == SiteFinding::Kind::Error
                              ? Words::tr("error: %1: %2 [%3]", "place, message, code")
                              : Words::tr("doubt: %1: %2 [%3]", "place, message, code");

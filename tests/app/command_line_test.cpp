@@ -36,6 +36,9 @@ protected:
             <!-- kept --></Roads></Rules>)");
         write("no_rules.xml", "<Rules><!-- none --><Roads/></Rules>");
         write("broken.xml", "<Rules>\n<Roads></Rules>");
+        write("yard.dxf", "0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n5\n1F\n8\nWood yard\n10\n0\n20\n0\n40\n900\n"
+                          "0\nHATCH\n8\nLAWN\n0\nENDSEC\n0\nEOF\n");
+        write("map.json", R"({"rows": [{"layers": "WALLS", "class": "rod"}]})");
         write("clean.xml", "<R><G><Self_RoadLoop Type='self'/></G></R>");
         write("wrong.xml", "<R><G>\n  <Self_RoadLoops Type='self' Grösse='x'/></G></R>");
     }
@@ -124,7 +127,7 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         {"firecheck check --rules rules.xml", "",
          "firecheck: No site file is given. Try \"firecheck help check\".\n", 2},
         {"firecheck check fine.json --format yaml", "",
-         "firecheck: No such format: \"yaml\". Choose one of text, json, csv, html.\n", 2},
+         "firecheck: No such format: \"yaml\". Choose one of text, json, csv, html, dxf.\n", 2},
         {"firecheck check fine.json --frmat json", "",
          "firecheck: Unknown option 'frmat'. Did you mean \"--format\"? Try \"firecheck help check\".\n", 2},
         {"firecheck", "", "firecheck: No command is given. Try \"firecheck --help\".\n", 2},
@@ -196,6 +199,22 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
 }
 )",
          "", 1},
+        {"firecheck lint-site yard.dxf --rules rules.xml",
+         "yard.dxf:18:1: doubt: 1 HATCH on layer \"LAWN\" not taken up: such entities are not read [not-taken-up]\n"
+         "yard.dxf: 1 doubt\n",
+         "", 1},
+        {"firecheck import yard.dxf -o yard.json && cat yard.json; firecheck check yard.dxf --rules rules.xml -q",
+         "{\n  \"objects\": [\n    {\"class\":\"woodYard\",\"handle\":31,\"circle\":{\"center\":[0,0],\"radius\":900}}\n  ]\n}\n",
+         "firecheck: yard.dxf:18: 1 HATCH on layer \"LAWN\" not taken up: such entities are not read\n", 0},
+        {"firecheck check yard.dxf -q --rules rules.xml --layers map.json", "",
+         "firecheck: map.json:1:31: /rows/0/class: unknown class \"rod\"; did you mean \"road\"?\n", 2},
+        {"firecheck check yard.dxf -q --rules rules.xml --encoding klingon", "",
+         "firecheck: No such encoding of texts: \"klingon\". Try GB18030, UTF-8 or CP1252.\n", 2},
+        {"firecheck check yard.dxf yard.dxf --format dxf", "",
+         "firecheck: Expected one site file for --format dxf: the findings of two would lie upon each other.\n",
+         2},
+        {"firecheck import yard.dxf --layers map.json -o map.json", "",
+         "firecheck: map.json: expected another file for --output: it is --layers, which would be lost\n", 2},
         {"firecheck help check > /dev/full", "",
          "firecheck: standard output: cannot be written: No space left on device\n", 2},
     };

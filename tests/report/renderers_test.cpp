@@ -2,9 +2,9 @@
 #include "case_file/case_directory.h"
 #include "check/accept_file.h"
 #include "check/check_site.h"
+#include "drawing/load_site.h"
 #include "report/ReportWriter.h"
 #include "report/plan/plan_svg.h"
-#include "site_file/site_reader.h"
 #include "source_file.h"
 
 #include <QDir>

@@ -3,8 +3,8 @@
 
 #include "InputError.h"
 #include "check/check_site.h"
+#include "drawing/load_site.h"
 #include "report/ReportWriter.h"
-#include "site_file/site_reader.h"
 #include "source_file.h"
 
 #include <QTemporaryDir>

@@ -1,0 +1,104 @@
+#include "drawing/DrawingWalk.h"
+
+#include "drawing/DrawnShape.h"
+#include "drawing/block_nesting.h"
+#include "drawing/dxf/refuse_drawing.h"
+#include "text/words.h"
+
+namespace firecheck {
+
+namespace {
+
+constexpr std::size_t kMostVisits = 3000000;
+const std::string kBlockLayer = "0";
+
+class Walk {
+public:
+    Walk(const DxfDrawing& drawing, const std::string& fileName, DrawingVisitor& visitor)
+        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor) {}
+
+    void visitAll(const std::vector<DxfEntity>& entities, const PlaneMap& map,
+                  const std::string* outerLayer) {
+        for (const DxfEntity& entity : entities) {
+            const bool takesOuterLayer = outerLayer && entity.layer == kBlockLayer;
+            const PlacedEntity placed{entity, map, takesOuterLayer ? *outerLayer : entity.layer,
+                                      outerLayer != nullptr};
+            count(entity);
+            if (entity.isInPaperSpace)
+                m_visitor.passOver(placed, filled(Words::tr("it is in paper space")));
+            else if (entity.isInvisible || isHidden(placed.layer))
+                m_visitor.passOver(placed,
+                                   filled(Words::tr("it is invisible, or its layer is off or frozen")));
+            else if (const auto* insert = std::get_if<DxfInsert>(&entity.shape))
+                visitInsert(placed, *insert);
+            else
+                m_visitor.take(placed);
+        }
+    }
+
+private:
+    void count(const DxfEntity& entity) {
+        if (++m_visits > kMostVisits)
+            refuseDrawing(m_fileName, entity.line,
+                          filled(Words::tr("expected blocks that come to at most %1 entities"), kMostVisits));
+    }
+
+    bool isHidden(const std::string& layer) {
+        auto known = m_hidden.find(layer);
+        if (known == m_hidden.end()) {
+            const auto row = m_drawing.layers.find(dxfNameKey(layer));
+            known = m_hidden.emplace(layer, row != m_drawing.layers.end() && row->second.isHidden).first;
+        }
+        return known->second;
+    }
+
+    void visitInsert(const PlacedEntity& placed, const DxfInsert& insert) {
+        const auto block = m_drawing.blocks.find(dxfNameKey(insert.block));
+        for (int row = 0; row < insert.rows; ++row)
+            for (int column = 0; column < insert.columns; ++column) {
+                count(placed.entity);
+                if (block != m_drawing.blocks.end())
+                    visitCell({placed.entity, placed.map, placed.layer, placed.isInBlock, column, row},
+                              insert, block->second);
+                else
+                    m_visitor.passOver(placed, filled(Words::tr("its block is not in the drawing")));
+            }
+    }
+
+    void visitCell(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
+        if (m_visitor.takeInsert(placed))
+            return;
+        if (block.isExternal) {
+            m_visitor.passOver(placed, filled(Words::tr("it refers to another drawing")));
+            return;
+        }
+        if (placed.entity.facing == DxfFacing::Tilted) {
+            m_visitor.passOver(placed, filled(Words::tr("it does not lie in the plan")));
+            return;
+        }
+        if (m_depth == kDeepestBlock)
+            refuseDrawing(m_fileName, placed.entity.line, tooDeepBlock());
+        ++m_depth;
+        visitAll(block.entities,
+                 placed.map.after(ownPlane(placed.entity))
+                     .after(insertPlane(insert, block, placed.column, placed.row)),
+                 &placed.layer);
+        --m_depth;
+    }
+
+    const DxfDrawing& m_drawing;
+    const std::string& m_fileName;
+    DrawingVisitor& m_visitor;
+    std::map<std::string, bool> m_hidden;
+    std::size_t m_visits = 0;
+    int m_depth = 0;
+};
+
+} // namespace
+
+void walkDrawing(const DxfDrawing& drawing, const std::string& fileName, const PlaneMap& map,
+                 DrawingVisitor& visitor) {
+    Walk(drawing, fileName, visitor).visitAll(drawing.entities, map, nullptr);
+}
+
+} // namespace firecheck
