@@ -1641,5 +1641,9 @@
         <source>safety walkway</source>
         <translation>安全通道</translation>
     </message>
+    <message>
+        <source>expected at most %1 attributes in a tag</source>
+        <translation>每个标签最多应有 %1 个属性</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,9 @@
 
 #include "InputError.h"
 #include "base/rooted_file_name.h"
+#include "rules/XmlPlaces.h"
+#include "rules/crowded_tag.h"
+#include "rules/decoded_xml.h"
 #include "rules_config/NUXRuleConfigFile.h"
 #include "rules_config/rule_file_bounds.h"
 #include "text/language.h"
@@ -13,6 +16,22 @@
 #include <QXmlStreamReader>
 
 namespace firecheck {
+
+namespace {
+
+[[noreturn]] void refuseAt(const Place& place, const std::string& fileName, const std::string& reason) {
+    throw InputError(fileName + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
+                     reason);
+}
+
+void requireFewAttributes(const std::string& fileName, const QByteArray& content) {
+    const QString text = decodedXml(content).text;
+    if (const auto tag = crowdedTag(text))
+        refuseAt(XmlPlaces(text).placeAt(*tag), fileName,
+                 filled(Words::tr("expected at most %1 attributes in a tag"), kMostAttributes));
+}
+
+} // namespace
 
 std::string defaultRuleFile() {
     const QString language = currentLanguage();
@@ -39,6 +58,7 @@ QByteArray ruleFileContent(const std::string& fileName) {
     QByteArray content;
     if (file.size() <= firestandard::kLargestRuleFile)
         content = file.read(file.size());
+    requireFewAttributes(fileName, content);
     if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content))
         throw InputError(
             fileName + ": " +
@@ -56,9 +76,8 @@ void requireWellFormed(const std::string& fileName) {
 }
 
 void refuseIllFormed(const std::string& fileName, const QXmlStreamReader& reader) {
-    throw InputError(fileName + ":" + std::to_string(reader.lineNumber()) + ":" +
-                     std::to_string(reader.columnNumber() + 1) + ": " +
-                     filled(Words::tr("expected a well-formed XML document: %1"), reader.errorString()));
+    refuseAt({int(reader.lineNumber()), int(reader.columnNumber()) + 1}, fileName,
+             filled(Words::tr("expected a well-formed XML document: %1"), reader.errorString()));
 }
 
 const RuleMap& useRules(const std::string& fileName) {
