@@ -12,7 +12,7 @@ const CommandOption kRules{"rules", "FILE",
                            "Judge by this rule file instead of the one that comes with the checker."};
 const CommandOption kOutput{
     "output", "FILE",
-    "Write the result to this file, which takes the place of an older one only when all is written."};
+    "Write the result to this file, which takes the place of an older one only when all is written; \"-\" is standard output."};
 
 const CommandOption kLanguage{"lang", "en|zh_CN", "The language of every sentence; English unless given."};
 
@@ -79,7 +79,8 @@ const std::vector<Command>& commands() {
          {format("text|json|markdown"), kOutput},
          "Lists the rule names that mean something, and what each of them judges.",
          "With a name it tells of that rule alone.",
-         listRulesCommand},
+         listRulesCommand,
+         false},
         {"lint-rules",
          "[FILE]",
          {format("text|json"), kOutput, kLanguage},
@@ -99,14 +100,21 @@ const std::vector<Command>& commands() {
          "Writes the JSON Schema of site files, or the list of their classes and keys.",
          "",
          siteSchemaCommand},
-        {"help", "[COMMAND]", {}, "Shows the commands, or one of them with its options.", "", helpCommand},
+        {"help",
+         "[COMMAND]",
+         {},
+         "Shows the commands, or one of them with its options.",
+         "",
+         helpCommand,
+         false},
         {"manual", "", {kOutput}, "Writes this manual page.", "", manualCommand},
         {"completion",
          "bash|zsh",
          {kOutput},
          "Writes what a shell needs to complete commands and options.",
          "",
-         completionCommand},
+         completionCommand,
+         false},
     };
     return table;
 }
