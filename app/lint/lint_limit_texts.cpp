@@ -41,8 +41,9 @@ Limits limitsOf(const RuleFileNode& rule) {
         for (const QString& part : QString::fromStdString(rule.value("DistantValue")).split(':'))
             limits.values.push_back(part.toDouble());
         // What is no distance is told as that.
-        const bool areDistances = std::all_of(limits.values.begin(), limits.values.end(),
-                                              [](double limit) { return limit >= 0.0 && std::isfinite(limit); });
+        const bool areDistances = std::all_of(limits.values.begin(), limits.values.end(), [](double limit) {
+            return limit >= 0.0 && std::isfinite(limit);
+        });
         return areDistances ? limits : Limits();
     }
     const auto* row = firestandard::findRule(QString::fromStdString(rule.name), type);

@@ -225,11 +225,11 @@ TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenASiteWasChecked) {
 
 TEST_F(CommandLine, OverwritesNothingThatItReads) {
     const std::string check = "firecheck check narrow.json --rules rules.xml ";
-    ASSERT_EQ(
-        run(check + "--write-accept accepted.json; ln -s narrow.json linked.json; ln rules.xml same.xml; "
-                    "ln -s later.txt dangling.txt")
-            .status,
-        0);
+    ASSERT_EQ(run(check +
+                  "--write-accept accepted.json; ln -s narrow.json linked.json; ln rules.xml same.xml; "
+                  "ln -s later.txt dangling.txt")
+                  .status,
+              0);
     const std::map<std::string, std::string> files{{"narrow.json", read("narrow.json")},
                                                    {"rules.xml", read("rules.xml")},
                                                    {"accepted.json", read("accepted.json")}};
@@ -289,7 +289,8 @@ TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
 TEST_F(CommandLine, ReadsAndWritesStandardStreamsForADash) {
     EXPECT_EQ(run("firecheck check narrow.json --rules - --output - < rules.xml").output, kNarrowReport);
     EXPECT_EQ(run("firecheck lint-rules - < wrong.xml").output.substr(0, 6), "-:2:3:");
-    const Outcome crowded = run("printf '<R><G><X' > x; seq -f ' a%g=\"\"' 1001 >> x; firecheck lint-rules - < x");
+    const Outcome crowded =
+        run("printf '<R><G><X' > x; seq -f ' a%g=\"\"' 1001 >> x; firecheck lint-rules - < x");
     EXPECT_EQ(crowded.messages, "firecheck: -:1:7: expected at most 1000 attributes in a tag\n");
 }
 
