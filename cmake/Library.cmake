@@ -39,9 +39,9 @@ set(explaining_sources
     explain/element_noun.cpp
     explain/explain_check.cpp
     explain/judged_rules.cpp
+    explain/measure_of.cpp
     explain/measure_text.cpp
     explain/number_word.cpp
-    explain/record_measures.cpp
     explain/rule_text_fields.cpp
     explain/rule_wording.cpp
     explain/sentence.cpp

@@ -2065,5 +2065,57 @@
         <comment>message, code</comment>
         <translation>疑问：%1 [%2]</translation>
     </message>
+    <message>
+        <source>%1 was not measured: %2</source>
+        <comment>element, why</comment>
+        <translation>%1 未被量测：%2</translation>
+    </message>
+    <message>
+        <source>%1 was not measured: %2; nor was 1 other</source>
+        <comment>element, why</comment>
+        <translation>%1 未被量测：%2；另有 1 个也未被量测</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was not measured: %2; nor were %n others</source>
+        <comment>element, why</comment>
+        <translation>
+            <numerusform>%1 未被量测：%2；另有 %n 个也未被量测</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>more than any site has</source>
+        <translation>超出任何工地的距离</translation>
+    </message>
+    <message>
+        <source>%1, of %2, which is not checked</source>
+        <comment>acceptance, site file</comment>
+        <translation>%1（属于未检查的 %2）</translation>
+    </message>
+    <message>
+        <source>nothing to compare with that can be measured</source>
+        <translation>没有可量测的构件可供比较</translation>
+    </message>
+    <message>
+        <source>1 more violation of the same rule by the same element</source>
+        <translation>同一构件另有 1 处违反同一规则</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more violations of the same rule by the same element</source>
+        <translation>
+            <numerusform>同一构件另有 %n 处违反同一规则</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>expected at most %1 attributes in a tag</source>
+        <translation>每个标签最多应有 %1 个属性</translation>
+    </message>
+    <message>
+        <source>a rule file</source>
+        <translation>规则文件</translation>
+    </message>
+    <message>
+        <source>cannot be copied: %1</source>
+        <translation>无法复制：%1</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "explain/CheckRecorder.h"
 
 #include "cad/UdDbObject.h"
+#include "explain/measure_of.h"
 #include "explain/unjudged_reason.h"
 
 #include <algorithm>
@@ -27,6 +28,16 @@ bool canOffend(const Comparison& comparison) {
 
 } // namespace
 
+void Offences::add(Measure measure) {
+    ++count;
+    const auto place = std::upper_bound(nearest.begin(), nearest.end(), measure,
+                                        [](const Measure& a, const Measure& b) { return a.value < b.value; });
+    if (nearest.size() == kMostTold && place == nearest.end())
+        return;
+    nearest.insert(place, std::move(measure));
+    nearest.resize(std::min(nearest.size(), kMostTold));
+}
+
 void CheckRecorder::beginRule(const NuxStandardCheckRule& rule) {
     m_runs.emplace_back();
     m_runs.back().rule = rule;
@@ -46,9 +57,9 @@ void CheckRecorder::endRule() {
             ++run.judged;
         else if (element.why)
             run.unjudged.push_back({handle, *element.why, std::move(element.reason)});
+        if (element.offences.count > 0)
+            run.offences[handle] = std::move(element.offences);
     }
-    std::stable_sort(run.offences.begin(), run.offences.end(),
-                     [](const Offence& a, const Offence& b) { return a.element < b.element; });
 }
 
 void CheckRecorder::compared(const Comparison& comparison) {
@@ -64,10 +75,10 @@ void CheckRecorder::compared(const Comparison& comparison) {
         return;
     if (comparison.other && comparison.measurement->quantity == Quantity::Distance)
         ++run.pairCount;
-    if (comparison.offends)
-        run.offences.push_back({handleOf(comparison.element),
-                                comparison.other ? handleOf(*comparison.other) : 0, *comparison.measurement,
-                                comparison.contact});
+    if (!comparison.offends)
+        return;
+    if (auto measure = measureOf(comparison))
+        element.offences.add(std::move(*measure));
 }
 
 void CheckRecorder::notJudged(const UdDbObject& element, NotJudged why) {

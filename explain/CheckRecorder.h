@@ -1,6 +1,7 @@
 #pragma once
 
 #include "evaluators/CheckObserver.h"
+#include "explain/Finding.h"
 #include "rules_config/NuxStandardCheckRule.h"
 
 #include <chrono>
@@ -12,12 +13,12 @@
 
 namespace firestandard {
 
-/// A measured comparison that takes part in a violation.
-struct Offence {
-    long long element = 0;
-    long long other = 0; ///< 0 for an element judged by itself
-    Measurement measurement;
-    std::optional<Contact> contact; ///< nothing when the rule took the distance for granted
+/// The measured comparisons that take part in violations of one element.
+struct Offences {
+    std::vector<Measure> nearest; ///< by ascending value, the first kMostTold; of equals as they came
+    std::size_t count = 0;        ///< of all
+
+    void add(Measure measure);
 };
 
 /// An element that a rule took up and compared with nothing, or could not compare others with.
@@ -30,9 +31,9 @@ struct Unjudged {
 /// What one rule looked at during a check.
 struct RuleRun {
     NuxStandardCheckRule rule;
-    std::size_t judged = 0;             ///< elements that it compared
-    std::size_t pairCount = 0;          ///< pairs that it judged by distance
-    std::vector<Offence> offences;      ///< by ascending handle of the element
+    std::size_t judged = 0;                           ///< elements that it compared
+    std::size_t pairCount = 0;                        ///< pairs that it judged by distance
+    std::unordered_map<long long, Offences> offences; ///< by handle of the element
     std::vector<Unjudged> unjudged;     ///< elements that it compared with nothing, as it came to them
     std::vector<Unjudged> unfit;        ///< elements that it could compare nothing with
     std::size_t neverMeasuredPairs = 0; ///< pairs of types that the library has no measure for
@@ -40,8 +41,8 @@ struct RuleRun {
     std::chrono::nanoseconds time{0};
 };
 
-/// Watches a check as long as it lives. Of what it is told it keeps what reports name, so that it needs no
-/// more memory than the results.
+/// Watches a check as long as it lives. Of what it is told it keeps what reports name, so that it needs
+/// memory in proportion to the elements, not to the pairs.
 class CheckRecorder : public CheckObserver {
 public:
     CheckRecorder() { setCheckObserver(this); }
@@ -66,6 +67,7 @@ private:
         bool isJudged = false;
         std::optional<NotJudged> why;
         std::string reason;
+        Offences offences;
     };
 
     TakenUp& takenUp(const UdDbObject& element);

@@ -1,13 +1,43 @@
 #include "explain/CheckReport.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace firestandard {
 
 std::size_t CheckReport::acceptedCount() const {
     return static_cast<std::size_t>(
-        std::count_if(findings.begin(), findings.end(),
-                      [](const Finding& finding) { return finding.acceptedBecause.has_value(); }));
+               std::count_if(findings.begin(), findings.end(),
+                             [](const Finding& finding) { return finding.acceptedBecause.has_value(); })) +
+           untoldAccepted;
+}
+
+void CheckReport::tellFewOfEach() {
+    std::map<std::pair<QString, long long>, std::vector<Finding*>> groups;
+    for (Finding& finding : findings)
+        if (const NuxStandardCheckRule& its = record(finding); its.handle != 0 || finding.relatedCount > 0)
+            groups[{its.name, its.handle}].push_back(&finding);
+    std::set<const Finding*> dropped;
+    for (auto& [key, group] : groups) {
+        if (group.size() <= kMostTold)
+            continue;
+        std::stable_partition(group.begin(), group.end(),
+                              [](const Finding* finding) { return !finding->acceptedBecause; });
+        const auto firstDropped = group.begin() + kMostTold;
+        (*std::max_element(group.begin(), firstDropped))->further = group.size() - kMostTold;
+        dropped.insert(firstDropped, group.end());
+    }
+    std::vector<Finding> told;
+    for (Finding& finding : findings) {
+        if (dropped.count(&finding) == 0) {
+            told.push_back(std::move(finding));
+            continue;
+        }
+        ++untold;
+        untoldAccepted += finding.acceptedBecause.has_value();
+    }
+    findings = std::move(told);
 }
 
 std::size_t CheckReport::unjudgedCount() const {

@@ -44,6 +44,7 @@ struct JudgedRule {
     std::size_t violations = 0;                ///< records, those about the site as a whole included
     bool canOffend = true; ///< false where no value that was compared could break the limits as written
     std::size_t neverMeasuredPairs = 0; ///< pairs of types that the library has no measure for
+    std::size_t unfit = 0;              ///< elements that it could compare nothing with
     std::string note;                   ///< what else there is to know of this judgement; mostly empty
     std::chrono::nanoseconds time{0};
 };
@@ -67,7 +68,7 @@ struct CheckReport {
     std::vector<std::pair<QString, std::vector<NuxStandardCheckRule>>> results;
     std::vector<std::pair<QString, std::vector<bool>>> checkState;
 
-    std::vector<Finding> findings;      ///< one for each record, rule by rule in the order of `counts`
+    std::vector<Finding> findings;      ///< one for each record, rule by rule as in `counts`
     std::vector<RuleCount> counts;      ///< rules with violations, in the order of the rule map
     std::vector<ElementLabel> elements; ///< those named by what follows or the results, by ascending handle
     std::vector<JudgedRule> judged;     ///< in the order of the rule map
@@ -75,8 +76,16 @@ struct CheckReport {
     std::vector<PassedOver> notJudged;
     std::vector<ElementLabel> judgedByNoRule; ///< elements that no rule compared, in the order of the drawing
 
-    std::size_t violationCount() const { return findings.size(); }
+    std::size_t untold = 0;         ///< records whose findings tellFewOfEach took out
+    std::size_t untoldAccepted = 0; ///< those of them that are accepted
+
+    std::size_t violationCount() const { return findings.size() + untold; }
     std::size_t acceptedCount() const;
+
+    /// Of one element that breaks one rule in many records, as a gate does with every other gate of its
+    /// corner, leaves the findings of kMostTold, those that are not accepted before the others. The last
+    /// counts the rest.
+    void tellFewOfEach();
 
     const NuxStandardCheckRule& record(const Finding& finding) const {
         return results[finding.entry].second[finding.index];

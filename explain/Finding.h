@@ -9,6 +9,9 @@ namespace firestandard {
 
 inline constexpr double kMetresPerMillimetre = 1e-3;
 
+/// Metres, square metres. Limits further from 0 are told as this one.
+inline constexpr double kBeyondAnySite = 1e9;
+
 /// A point in plan, metres.
 struct PlanPoint {
     double x = 0.0;
@@ -55,6 +58,8 @@ struct Finding {
         related; ///< handles from the nearest on, or as the record has them; the first kMostTold
     std::size_t relatedCount = 0; ///< of all, told or not
     std::string sentence;         ///< what is wrong, as a planner would say it; UTF-8, names as given
+
+    std::size_t further = 0; ///< see CheckReport::tellFewOfEach
 
     // Set by whoever keeps what was accepted.
     std::optional<std::string> acceptedBecause;

@@ -9,7 +9,6 @@
 #include "explain/Words.h"
 #include "explain/element_noun.h"
 #include "explain/judged_rules.h"
-#include "explain/record_measures.h"
 #include "explain/sentence.h"
 #include "explain/unjudged_reason.h"
 #include "rules_config/NUXRuleConfigFile.h"
@@ -160,19 +159,16 @@ std::vector<RuleCount> countsByRule(const CheckReport& report,
     return counts;
 }
 
-/// Leaves the nearest and the numbers of all.
-void tellNearest(Finding& finding, const NuxStandardCheckRule& record) {
-    finding.measureCount = finding.measures.size();
-    finding.relatedCount = record.relatedHandles.size();
+/// The nearest of what the record relates to.
+std::vector<long long> nearestRelated(const Finding& finding, const NuxStandardCheckRule& record) {
+    std::vector<long long> related;
     for (const Measure& measure : finding.measures)
         if (measure.kind == Measure::Kind::Distance)
-            finding.related.push_back(measure.other);
-    if (finding.related.size() < finding.relatedCount)
-        finding.related.assign(record.relatedHandles.begin(), record.relatedHandles.end());
-    finding.related.resize(std::min(finding.related.size(), kMostTold));
-    finding.related.shrink_to_fit();
-    finding.measures.resize(std::min(finding.measures.size(), kMostTold));
-    finding.measures.shrink_to_fit();
+            related.push_back(measure.other);
+    if (finding.measureCount < record.relatedHandles.size() || related.empty())
+        related.assign(record.relatedHandles.begin(), record.relatedHandles.end());
+    related.resize(std::min(related.size(), kMostTold));
+    return related;
 }
 
 std::vector<Finding> findings(const CheckReport& report, const RuleRuns& runs) {
@@ -188,10 +184,13 @@ std::vector<Finding> findings(const CheckReport& report, const RuleRuns& runs) {
             Finding finding;
             finding.entry = entry;
             finding.index = index;
-            if (const RuleRun* run = runs.of(record))
-                finding.measures = recordMeasures(record, *run);
-            finding.sentence = sentenceOf(report, record, finding.measures);
-            tellNearest(finding, record);
+            if (const Offences* offences = runs.offences(record)) {
+                finding.measures = offences->nearest;
+                finding.measureCount = offences->count;
+            }
+            finding.related = nearestRelated(finding, record);
+            finding.relatedCount = record.relatedHandles.size();
+            finding.sentence = sentenceOf(report, record, finding);
             result.push_back(std::move(finding));
         }
     }

@@ -4,6 +4,7 @@
 #include "explain/Words.h"
 #include "explain/rule_text_fields.h"
 #include "explain/rule_wording.h"
+#include "explain/sentence.h"
 
 #include <algorithm>
 #include <set>
@@ -28,7 +29,22 @@ JudgedRule::Verdict verdictOf(const JudgedRule& judged, const RuleRun* run) {
                : JudgedRule::Verdict::NothingToJudge;
 }
 
-std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
+/// 'wood yard 4 "East" was not measured: its depth is not above 0'.
+std::string unfitNote(const CheckReport& report, const RuleRun& run) {
+    const Unjudged& first = run.unfit.front();
+    const std::string element = elementPhrase(report, first.element);
+    const auto others = static_cast<int>(run.unfit.size()) - 1;
+    if (others == 0)
+        return filled(Words::tr("%1 was not measured: %2", "element, why"), element, first.reason);
+    return filled(others == 1
+                      ? Words::tr("%1 was not measured: %2; nor was 1 other", "element, why")
+                      : Words::tr("%1 was not measured: %2; nor were %n others", "element, why", others),
+                  element, first.reason);
+}
+
+std::string noteOf(const CheckReport& report, const NuxStandardCheckRule& rule, const RuleRun& run) {
+    if (run.judged == 0 && !run.unfit.empty())
+        return unfitNote(report, run);
     const auto end = std::find_if(run.unjudged.begin(), run.unjudged.end(),
                                   [](const Unjudged& one) { return one.why == NotJudged::NoBoxMeasurable; });
     if (end != run.unjudged.end())
@@ -43,7 +59,7 @@ std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
 }
 
 /// Elements of another use are not what the rule is about.
-void takeFrom(const RuleRun& run, JudgedRule& judged) {
+void takeFrom(const CheckReport& report, const RuleRun& run, JudgedRule& judged) {
     judged.found = run.judged;
     for (const Unjudged& element : run.unjudged) {
         if (element.why == NotJudged::OtherUse)
@@ -55,7 +71,8 @@ void takeFrom(const RuleRun& run, JudgedRule& judged) {
     judged.canOffend = run.canOffend || run.judged == 0;
     judged.neverMeasuredPairs = run.neverMeasuredPairs;
     judged.time = run.time;
-    judged.note = noteOf(judged.rule, run);
+    judged.unfit = run.unfit.size();
+    judged.note = noteOf(report, judged.rule, run);
 }
 
 } // namespace
@@ -90,6 +107,14 @@ const RuleRun* RuleRuns::of(const NuxStandardCheckRule& rule) const {
     return number == RuleNumbers::kUnknown ? nullptr : &m_runs[m_first[number]];
 }
 
+const Offences* RuleRuns::offences(const NuxStandardCheckRule& record) const {
+    const RuleRun* run = of(record);
+    if (!run)
+        return nullptr;
+    const auto found = run->offences.find(record.handle);
+    return found == run->offences.end() ? nullptr : &found->second;
+}
+
 std::vector<JudgedRule> judgedRules(const CheckReport& report, const RuleRuns& runs,
                                     const std::vector<NuxStandardCheckRule>& rules) {
     RuleNumbers numbers;
@@ -113,7 +138,7 @@ std::vector<JudgedRule> judgedRules(const CheckReport& report, const RuleRuns& r
         judged.offending = offending[i].size();
         const RuleRun* run = runs.of(judged.rule);
         if (run)
-            takeFrom(*run, judged);
+            takeFrom(report, *run, judged);
         judged.verdict = verdictOf(judged, run);
     }
     return result;

@@ -35,6 +35,9 @@ public:
     /// Null for a rule that was not run.
     const RuleRun* of(const NuxStandardCheckRule& rule) const;
 
+    /// What the record's rule measured about its element; null for none.
+    const Offences* offences(const NuxStandardCheckRule& record) const;
+
 private:
     std::vector<RuleRun> m_runs;
     RuleNumbers m_numbers;

@@ -14,7 +14,6 @@ constexpr int kFewestDecimals = 2;
 constexpr int kMostDecimals = 8; // a distance is known to 1e-8 m
 
 QString rounded(double value, int decimals) {
-    constexpr double kBeyondAnySite = 1e9;
     return std::abs(value) < kBeyondAnySite ? QString::number(value, 'f', decimals)
                                             : QString::number(value, 'g');
 }
@@ -41,13 +40,15 @@ std::string valueText(const Measure& measure) {
 }
 
 std::string limitText(const Measure& measure) {
-    if (measure.minimum && measure.maximum)
+    if (measure.minimum && *measure.minimum >= kBeyondAnySite)
+        return filled(Words::tr("more than any site has"));
+    const bool hasMaximum = measure.maximum && *measure.maximum < kBeyondAnySite;
+    if (measure.minimum && hasMaximum)
         return filled(Words::tr("at least %1 and at most %2"), withUnit(*measure.minimum, measure),
                       withUnit(*measure.maximum, measure));
     if (measure.minimum)
         return filled(Words::tr("at least %1"), withUnit(*measure.minimum, measure));
-    return measure.maximum ? filled(Words::tr("at most %1"), withUnit(*measure.maximum, measure))
-                           : std::string();
+    return hasMaximum ? filled(Words::tr("at most %1"), withUnit(*measure.maximum, measure)) : std::string();
 }
 
 } // namespace firestandard

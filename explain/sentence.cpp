@@ -17,7 +17,8 @@ constexpr std::size_t kMostNamed = 3; ///< elements that one sentence names befo
 struct Subject {
     const CheckReport& report;
     const NuxStandardCheckRule& record;
-    const std::vector<Measure>& measures;
+    const std::vector<Measure>& measures; ///< the nearest of them
+    std::size_t measureCount;
     const RuleRow* row; ///< the catalogue's; null for a name that it does not have
 
     double fixedLimit(std::size_t index = 0) const { return row->fixedLimits[index]; }
@@ -60,7 +61,7 @@ std::string distanceSentence(const Subject& subject) {
     for (std::size_t i = 0; i < subject.measures.size() && i < kMostNamed; ++i)
         named << distancePhrase(subject, subject.measures[i]);
     return filled(Words::tr("%1 %2; the rule asks for %3", "element, distances, limits"), subject.element(),
-                  listed(named, subject.measures.size()), limitText(subject.measures.front()));
+                  listed(named, subject.measureCount), limitText(subject.measures.front()));
 }
 
 std::string boxSentence(const Subject& subject) {
@@ -209,11 +210,12 @@ std::string elementPhrase(const CheckReport& report, long long handle) {
 }
 
 std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,
-                       const std::vector<Measure>& measures) {
-    const Subject subject{report, record, measures, findRule(record.name, record.type)};
+                       const Finding& finding) {
+    const Subject subject{report, record, finding.measures, finding.measureCount,
+                          findRule(record.name, record.type)};
     if (record.type == QLatin1String("without"))
         return absenceSentence(subject);
-    if (record.type == QLatin1String("distant") && !measures.empty())
+    if (record.type == QLatin1String("distant") && !finding.measures.empty())
         return distanceSentence(subject);
     return subject.row ? knownSentence(subject) : plainSentence(subject);
 }

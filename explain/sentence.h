@@ -6,8 +6,7 @@ namespace firestandard {
 
 /// What is wrong, as a planner would say it, without a full stop: 'dormitory 413 "Row C" stands 3.50 m from
 /// dormitory 414; the rule asks for at least 4.00 m'. Names as the site file gives them.
-std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record,
-                       const std::vector<Measure>& measures);
+std::string sentenceOf(const CheckReport& report, const NuxStandardCheckRule& record, const Finding& finding);
 
 /// 'dormitory 413 "Row C"'.
 std::string labelPhrase(const ElementLabel& label);

@@ -1,6 +1,7 @@
 #include "explain/unjudged_reason.h"
 
 #include "cad/UdDbObject.h"
+#include "elements/NUXCalcFunc.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXRoadObject.h"
 #include "explain/Words.h"
@@ -127,7 +128,7 @@ std::string polylineFlaw(const UdDbObject& element) {
     if (!base || base->m_shapeKind != shape::kPolyline)
         return {};
     const OutlinePtr outline = measuredOutlines(element).footprint;
-    if (outline && outline->IsValid(kFiveValidityChecks, nullptr))
+    if (outline && NUXCalcFunc::IsNuxStrictlyValid(outline.get(), true))
         return {};
     return unjudgedReason(element,
                           hasCrossingOutline(base) ? NotJudged::OutlineCrossesItself : NotJudged::NoOutline);

@@ -1,6 +1,8 @@
 #include "check/RuleSelection.h"
 
 #include "InputError.h"
+#include "text/nearest_name.h"
+#include "text/shortened.h"
 
 #include <QRegularExpression>
 
@@ -9,6 +11,16 @@
 namespace firecheck {
 
 namespace {
+
+[[noreturn]] void refuse(const std::string& pattern, const std::vector<QString>& names) {
+    std::vector<std::string> known;
+    for (const QString& name : names)
+        known.push_back(name.toStdString());
+    const auto nearest = nearestName(pattern, known);
+    throw InputError("No rule has a name like \"" + shortened(pattern) + "\". " +
+                     (nearest ? "Did you mean \"" + *nearest + "\"? " : std::string()) +
+                     "Try \"firecheck show-rules\".");
+}
 
 std::vector<bool> fitting(const QStringList& patterns, const std::vector<QString>& names) {
     std::vector<bool> fits(names.size());
@@ -22,8 +34,7 @@ std::vector<bool> fitting(const QStringList& patterns, const std::vector<QString
             if (expression.match(names[i]).hasMatch())
                 hasFound = fits[i] = true;
         if (!hasFound)
-            throw InputError("No rule has a name like \"" + pattern.toStdString() +
-                             "\". Try \"firecheck show-rules\".");
+            refuse(pattern.toStdString(), names);
     }
     return fits;
 }

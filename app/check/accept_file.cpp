@@ -4,7 +4,10 @@
 #include "json/JsonPlace.h"
 #include "json/parse_json.h"
 #include "text/input_text.h"
+#include "text/words.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QString>
 
 #include <algorithm>
@@ -21,6 +24,7 @@ const std::string kHandles = "handles";
 const std::string kReason = "reason";
 const std::string kSite = "site";
 const std::string kValue = "value";
+const std::string kValues = "values";
 constexpr double kSameValue = 1e-6; ///< metres, square metres; what rounding may do
 
 /// Tells violations apart as far as acceptances do.
@@ -64,8 +68,22 @@ std::vector<long long> handlesAt(const Json& value, const JsonPlace& place) {
     return handles;
 }
 
+std::map<long long, double> valuesAt(const Json& value, const JsonPlace& place) {
+    if (!value.is_object())
+        refuse(place, "expected the values that are accepted, by handle");
+    std::map<long long, double> values;
+    for (const auto& item : value.items()) {
+        bool isHandle = false;
+        const long long handle = QString::fromStdString(item.key()).toLongLong(&isHandle);
+        if (!isHandle || !item.value().is_number())
+            refuse(JsonPlace(place, item.key()), "expected a handle and the number that is accepted");
+        values[handle] = item.value().get<double>();
+    }
+    return values;
+}
+
 Acceptance acceptanceAt(const Json& value, const JsonPlace& place, bool needSites) {
-    requireObject(value, {kSite, kRule, kHandles, kReason, kValue}, place);
+    requireObject(value, {kSite, kRule, kHandles, kReason, kValue, kValues}, place);
     Acceptance acceptance;
     if (needSites || value.contains(kSite))
         acceptance.site =
@@ -80,6 +98,8 @@ Acceptance acceptanceAt(const Json& value, const JsonPlace& place, bool needSite
             refuse(JsonPlace(place, kValue), "expected the value that is accepted, a number or null");
         acceptance.value = given->get<double>();
     }
+    if (value.contains(kValues))
+        acceptance.values = valuesAt(value[kValues], JsonPlace(place, kValues));
     return acceptance;
 }
 
@@ -102,29 +122,70 @@ std::string described(const Acceptance& acceptance) {
     return text + ": " + acceptance.reason;
 }
 
-bool isOfSite(const Acceptance& acceptance, const SiteReport& report) {
-    const QString file = QString::fromStdString(report.fileName);
+/// One place under all its spellings.
+QString placeOf(const QString& fileName) {
+    const QFileInfo info(fileName);
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
+}
+
+bool isOfSite(const Acceptance& acceptance, const std::string& fileName) {
+    const QString file = QString::fromStdString(fileName);
     const QString site = QString::fromStdString(acceptance.site);
-    return site.isEmpty() || site == file || site == file.section('/', -1);
+    return site.isEmpty() || site == file.section('/', -1) || placeOf(site) == placeOf(file);
 }
 
-std::optional<double> valueOf(const Finding& finding) {
-    return finding.measures.empty() ? std::nullopt : std::optional(finding.measures.front().value);
+/// What tells the sites apart that an entry is about, of those given or another.
+std::vector<std::string> placesOf(const Acceptance& acceptance, const std::vector<std::string>& sites) {
+    std::vector<std::string> places;
+    for (const std::string& site : sites)
+        if (isOfSite(acceptance, site))
+            places.push_back(placeOf(QString::fromStdString(site)).toStdString());
+    if (places.empty())
+        places.push_back(placeOf(QString::fromStdString(acceptance.site)).toStdString());
+    return places;
 }
 
-bool isWorse(const Finding& finding, double accepted) {
-    if (finding.measures.empty())
-        return false;
-    const Measure& now = finding.measures.front();
+void takeValues(const Finding& finding, Acceptance& acceptance) {
+    if (finding.measures.size() < 2 || finding.measures.front().kind != Measure::Kind::Distance) {
+        if (!finding.measures.empty())
+            acceptance.value = finding.measures.front().value;
+        return;
+    }
+    for (const Measure& measure : finding.measures)
+        acceptance.values[measure.other] = measure.value;
+}
+
+/// What was accepted for a value of today, if anything was. The nearest were listed: an element that was not
+/// lay no nearer than the last of them.
+std::optional<double> acceptedFor(const Measure& now, bool isNearest, const Acceptance& acceptance) {
+    if (acceptance.values.empty())
+        return isNearest ? acceptance.value : std::nullopt;
+    const auto own = acceptance.values.find(now.other);
+    if (own != acceptance.values.end())
+        return own->second;
+    double last = 0.0;
+    for (const auto& entry : acceptance.values)
+        last = std::max(last, entry.second);
+    return last;
+}
+
+bool isWorse(const Measure& now, double accepted) {
+    const bool hasComeToTouch = now.kind == Measure::Kind::Distance && now.value <= 0.0;
     const bool isTooLittle = now.minimum && now.value < *now.minimum;
-    return isTooLittle ? now.value < accepted - kSameValue : now.value > accepted + kSameValue;
+    return isTooLittle || hasComeToTouch ? now.value < accepted - kSameValue
+                                         : now.value > accepted + kSameValue;
 }
 
 void accept(Finding& finding, const Acceptance& acceptance) {
-    if (acceptance.value && isWorse(finding, *acceptance.value))
-        finding.outgrown = {*acceptance.value, acceptance.reason};
-    else
-        finding.acceptedBecause = acceptance.reason;
+    for (const Measure& now : finding.measures) {
+        const auto accepted = acceptedFor(now, &now == &finding.measures.front(), acceptance);
+        if (accepted && isWorse(now, *accepted)) {
+            finding.outgrown = {*accepted, acceptance.reason};
+            return;
+        }
+    }
+    finding.acceptedBecause = acceptance.reason;
 }
 
 Json entryJson(const Acceptance& entry, bool tellSite) {
@@ -134,6 +195,8 @@ Json entryJson(const Acceptance& entry, bool tellSite) {
     Json json{{kRule, entry.rule}, {kHandles, std::move(handles)}, {kReason, entry.reason}};
     if (entry.value)
         json[kValue] = *entry.value;
+    for (const auto& [handle, value] : entry.values)
+        json[kValues][std::to_string(handle)] = value;
     if (tellSite || !entry.site.empty())
         json[kSite] = entry.site;
     return json;
@@ -141,7 +204,7 @@ Json entryJson(const Acceptance& entry, bool tellSite) {
 
 } // namespace
 
-std::vector<Acceptance> loadAcceptances(const std::string& fileName, bool needSites) {
+std::vector<Acceptance> loadAcceptances(const std::string& fileName, const std::vector<std::string>& sites) {
     const Json value = parseJson(inputText(fileName, "a file of accepted violations"), fileName);
     try {
         const JsonPlace top;
@@ -151,13 +214,14 @@ std::vector<Acceptance> loadAcceptances(const std::string& fileName, bool needSi
         if (!entries.is_array())
             refuse(list, "expected a list of accepted violations");
         std::vector<Acceptance> acceptances;
-        std::set<std::pair<std::string, Identity>> known;
+        std::set<std::pair<std::string, Identity>> known; // by the place of the site
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const JsonPlace place(list, i);
-            acceptances.push_back(acceptanceAt(entries[i], place, needSites));
+            acceptances.push_back(acceptanceAt(entries[i], place, sites.size() > 1));
             const Acceptance& entry = acceptances.back();
-            if (!known.insert({entry.site, {entry.rule, entry.handles}}).second)
-                refuse(place, "expected one entry for each violation, found a second one");
+            for (const std::string& site : placesOf(entry, sites))
+                if (!known.insert({site, {entry.rule, entry.handles}}).second)
+                    refuse(place, "expected one entry for each violation, found a second one");
         }
         return acceptances;
     } catch (const InputError& error) {
@@ -165,12 +229,23 @@ std::vector<Acceptance> loadAcceptances(const std::string& fileName, bool needSi
     }
 }
 
+std::vector<std::string> ofOtherSites(const std::vector<Acceptance>& acceptances,
+                                      const std::vector<std::string>& sites) {
+    std::vector<std::string> entries;
+    for (const Acceptance& entry : acceptances)
+        if (std::none_of(sites.begin(), sites.end(),
+                         [&](const std::string& site) { return isOfSite(entry, site); }))
+            entries.push_back(filled(Words::tr("%1, of %2, which is not checked", "acceptance, site file"),
+                                     described(entry), entry.site));
+    return entries;
+}
+
 void acceptFindings(const std::vector<Acceptance>& acceptances, SiteReport& report) {
     std::map<Identity, std::vector<Finding*>> findings;
     for (Finding& finding : report.findings)
         findings[identityOf(report.record(finding))].push_back(&finding);
     for (const Acceptance& acceptance : acceptances) {
-        if (!isOfSite(acceptance, report))
+        if (!isOfSite(acceptance, report.fileName))
             continue;
         const auto matching = findings.find({acceptance.rule, acceptance.handles});
         if (matching == findings.end()) {
@@ -188,13 +263,15 @@ AcceptFileText::AcceptFileText(std::vector<Acceptance> acceptances, bool tellSit
 void AcceptFileText::add(const SiteReport& report) {
     std::set<Identity> known;
     for (const Acceptance& entry : m_entries)
-        if (isOfSite(entry, report))
+        if (isOfSite(entry, report.fileName))
             known.insert({entry.rule, entry.handles});
     for (const Finding& finding : report.findings) {
         const Identity identity = identityOf(report.record(finding));
-        if (known.insert(identity).second)
-            m_entries.push_back({m_tellSites ? report.fileName : std::string(), identity.first,
-                                 identity.second, std::string(), valueOf(finding)});
+        if (!known.insert(identity).second)
+            continue;
+        m_entries.push_back({m_tellSites ? report.fileName : std::string(), identity.first, identity.second,
+                             std::string(), std::nullopt});
+        takeValues(finding, m_entries.back());
     }
 }
 

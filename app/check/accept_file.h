@@ -2,6 +2,7 @@
 
 #include "report/SiteReport.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,12 +17,18 @@ struct Acceptance {
     std::vector<long long> handles; ///< ascending; none for a violation of the site as a whole
     std::string reason;
     std::optional<double> value; ///< that of the violation when it was accepted, of a distance the nearest
+    std::map<long long, double> values{}; ///< distances by related element, where several were accepted
 };
 
 /// Reads a file of accepted violations: {"accepted": [{"rule": ..., "handles": ["413", "414"], "reason": ...,
-/// "value": 3.5}]}. Every entry needs a reason, and its site where `needSites`; value is optional. Throws
-/// InputError for anything else, and for two entries about one violation.
-std::vector<Acceptance> loadAcceptances(const std::string& fileName, bool needSites);
+/// "value": 3.5}]}, or "values": {"414": 3.5, "415": 3.75}. Every entry needs a reason, and its site where
+/// there are several sites; values are optional. Throws InputError for anything else, and for two entries
+/// about one violation of one of the sites.
+std::vector<Acceptance> loadAcceptances(const std::string& fileName, const std::vector<std::string>& sites);
+
+/// "Self_RoadLoop: turning area" of each entry about a site that is none of these.
+std::vector<std::string> ofOtherSites(const std::vector<Acceptance>& acceptances,
+                                      const std::vector<std::string>& sites);
 
 /// Marks the findings that are accepted, and those that have got worse since. Lists the acceptances of this
 /// site that no finding matches as stale.

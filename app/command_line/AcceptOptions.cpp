@@ -6,20 +6,32 @@ namespace firecheck {
 
 namespace {
 
+std::vector<std::string> sitesOf(const Options& options) {
+    std::vector<std::string> sites;
+    for (const QString& site : options.arguments())
+        sites.push_back(site.toStdString());
+    return sites;
+}
+
 std::vector<Acceptance> given(const Options& options) {
     const auto source = options.value("accept");
-    return source ? loadAcceptances(source->toStdString(), options.arguments().size() > 1)
-                  : std::vector<Acceptance>();
+    return source ? loadAcceptances(source->toStdString(), sitesOf(options)) : std::vector<Acceptance>();
 }
 
 } // namespace
 
 AcceptOptions::AcceptOptions(const Options& options)
-    : m_acceptances(given(options)), m_new(m_acceptances, options.arguments().size() > 1),
-      m_target(options.value("write-accept")) {}
+    : m_acceptances(given(options)), m_ofOtherSites(ofOtherSites(m_acceptances, sitesOf(options))),
+      m_new(m_acceptances, options.arguments().size() > 1), m_target(options.value("write-accept")) {}
 
 void AcceptOptions::applyTo(SiteReport& report) {
     acceptFindings(m_acceptances, report);
+    for (std::string& entry : m_ofOtherSites)
+        report.staleAcceptances.push_back(std::move(entry));
+    m_ofOtherSites.clear();
+}
+
+void AcceptOptions::keep(const SiteReport& report) {
     if (m_target)
         m_new.add(report);
 }

@@ -16,11 +16,15 @@ public:
     /// Marks what is accepted.
     void applyTo(SiteReport& report);
 
+    /// Takes up what is reported for the file that is asked for.
+    void keep(const SiteReport& report);
+
     /// Writes the file that is asked for, once all sites were looked at.
     void write() const;
 
 private:
     std::vector<Acceptance> m_acceptances;
+    std::vector<std::string> m_ofOtherSites; ///< until some report has told them
     AcceptFileText m_new;
     std::optional<QString> m_target;
 };

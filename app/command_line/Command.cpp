@@ -12,7 +12,9 @@ const CommandOption kRules{"rules", "FILE",
                            "Judge by this rule file instead of the one that comes with the checker."};
 const CommandOption kOutput{
     "output", "FILE",
-    "Write the result to this file, which takes the place of an older one only when all is written.", 'o'};
+    "Write the result to this file, which takes the place of an older one only when all is written; \"-\" "
+    "is standard output.",
+    'o'};
 const CommandOption kLayers{
     "layers", "FILE",
     "What the layers and blocks of drawings mean, as \"firecheck layers\" writes it; the "
@@ -119,7 +121,8 @@ const std::vector<Command>& commands() {
          {format("text|json|markdown"), kOutput},
          "Lists the rule names that mean something, and what each of them judges.",
          "With a name it tells of that rule alone.",
-         listRulesCommand},
+         listRulesCommand,
+         false},
         {"lint-rules",
          "[FILE]",
          {format("text|json"), kOutput, kLanguage},
@@ -157,14 +160,21 @@ const std::vector<Command>& commands() {
          "Writes the JSON Schema of site files, or the list of their classes and keys.",
          "",
          siteSchemaCommand},
-        {"help", "[COMMAND]", {}, "Shows the commands, or one of them with its options.", "", helpCommand},
+        {"help",
+         "[COMMAND]",
+         {},
+         "Shows the commands, or one of them with its options.",
+         "",
+         helpCommand,
+         false},
         {"manual", "", {kOutput}, "Writes this manual page.", "", manualCommand},
         {"completion",
          "bash|zsh",
          {kOutput},
          "Writes what a shell needs to complete commands and options.",
          "",
-         completionCommand},
+         completionCommand,
+         false},
     };
     return table;
 }

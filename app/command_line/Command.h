@@ -22,6 +22,7 @@ struct Command {
     const char* summary; ///< one sentence
     const char* details; ///< more of them, without line breaks; empty for none
     int (*run)(const Options& options);
+    bool readsFiles = true; ///< its arguments are files, not names
 
     /// Null when the command does not have it.
     const CommandOption* option(const std::string& optionName) const;

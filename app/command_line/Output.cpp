@@ -33,9 +33,13 @@ std::unique_ptr<QFileDevice> openedFile(const QString& fileName) {
 
 } // namespace
 
+bool Output::isStandard(const QString& fileName) {
+    return fileName.isEmpty() || fileName == "-";
+}
+
 Output::Output(const QString& fileName)
-    : m_name(fileName.isEmpty() ? QStringLiteral("standard output") : fileName),
-      m_file(fileName.isEmpty() ? openedStandardOutput() : openedFile(fileName)) {
+    : m_name(isStandard(fileName) ? QStringLiteral("standard output") : fileName),
+      m_file(isStandard(fileName) ? openedStandardOutput() : openedFile(fileName)) {
     require(m_file->isOpen());
 }
 

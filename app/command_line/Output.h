@@ -12,8 +12,9 @@ namespace firecheck {
 /// when all is written. Every failure to write throws InputError.
 class Output {
 public:
-    /// An empty name stands for standard output.
+    /// An empty name and "-" stand for standard output.
     explicit Output(const QString& fileName);
+    static bool isStandard(const QString& fileName);
 
     void write(const std::string& piece);
 

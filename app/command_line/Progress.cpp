@@ -16,7 +16,8 @@ const char* const kEraseLine = "\r\033[K";
 } // namespace
 
 Progress::Progress(std::string fileName)
-    : m_fileName(printable(fileName)), m_isTerminal(isatty(STDERR_FILENO) == 1) {}
+    : m_fileName(printable(fileName)), m_isTerminal(isatty(STDERR_FILENO) == 1 && qgetenv("TERM") != "dumb") {
+}
 
 Progress::~Progress() {
     if (m_hasWritten)

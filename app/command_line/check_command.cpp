@@ -129,6 +129,8 @@ public:
             report.judgedByNoRule.clear();
         m_accept.applyTo(report);
         m_selection.applyTo(report);
+        m_accept.keep(report);
+        report.tellFewOfEach();
         if (m_options.isSet("suggest"))
             suggest(file.value, report);
         if (m_options.isSet("profile"))

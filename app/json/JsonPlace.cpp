@@ -1,6 +1,7 @@
 #include "json/JsonPlace.h"
 
 #include "json/Json.h"
+#include "text/shortened.h"
 #include "text/words.h"
 
 namespace firecheck {
@@ -17,7 +18,7 @@ std::string message(const std::vector<Refusal>& refusals) {
 } // namespace
 
 std::string Refusal::text() const {
-    const std::string place = pointer.empty() ? filled(Words::tr("top level")) : pointer;
+    const std::string place = pointer.empty() ? filled(Words::tr("top level")) : shortened(pointer);
     return place + ": " +
            (suggestion.empty() ? reason : filled(Words::tr("%1; did you mean \"%2\"?"), reason, suggestion));
 }

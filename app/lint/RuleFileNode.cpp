@@ -1,7 +1,7 @@
 #include "lint/RuleFileNode.h"
 
-#include "lint/XmlPlaces.h"
-#include "lint/decoded_xml.h"
+#include "rules/XmlPlaces.h"
+#include "rules/decoded_xml.h"
 #include "rules/rule_file.h"
 
 #include <QXmlStreamReader>

@@ -70,10 +70,10 @@ private:
         const double value = part.toDouble(&isNumber);
         if (isNumber && std::isfinite(value) && value >= 0.0)
             return value;
-        const QString consequence = std::isnan(value)   ? Words::tr("No distance offends against it.")
-                                    : std::isinf(value) ? Words::tr("It counts as infinite.")
-                                    : isNumber          ? Words::tr("No distance is below it.")
-                                                        : Words::tr("It counts as 0 m.");
+        const QString consequence = std::isnan(value) ? Words::tr("No distance offends against it.")
+                                    : std::isinf(value) && value > 0.0 ? Words::tr("It counts as infinite.")
+                                    : isNumber                         ? Words::tr("No distance is below it.")
+                                                                       : Words::tr("It counts as 0 m.");
         m_findings.add(valuePlace(), "bad-distance",
                        filled(Words::tr("\"%1\" is no distance, which is a number of metres, 0 or more. %2",
                                         "given, what it means"),

@@ -40,7 +40,11 @@ Limits limitsOf(const RuleFileNode& rule) {
         Limits limits;
         for (const QString& part : QString::fromStdString(rule.value("DistantValue")).split(':'))
             limits.values.push_back(part.toDouble());
-        return limits;
+        // What is no distance is told as that.
+        const bool areDistances = std::all_of(limits.values.begin(), limits.values.end(), [](double limit) {
+            return limit >= 0.0 && std::isfinite(limit);
+        });
+        return areDistances ? limits : Limits();
     }
     const auto* row = firestandard::findRule(QString::fromStdString(rule.name), type);
     return row ? fixedLimits(*row) : Limits();

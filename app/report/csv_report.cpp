@@ -79,6 +79,7 @@ const char* const kHead = "file,site,violation,rule,description,standard,sentenc
                           "related handle,related class,related identifier,related name,related x (m),"
                           "related y (m),value,unit,at least,at most,further related";
 constexpr int kColumns = 25;
+constexpr int kSentence = 6; ///< the column; further lines of a violation do not repeat it
 
 class CsvReportWriter : public ReportWriter {
 public:
@@ -97,24 +98,28 @@ public:
 private:
     void writeFinding(const SiteReport& report, const Finding& finding, long long number) const {
         const NuxStandardCheckRule& record = report.record(finding);
-        const QStringList head = QStringList{cell(report.fileName),
-                                             cell(report.siteName),
-                                             cell(number),
-                                             cell(record.name),
-                                             cell(record.ruleDescription),
-                                             cell(record.standard),
-                                             cell(finding.sentence),
-                                             cell(finding.acceptedBecause.value_or(""))} +
-                                 elementCells(report, record.handle);
+        QStringList head = QStringList{cell(report.fileName),
+                                       cell(report.siteName),
+                                       cell(number),
+                                       cell(record.name),
+                                       cell(record.ruleDescription),
+                                       cell(record.standard),
+                                       cell(finding.sentence),
+                                       cell(finding.acceptedBecause.value_or(""))} +
+                           elementCells(report, record.handle);
         std::vector<long long> related = finding.related;
         if (related.empty())
             related.push_back(0);
         const std::size_t others = finding.relatedCount - finding.related.size();
-        for (const long long handle : related)
+        for (const long long handle : related) {
             writeLine(head + elementCells(report, handle) + measureCells(measureOf(finding, handle)) +
                       QStringList{handle == related.back() && others > 0
                                       ? cell(static_cast<long long>(others))
                                       : QString()});
+            head[kSentence].clear();
+        }
+        if (finding.further > 0)
+            writeUnnumbered(report, record.name, furtherText(finding), record.handle);
     }
 
     /// Without a number: it is no violation, but the element's silence says nothing.
@@ -122,15 +127,15 @@ private:
         QStringList rules;
         for (const QString& rule : element.rules)
             rules << rule;
-        QStringList line{cell(report.fileName),
-                         cell(report.siteName),
-                         {},
-                         cell(rules.join("; ")),
-                         {},
-                         {},
-                         cell(filled(Words::tr("not judged: %1"), unjudgedText(report, element))),
-                         {}};
-        line += elementCells(report, element.handle);
+        writeUnnumbered(report, rules.join("; "),
+                        filled(Words::tr("not judged: %1"), unjudgedText(report, element)), element.handle);
+    }
+
+    void writeUnnumbered(const SiteReport& report, const QString& rules, const std::string& sentence,
+                         long long handle) const {
+        QStringList line{
+            cell(report.fileName), cell(report.siteName), {}, cell(rules), {}, {}, cell(sentence), {}};
+        line += elementCells(report, handle);
         while (line.size() < kColumns)
             line << QString();
         writeLine(line);

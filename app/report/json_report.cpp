@@ -46,15 +46,19 @@ Json countsJson(const SiteReport& report) {
     return counts;
 }
 
+Json labelJson(const ElementLabel& element) {
+    return {{"handle", decimal(element.handle)},
+            {"class", element.className},
+            {"identifier", element.identifier},
+            {"name", element.name},
+            {"noun", element.noun},
+            {"place", element.place ? pointJson(*element.place) : Json()}};
+}
+
 Json labelsJson(const std::vector<ElementLabel>& labels) {
     Json elements = Json::array();
     for (const ElementLabel& element : labels)
-        elements.push_back({{"handle", decimal(element.handle)},
-                            {"class", element.className},
-                            {"identifier", element.identifier},
-                            {"name", element.name},
-                            {"noun", element.noun},
-                            {"place", element.place ? pointJson(*element.place) : Json()}});
+        elements.push_back(labelJson(element));
     return elements;
 }
 
@@ -85,18 +89,21 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
     Json measures = Json::array();
     for (const Measure& measure : finding.measures)
         measures.push_back(measureJson(measure));
-    return {{"rule", record.name.toStdString()},
-            {"key", report.results[finding.entry].first.toStdString()},
-            {"index", finding.index},
-            {"handle", decimal(record.handle)},
-            {"relatedHandles", std::move(related)},
-            {"relatedCount", finding.relatedCount},
-            {"sentence", finding.sentence},
-            {"measures", std::move(measures)},
-            {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()},
-            {"outgrown", finding.outgrown
-                             ? Json{{"value", finding.outgrown->value}, {"reason", finding.outgrown->reason}}
-                             : Json()}};
+    Json json{{"rule", record.name.toStdString()},
+              {"key", report.results[finding.entry].first.toStdString()},
+              {"index", finding.index},
+              {"handle", decimal(record.handle)},
+              {"relatedHandles", std::move(related)},
+              {"relatedCount", finding.relatedCount},
+              {"sentence", finding.sentence},
+              {"measures", std::move(measures)},
+              {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()},
+              {"outgrown", finding.outgrown ? Json{{"value", finding.outgrown->value},
+                                                   {"reason", finding.outgrown->reason}}
+                                            : Json()}};
+    if (finding.further > 0)
+        json["further"] = finding.further;
+    return json;
 }
 
 const char* verdictName(JudgedRule::Verdict verdict) {
@@ -160,8 +167,7 @@ Json headJson(const SiteReport& report) {
 }
 
 Json tailJson(const SiteReport& report) {
-    Json tail{{"elements", labelsJson(report.elements)},
-              {"judged", judgedJson(report)},
+    Json tail{{"judged", judgedJson(report)},
               {"unjudged", unjudgedJson(report)},
               {"notJudged", notJudgedJson(report)},
               {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
@@ -202,7 +208,7 @@ public:
         writeMembers(headJson(report), "");
         writeListStart("findings");
         for (const Finding& finding : report.findings)
-            writeItem(findingJson(report, finding), &finding == &report.findings.front());
+            writeLine(findingJson(report, finding), &finding == &report.findings.front());
         writeListEnd(report.findings.empty());
         if (m_hasResults) {
             writeListStart("results");
@@ -211,6 +217,10 @@ public:
             writeListEnd(report.results.empty());
             writeMembers({{"checkState", checkStateJson(report)}}, ",");
         }
+        writeListStart("elements");
+        for (const ElementLabel& element : report.elements)
+            writeLine(labelJson(element), &element == &report.elements.front());
+        writeListEnd(report.elements.empty());
         writeMembers(tailJson(report), ",");
         write(lineAt(kSiteIndent) + "}");
     }
@@ -233,6 +243,11 @@ private:
     }
     void writeItem(const Json& item, bool isFirst) const {
         write((isFirst ? "" : ",") + lineAt(kItemIndent) + textOf(item, kItemIndent));
+    }
+    /// What there is much of takes a line each.
+    void writeLine(const Json& item, bool isFirst) const {
+        write((isFirst ? "" : ",") + lineAt(kItemIndent) +
+              item.dump(-1, ' ', false, Json::error_handler_t::replace));
     }
     void writeListEnd(bool isEmpty) const { write(isEmpty ? "]" : lineAt(kMemberIndent) + "]"); }
 

@@ -29,7 +29,7 @@ QString offendersText(const JudgedRule& judged) {
 }
 
 /// Why elements were not judged: "on the ground".
-QString reasonText(NotJudged why) {
+QString reasonText(NotJudged why, const JudgedRule& judged) {
     switch (why) {
     case NotJudged::NoOutline:
         return Words::tr("without an outline");
@@ -44,7 +44,8 @@ QString reasonText(NotJudged why) {
     case NotJudged::NoNeighbour:
         return Words::tr("without a neighbour that has one door");
     case NotJudged::NothingToCompare:
-        return Words::tr("nothing to compare with");
+        return judged.unfit > 0 ? Words::tr("nothing to compare with that can be measured")
+                                : Words::tr("nothing to compare with");
     case NotJudged::NeverMeasured:
         return Words::tr("never measured against elements of the other type");
     case NotJudged::OtherUse:
@@ -69,9 +70,9 @@ QString reasonsText(const JudgedRule& judged) {
     QStringList reasons;
     for (const auto& [why, count] : judged.unjudged)
         if (!isInNote(why))
-            reasons << (judged.unjudged.size() > 1
-                            ? Words::tr("%1 %2", "count, why not judged").arg(placed(count), reasonText(why))
-                            : reasonText(why));
+            reasons << (judged.unjudged.size() > 1 ? Words::tr("%1 %2", "count, why not judged")
+                                                         .arg(placed(count), reasonText(why, judged))
+                                                   : reasonText(why, judged));
     return reasons.join(Words::tr(", "));
 }
 

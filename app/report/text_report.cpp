@@ -142,6 +142,8 @@ private:
             places = filled(Words::tr("%1 and %2", "end of a list"), places, othersText(finding));
         if (!places.empty())
             write("    " + places + "\n");
+        if (finding.further > 0)
+            write("  " + furtherText(finding) + "\n");
         writeSuggestion(report, finding);
     }
 

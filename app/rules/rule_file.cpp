@@ -2,17 +2,56 @@
 
 #include "InputError.h"
 #include "base/rooted_file_name.h"
+#include "rules/XmlPlaces.h"
+#include "rules/crowded_tag.h"
+#include "rules/decoded_xml.h"
 #include "rules_config/NUXRuleConfigFile.h"
 #include "rules_config/rule_file_bounds.h"
+#include "text/input_text.h"
 #include "text/language.h"
 #include "text/words.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <QXmlStreamReader>
 
 namespace firecheck {
+
+namespace {
+
+[[noreturn]] void refuseAt(const Place& place, const std::string& fileName, const std::string& reason) {
+    throw InputError(fileName + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
+                     reason);
+}
+
+void requireFewAttributes(const std::string& fileName, const QByteArray& content) {
+    const QString text = decodedXml(content).text;
+    if (const auto tag = crowdedTag(text))
+        refuseAt(XmlPlaces(text).placeAt(*tag), fileName,
+                 filled(Words::tr("expected at most %1 attributes in a tag"), kMostAttributes));
+}
+
+QByteArray bounded(const std::string& fileName, QByteArray content, qint64 size) {
+    requireFewAttributes(fileName, content);
+    if (size > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content))
+        throw InputError(
+            fileName + ": " +
+            filled(Words::tr("too large, too deeply nested or too many entities for a rule file")));
+    return content;
+}
+
+/// A rule file is looked at before the library reads it, but standard input can be read once only.
+const QByteArray& standardInput() {
+    static const QByteArray content = [] {
+        const std::string text = inputText("-", filled(Words::tr("a rule file")));
+        return bounded("-", QByteArray::fromStdString(text), qint64(text.size()));
+    }();
+    return content;
+}
+
+} // namespace
 
 std::string defaultRuleFile() {
     const QString language = currentLanguage();
@@ -26,6 +65,8 @@ std::string defaultRuleFile() {
 }
 
 QByteArray ruleFileContent(const std::string& fileName) {
+    if (fileName == "-")
+        return standardInput();
     const QString name = QString::fromStdString(fileName);
     const QFileInfo info(name);
     if (info.exists() && !info.isFile())
@@ -39,11 +80,7 @@ QByteArray ruleFileContent(const std::string& fileName) {
     QByteArray content;
     if (file.size() <= firestandard::kLargestRuleFile)
         content = file.read(file.size());
-    if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content))
-        throw InputError(
-            fileName + ": " +
-            filled(Words::tr("too large, too deeply nested or too many entities for a rule file")));
-    return content;
+    return bounded(fileName, std::move(content), file.size());
 }
 
 void requireWellFormed(const std::string& fileName) {
@@ -56,13 +93,20 @@ void requireWellFormed(const std::string& fileName) {
 }
 
 void refuseIllFormed(const std::string& fileName, const QXmlStreamReader& reader) {
-    throw InputError(fileName + ":" + std::to_string(reader.lineNumber()) + ":" +
-                     std::to_string(reader.columnNumber() + 1) + ": " +
-                     filled(Words::tr("expected a well-formed XML document: %1"), reader.errorString()));
+    refuseAt({int(reader.lineNumber()), int(reader.columnNumber()) + 1}, fileName,
+             filled(Words::tr("expected a well-formed XML document: %1"), reader.errorString()));
 }
 
 const RuleMap& useRules(const std::string& fileName) {
-    mapRootedFileName("\\FireStandardCheck.xml", QString::fromStdString(fileName));
+    QTemporaryFile copy; // the library opens a file
+    QString name = QString::fromStdString(fileName);
+    if (fileName == "-") {
+        const QByteArray& content = standardInput();
+        if (!copy.open() || copy.write(content) != content.size() || !copy.flush())
+            throw InputError("-: " + filled(Words::tr("cannot be copied: %1"), copy.errorString()));
+        name = copy.fileName();
+    }
+    mapRootedFileName("\\FireStandardCheck.xml", name);
     const RuleMap& rules = NUXRuleConfigFile::Single()->getAllRuleMap();
     if (rules.isEmpty())
         throw InputError(fileName + ": " + filled(Words::tr("expected at least one rule")));

@@ -16,8 +16,8 @@ using firestandard::RuleMap;
 /// or, in a source tree that was never installed, the one of that tree.
 std::string defaultRuleFile();
 
-/// The bytes of a rule file. Throws InputError for what is no file, cannot be read, or is out of the bounds
-/// of rule files.
+/// The bytes of a rule file; "-" is standard input. Throws InputError for what is no file, cannot be read, is
+/// out of the bounds of rule files, or has a tag of more than kMostAttributes.
 QByteArray ruleFileContent(const std::string& fileName);
 
 /// Throws InputError for a file that cannot be read or is not well-formed XML. The library reads past

@@ -18,7 +18,7 @@ SiteClass prefabHouse() {
                               {"bothEnds", kStairAtBothEnds},
                               {"alongSide", kStairAlongSide}};
     const Fields<Params> fields = {
-        requiredField("use", &Params::houseUse, code<int>({{"office", 0}, {"dormitory", 1}}),
+        requiredField("use", &Params::houseUse, code<int>({{"office", 0}, {"dormitory", 1}, {"other", 2}}),
                       QT_TRANSLATE_NOOP("Words", "what the house is used for")),
         defaultedField("floors", &Params::floorCount, integer<int>(), 1, "number of floors"),
         defaultedField("stairs", &Params::stairPosition, code<StairPt, int>(stairs), "none",

@@ -39,7 +39,7 @@ const SiteClass* classWithUse(const std::string& name) {
     if (near)
         refuse(place, reason, *near);
     if (const SiteClass* used = classWithUse(name))
-        refuse(place, filled(Words::tr("%1, which is a use of \"%2\""), reason, used->name));
+        refuse(place, filled(Words::tr("%1, which is a use of \"%2\""), reason, used->name), used->name);
     std::string all;
     for (const std::string& candidate : known)
         all += (all.empty() ? "" : ", ") + candidate;

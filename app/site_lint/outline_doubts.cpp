@@ -7,13 +7,14 @@ namespace firecheck {
 void doubtOutlines(const DoubtedSite& site, SiteDoubts& doubts) {
     for (std::size_t i = 0; i < site.objects().size(); ++i) {
         const Json& object = site.objects()[i];
-        const UdDbObject* element = object.contains("polyline") ? site.opened(object) : nullptr;
+        const UdDbObject* element = site.opened(object);
         const std::string flaw = element ? firestandard::polylineFlaw(*element) : std::string();
         if (!flaw.empty())
-            doubts.push_back({DoubtedSite::pointerTo(i, "/polyline"),
-                              "bad-outline",
-                              filled(Words::tr("No rule can measure the object: %1."), flaw),
-                              {}});
+            doubts.push_back(
+                {DoubtedSite::pointerTo(i, object.contains("polyline") ? "/polyline" : "/shapeKind"),
+                 "bad-outline",
+                 filled(Words::tr("No rule can measure the object: %1."), flaw),
+                 {}});
     }
 }
 

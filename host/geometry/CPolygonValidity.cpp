@@ -123,37 +123,52 @@ CVec2<double> mainDirection(const CPolygon& polygon) {
             const CVec2<double> chord = edge.end - edge.start;
             sum = sum + CVec2<double>((chord.x - chord.y) * (chord.x + chord.y), 2.0 * chord.x * chord.y);
         }
-    const double cosine = sum.x / length(sum);
-    if (!(std::abs(cosine) <= 1.0))
-        return {0.0, 1.0};
-    return {std::sqrt(0.5 * (1.0 + cosine)), std::copysign(std::sqrt(0.5 * (1.0 - cosine)), sum.y)};
+    // Half the angle, by the greater one of its cosine and sine.
+    const double far = length(sum) + std::abs(sum.x);
+    const CVec2<double> half =
+        sum.x < 0.0 ? CVec2<double>(std::abs(sum.y), std::copysign(far, sum.y)) : CVec2<double>(far, sum.y);
+    const double size = length(half);
+    return size > 0.0 && std::isfinite(size) ? half * (1.0 / size) : CVec2<double>(0.0, 1.0);
 }
 
-/// The boxes lie in a frame whose y axis is the main direction: most edges are narrow along x.
-Spans spansOf(const CPolygon& polygon) {
-    const CVec2<double> origin = plan::firstCorner(polygon);
-    const CVec2<double> direction = mainDirection(polygon);
-    const auto turned = [&](const CVec2<double>& point) {
-        const CVec2<double> arm = point - origin;
-        return CVec2<double>(cross(arm, direction), dot(arm, direction));
-    };
+/// Whose y axis is the main direction: most edges are narrow along x.
+class MainFrame {
+public:
+    explicit MainFrame(const CPolygon& polygon)
+        : m_origin(plan::firstCorner(polygon)), m_direction(mainDirection(polygon)) {}
+
+    CVec2<double> turned(const CVec2<double>& point) const {
+        const CVec2<double> arm = point - m_origin;
+        return {cross(arm, m_direction), dot(arm, m_direction)};
+    }
+
+private:
+    CVec2<double> m_origin;
+    CVec2<double> m_direction;
+};
+
+Spans spansOf(const CPolygon& polygon, const MainFrame& frame) {
     Spans spans;
     for (const CCoedgeList& loop : polygon.loops())
         for (const Edge2d& edge : loop.edges())
-            spans.push_back({boxOf({turned(edge.start), turned(edge.end), edge.bulge}), &edge});
+            spans.push_back({boxOf({frame.turned(edge.start), frame.turned(edge.end), edge.bulge}), &edge});
     return spans;
 }
 
-/// Lines that all lie on one parallel of an axis overlap, but never cross.
-bool liesAlongAxis(const CPolygon& polygon) {
-    const CVec2<double> first = plan::firstCorner(polygon);
-    bool isLevel = true;
-    bool isUpright = true;
+/// Lines of one narrow strip overlap, but never cross: of two, the shorter gets no further than twice the
+/// strip's width to the other side of the longer, whose direction is the strip's as far as its length tells.
+bool liesInNarrowStrip(const CPolygon& polygon, const MainFrame& frame) {
+    constexpr double kRounding =
+        32.0 * std::numeric_limits<double>::epsilon(); // of each turn and cross product
+    CBox2d strip;
     for (const CCoedgeList& loop : polygon.loops())
         for (const Edge2d& edge : loop.edges()) {
-            isLevel = isLevel && edge.bulge == 0.0 && edge.start.y == first.y && edge.end.y == first.y;
-            isUpright = isUpright && edge.bulge == 0.0 && edge.start.x == first.x && edge.end.x == first.x;
-            if (!isLevel && !isUpright)
+            if (edge.bulge != 0.0)
+                return false;
+            strip.add(frame.turned(edge.start));
+            strip.add(frame.turned(edge.end));
+            const CVec2<double> size = strip.high - strip.low;
+            if (!(size.x + kRounding * (size.x + size.y) < 0.5 * plan::g_touchDistance))
                 return false;
         }
     return true;
@@ -161,9 +176,12 @@ bool liesAlongAxis(const CPolygon& polygon) {
 
 /// Sweeps across the main direction, so that long outlines stay quick. What is not finite crosses nothing.
 bool hasNoCrossing(const CPolygon& polygon) {
-    if (!isFinite(polygon) || liesAlongAxis(polygon))
+    if (!isFinite(polygon))
         return true;
-    Spans spans = spansOf(polygon);
+    const MainFrame frame(polygon);
+    if (liesInNarrowStrip(polygon, frame))
+        return true;
+    Spans spans = spansOf(polygon, frame);
     std::sort(spans.begin(), spans.end(),
               [](const Span& a, const Span& b) { return a.box.low.x < b.box.low.x; });
     for (auto span = spans.begin(); span != spans.end(); ++span)

@@ -244,25 +244,33 @@ TEST_F(CommandLine, ReplacesTheOutputFileOnlyWhenASiteWasChecked) {
 
 TEST_F(CommandLine, OverwritesNothingThatItReads) {
     const std::string check = "firecheck check narrow.json --rules rules.xml ";
-    ASSERT_EQ(
-        run(check + "--write-accept accepted.json; ln -s narrow.json linked.json; ln rules.xml same.xml")
-            .status,
-        0);
+    ASSERT_EQ(run(check +
+                  "--write-accept accepted.json; ln -s narrow.json linked.json; ln rules.xml same.xml; "
+                  "ln -s later.txt dangling.txt")
+                  .status,
+              0);
     const std::map<std::string, std::string> files{{"narrow.json", read("narrow.json")},
                                                    {"rules.xml", read("rules.xml")},
                                                    {"accepted.json", read("accepted.json")}};
     for (const char* options :
          {"--output narrow.json", "--output ./linked.json", "--output same.xml", "--write-accept narrow.json",
           "--accept accepted.json --output accepted.json", "--write-accept accepted.json",
-          "--output new.txt --write-accept ./new.txt"}) {
+          "--output new.txt --write-accept ./new.txt", "--output dangling.txt --write-accept later.txt",
+          ">> narrow.json", "--output - >> narrow.json", "--write-accept -", "- --rules - < rules.xml"}) {
         const Outcome outcome = run(check + options);
         EXPECT_EQ(outcome.status, 2) << options;
-        EXPECT_NE(outcome.messages.find("expected a"), std::string::npos) << options << outcome.messages;
+        EXPECT_NE(outcome.messages.find("expected "), std::string::npos) << options << outcome.messages;
         for (const auto& [name, text] : files)
             EXPECT_EQ(read(name), text) << options;
     }
     EXPECT_EQ(run("firecheck lint-rules wrong.xml --output wrong.xml").status, 2);
     EXPECT_EQ(run(check + "--output /dev/null").status, 1);
+    EXPECT_EQ(run("firecheck completion bash --output bash && firecheck completion bash --output bash && "
+                  "firecheck list-rules Self_RoadLoop --output Self_RoadLoop && firecheck list-rules "
+                  "Self_RoadLoop --output Self_RoadLoop")
+                  .status,
+              0)
+        << "names are no files";
 }
 
 TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
@@ -291,10 +299,34 @@ TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
     const Outcome twice =
         run("sed -i 's/{$/&/; s/\\(\"accepted\": \\[\\)/\\1 {\"rule\": \"A\", \"handles\": [], "
             "\"reason\": \"a\", \"site\": \"b\"}, {\"rule\": \"A\", \"handles\": [], "
-            "\"reason\": \"c\", \"site\": \"b\"},/' accepted.json; " +
+            "\"reason\": \"c\", \"site\": \".\\/b\"},/' accepted.json; " +
             both);
     EXPECT_NE(twice.messages.find("/accepted/1: expected one entry for each violation"), std::string::npos)
         << twice.messages;
+}
+
+TEST_F(CommandLine, ReadsAndWritesStandardStreamsForADash) {
+    EXPECT_EQ(run("firecheck check narrow.json --rules - --output - < rules.xml").output, kNarrowReport);
+    EXPECT_EQ(run("firecheck lint-rules - < wrong.xml").output.substr(0, 6), "-:2:3:");
+    const Outcome crowded =
+        run("printf '<R><G><X' > x; seq -f ' a%g=\"\"' 1001 >> x; firecheck lint-rules - < x");
+    EXPECT_EQ(crowded.messages, "firecheck: -:1:7: expected at most 1000 attributes in a tag\n");
+}
+
+TEST_F(CommandLine, TellsWhatWasNotMeasured) {
+    write("flat.json", R"({"objects": [
+        {"class": "prefabHouse", "use": "office", "handle": 1, "center": [0, 0], "length": 9000, "depth": 5000},
+        {"class": "woodYard", "handle": 4, "name": "East", "center": [9000, 0], "length": 900, "depth": 0},
+        {"class": "drawing", "handle": 5}]})");
+    const std::string check = "firecheck check flat.json 2>&1 ";
+    EXPECT_NE(run(check).output.find("Distant_PrefabHouseToWoodYard: nothing to judge: 1 found, nothing to "
+                                     "compare with that can be measured (wood yard 4 \"East\" was not "
+                                     "measured: its depth is not above 0)\n"),
+              std::string::npos);
+    EXPECT_EQ(run(check).output.find("Judged by no rule"), std::string::npos);
+    EXPECT_NE(run(check + "--unjudged").output.find("\nJudged by no rule\n"), std::string::npos);
+    EXPECT_NE(run(check + "--select Self_RoadLop").output.find("Did you mean \"Self_RoadLoop\"?"),
+              std::string::npos);
 }
 
 TEST_F(CommandLine, FindsTheRulesItComesWith) {

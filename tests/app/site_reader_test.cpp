@@ -176,7 +176,7 @@ TEST(SiteReader, RefusesWhatIsNoSite) {
          "/objects/0/secondView/class: unknown class of 3-D models \"drawing\"; the classes are extinguisherBox, "
          "model, sizelessModel"},
         {R"({"class": "dormitory", "handle": 1})",
-         R"(/objects/0/class: unknown class "dormitory", which is a use of "prefabHouse")"},
+         R"(/objects/0/class: unknown class "dormitory", which is a use of "prefabHouse"; did you mean "prefabHouse"?)"},
     };
     for (const Refused& refusal : refusals)
         EXPECT_THAT([&] { readSite(Json::parse("{\"objects\": [" + refusal.text + "]}")); },

@@ -10,7 +10,10 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 using namespace firecheck;
 
@@ -245,6 +248,8 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
     EXPECT_EQ(text.count("accepted at 125.00 m², but worse now: a hall"), 1);
     EXPECT_EQ(text.count("accepted at 6.30 m, but worse now: a wall between"), 1);
 
+    report.tellFewOfEach();
+    EXPECT_EQ(report.untold, 0u);
     AcceptFileText fresh(entries, false);
     fresh.add(report);
     const Json written = Json::parse(fresh.text())["accepted"];
@@ -252,6 +257,83 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
     EXPECT_EQ(std::count_if(written.begin(), written.end(),
                             [](const Json& entry) { return entry["reason"] != ""; }),
               std::ptrdiff_t(entries.size()));
+}
+
+Measure distance(long long other, double value, std::optional<double> minimum,
+                 std::optional<double> maximum) {
+    Measure measure;
+    measure.other = other;
+    measure.value = value;
+    measure.minimum = minimum;
+    measure.maximum = maximum;
+    return measure;
+}
+
+/// One record for each list of measures, all of one element.
+SiteReport reportOf(const std::vector<std::vector<Measure>>& records) {
+    SiteReport report;
+    report.results.resize(1);
+    for (const std::vector<Measure>& measures : records) {
+        NuxStandardCheckRule record;
+        record.name = "Rule";
+        record.handle = 1;
+        for (const Measure& measure : measures)
+            record.relatedHandles.push_back(measure.other);
+        report.findings.emplace_back().index = report.results[0].second.size();
+        report.findings.back().measures = measures;
+        report.results[0].second.push_back(record);
+    }
+    return report;
+}
+
+TEST(AcceptFile, HoldsEachElementAgainstItsOwnValue) {
+    const auto near = [](long long other, double value) { return distance(other, value, 4.0, {}); };
+    const auto box = [](double value) { return distance(2, value, {}, 3.0); };
+    const struct {
+        const char* name;
+        std::vector<Measure> then;
+        std::vector<Measure> now;
+        bool isWorse;
+    } cases[] = {
+        {"as it was", {near(2, 1.0), near(3, 3.0)}, {near(2, 1.0), near(3, 3.0)}, false},
+        {"better", {near(2, 1.0), near(3, 2.0)}, {near(3, 2.5), near(2, 3.0)}, false},
+        {"the second came nearer", {near(2, 1.0), near(3, 3.0)}, {near(2, 1.0), near(3, 1.5)}, true},
+        {"they changed places", {near(2, 1.0), near(3, 3.0)}, {near(3, 1.0), near(2, 3.0)}, true},
+        {"touches", {near(2, 0.5)}, {near(2, 0.0)}, true},
+        {"further off", {box(5.0)}, {box(5.5)}, true},
+        {"less far", {box(5.0)}, {box(4.0)}, false},
+        {"touches where it was too far", {box(5.0)}, {box(0.0)}, true},
+        {"touches as before", {box(0.0)}, {box(0.0)}, false},
+    };
+    const QTemporaryDir directory;
+    const std::string fileName = directory.filePath("accepted.json").toStdString();
+    for (const auto& row : cases) {
+        AcceptFileText written({}, false);
+        written.add(reportOf({row.then}));
+        std::string text = written.text();
+        text.replace(text.find("\"reason\": \"\""), 12, "\"reason\": \"agreed\"");
+        std::ofstream(fileName) << text;
+        SiteReport today = reportOf({row.now});
+        acceptFindings(loadAcceptances(fileName, {"a.json"}), today);
+        EXPECT_EQ(today.findings[0].outgrown.has_value(), row.isWorse) << row.name;
+        EXPECT_EQ(today.acceptedCount(), row.isWorse ? 0u : 1u) << row.name;
+    }
+}
+
+TEST(Report, TellsFiveViolationsOfOneElementAndCountsTheOthers) {
+    SiteReport report = reportOf(std::vector<std::vector<Measure>>(8, {distance(2, 1.0, 4.0, {})}));
+    for (Finding& finding : report.findings)
+        finding.relatedCount = 1;
+    for (const std::size_t accepted : {0, 1, 2, 3})
+        report.findings[accepted].acceptedBecause = "agreed";
+    report.tellFewOfEach();
+    ASSERT_EQ(report.findings.size(), 5u);
+    EXPECT_EQ(report.findings[0].index, 0u) << "accepted ones fill up what others leave";
+    EXPECT_EQ(report.findings[1].index, 4u);
+    EXPECT_EQ(report.findings[3].further, 0u);
+    EXPECT_EQ(report.findings[4].further, 3u);
+    EXPECT_EQ(report.violationCount(), 8u);
+    EXPECT_EQ(report.acceptedCount(), 4u);
 }
 
 } // namespace

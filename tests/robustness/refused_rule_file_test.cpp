@@ -29,9 +29,25 @@ TEST(RefusedRuleFile, IsNamedWithItsReason) {
     file.flush();
     expectRefused(": too large, too deeply nested or too many entities for a rule file");
 
-    file.resize(0);
-    file.seek(0);
-    file.write("<a>\n<b></a>");
-    file.flush();
-    expectRefused(":2:8: expected a well-formed XML document:");
+    const auto expectContentRefused = [&](const QByteArray& content, const std::string& reason) {
+        file.resize(0);
+        file.seek(0);
+        file.write(content);
+        file.flush();
+        expectRefused(reason);
+    };
+    expectContentRefused("<a>\n<b></a>", ":2:8: expected a well-formed XML document:");
+
+    // Readers compare attributes pair by pair, wherever these come from.
+    QByteArray attributes;
+    QByteArray defaults;
+    for (int i = 0; i < 100000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "='>'";
+        defaults += "<!ATTLIST R a" + QByteArray::number(i) + " CDATA '='>";
+    }
+    const std::string crowded = " expected at most 1000 attributes in a tag";
+    expectContentRefused("<R>\n <!-- <x --><X" + attributes + "/></R>", ":2:13:" + crowded);
+    expectContentRefused("<!DOCTYPE R [<!ENTITY e \"<x" + attributes + "/>\">]><R>&e;</R>",
+                         ":1:26:" + crowded);
+    expectContentRefused("<!DOCTYPE R [" + defaults + "]><R/>", ":1:13404:" + crowded);
 }

@@ -150,8 +150,10 @@ private:
                  ? QString()
                  : element("p", ofClass("detail"), escaped(first.ruleDetailDescription))) +
             opened("ol", ofClass("findings")));
-        for (std::size_t i = 0; i < count.violations; ++i)
+        do {
             put(findingItem(rule, ++number));
+        } while (number < m_report.findings.size() &&
+                 m_report.record(m_report.findings[number]).name == count.ruleName);
         put("</ol>\n</section>\n");
     }
 
@@ -175,6 +177,8 @@ private:
             content += element("p", ofClass("reason"), "Accepted: " + escaped(*finding.acceptedBecause));
         if (finding.outgrown)
             content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
+        if (finding.further > 0)
+            content += element("p", ofClass("reason"), asSentence(furtherText(finding)));
         return element("li", attributes, content + places(finding));
     }
 

@@ -1,4 +1,4 @@
-#include "lint/decoded_xml.h"
+#include "rules/decoded_xml.h"
 
 #include <QXmlStreamReader>
 

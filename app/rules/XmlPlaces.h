@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lint/RuleFileNode.h"
+#include "text/Place.h"
 
 #include <QString>
 

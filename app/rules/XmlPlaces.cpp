@@ -1,4 +1,4 @@
-#include "lint/XmlPlaces.h"
+#include "rules/XmlPlaces.h"
 
 #include <algorithm>
 
