@@ -1,0 +1,88 @@
+#include "report/clause_table.h"
+
+#include "explain/Words.h"
+
+#include <QHash>
+
+#include <set>
+
+namespace firecheck {
+
+using firestandard::Words;
+
+namespace {
+
+class ClauseRows {
+public:
+    ClauseOutcome& of(const QString& standard) {
+        const auto known = m_index.constFind(standard);
+        if (known != m_index.constEnd())
+            return m_rows[*known];
+        m_index.insert(standard, m_rows.size());
+        m_rows.emplace_back();
+        m_rows.back().standard = standard;
+        return m_rows.back();
+    }
+
+    std::vector<ClauseOutcome> take() { return std::move(m_rows); }
+
+private:
+    QHash<QString, std::size_t> m_index;
+    std::vector<ClauseOutcome> m_rows;
+};
+
+QString offendingText(const ClauseOutcome& clause) {
+    const int violations = static_cast<int>(clause.violations);
+    const int offending = static_cast<int>(clause.offending);
+    const QString records =
+        violations == 1 ? Words::tr("1 violation") : Words::tr("%n violations", "", violations);
+    if (offending == 0)
+        return records;
+    return offending == 1
+               ? Words::tr("%1 by 1 element", "violations, such as \"2 violations\"").arg(records)
+               : Words::tr("%1 by %n elements", "violations, such as \"2 violations\"", offending)
+                     .arg(records);
+}
+
+} // namespace
+
+std::vector<ClauseOutcome> clauseTable(const SiteReport& report) {
+    ClauseRows rows;
+    for (const JudgedRule& judged : report.judged) {
+        ClauseOutcome& clause = rows.of(judged.rule.standard);
+        clause.rules.push_back(&judged);
+        clause.judgedRules += judged.verdict == JudgedRule::Verdict::Judged ? 1 : 0;
+    }
+    std::set<std::pair<QString, long long>> offenders;
+    for (const Finding& finding : report.findings) {
+        const NuxStandardCheckRule& record = report.record(finding);
+        ClauseOutcome& clause = rows.of(record.standard);
+        ++clause.violations;
+        clause.accepted += finding.acceptedBecause ? 1 : 0;
+        if (record.handle != 0 && offenders.emplace(record.standard, record.handle).second)
+            ++clause.offending;
+    }
+    return rows.take();
+}
+
+QString clauseOutcomeText(const ClauseOutcome& clause) {
+    const QString rules = clause.rules.size() == 1
+                              ? Words::tr("%1 of 1 rule judged").arg(clause.judgedRules)
+                              : Words::tr("%1 of %n rules judged", "", static_cast<int>(clause.rules.size()))
+                                    .arg(clause.judgedRules);
+    if (clause.judgedRules == 0)
+        return rules;
+    if (clause.violations == 0)
+        return Words::tr("%1, no violations", "rules judged").arg(rules);
+    const QString offending = offendingText(clause);
+    if (clause.accepted == 0)
+        return Words::tr("%1, %2", "rules judged, violations").arg(rules, offending);
+    return Words::tr("%1, %2, %3 accepted", "rules judged, violations, number")
+        .arg(rules, offending, QString::number(clause.accepted));
+}
+
+QString clauseName(const ClauseOutcome& clause) {
+    return clause.standard.isEmpty() ? Words::tr("No clause is cited") : clause.standard;
+}
+
+} // namespace firecheck

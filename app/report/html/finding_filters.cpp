@@ -1,0 +1,94 @@
+#include "report/html/finding_filters.h"
+
+#include "explain/Words.h"
+#include "explain/sentence.h"
+#include "report/escape.h"
+#include "report/html/markup.h"
+
+#include <map>
+
+namespace firecheck {
+
+using firestandard::Words;
+
+namespace {
+
+QString labelled(const QString& name, const QString& control) {
+    return "<label>" + name + control + "</label>\n";
+}
+
+QString option(const QString& value, const QString& text, const QString& attributes = {}) {
+    return "<option value=\"" + value + "\"" + attributes + ">" + text + "</option>";
+}
+
+QString withCount(const QString& text, std::size_t count) {
+    return Words::tr("%1 (%2)", "something and how many there are").arg(text, QString::number(count));
+}
+
+QString ruleOptions(const SiteReport& report) {
+    std::map<std::size_t, const NuxStandardCheckRule*> records;
+    const std::vector<std::size_t> rules = ruleIndices(report);
+    for (std::size_t i = 0; i < rules.size(); ++i)
+        records.emplace(rules[i], &report.record(report.findings[i]));
+    QString options = option({}, Words::tr("All rules"));
+    for (const auto& [rule, record] : records)
+        options += option(QString::number(rule),
+                          withCount(escaped(ruleHeading(*record)), report.counts[rule].violations),
+                          " data-heading=\"" + escaped(ruleHeading(*record)) + "\" data-clause=\"" +
+                              escaped(record->standard) + "\"");
+    return options;
+}
+
+QString elementOptions(const SiteReport& report, const std::vector<MergedFinding>& merged) {
+    std::map<long long, std::size_t> violations;
+    for (const MergedFinding& finding : merged)
+        for (const long long handle :
+             concernedElements(report, report.findings[finding.numbers.front() - 1]))
+            violations[handle] += finding.numbers.size();
+    QString options = option({}, Words::tr("All elements"));
+    for (const auto& [handle, count] : violations)
+        options += option(
+            QString::number(handle),
+            withCount(escaped(firestandard::elementPhrase(report, handle)), count));
+    return options;
+}
+
+QString orderOptions() {
+    return option("rule", Words::tr("by rule")) + option("clause", Words::tr("by clause")) +
+           option("missing", Words::tr("by how much is missing"));
+}
+
+} // namespace
+
+QString ruleHeading(const NuxStandardCheckRule& rule) {
+    return rule.ruleDescription.isEmpty() ? rule.name : rule.ruleDescription;
+}
+
+std::vector<long long> concernedElements(const SiteReport& report, const Finding& finding) {
+    std::vector<long long> handles = finding.related;
+    const long long offender = report.record(finding).handle;
+    if (offender != 0)
+        handles.insert(handles.begin(), offender);
+    return handles;
+}
+
+QString findingFilters(const SiteReport& report, const std::vector<MergedFinding>& merged) {
+    const QString attributes =
+        ofClass("filters") + " data-shown=\"" + Words::tr("Showing %1 of %2 violations", "by a script") +
+        "\" data-no-clause=\"" + Words::tr("No clause is cited") + "\"";
+    QString fields =
+        labelled(Words::tr("Rule"), "<select name=\"rule\">" + ruleOptions(report) + "</select>") +
+        labelled(Words::tr("Element"),
+                 "<select name=\"element\">" + elementOptions(report, merged) + "</select>") +
+        labelled(Words::tr("Name or handle"), "<input type=\"search\" name=\"search\" autocomplete=\"off\">") +
+        labelled(Words::tr("Order"), "<select name=\"order\">" + orderOptions() + "</select>");
+    if (report.acceptedCount() > 0)
+        fields += element("label", ofClass("check"),
+                          "<input type=\"checkbox\" name=\"open\">" + Words::tr("Hide what is accepted"));
+    return element("form", attributes,
+                   "\n" + fields + "<button type=\"reset\">" + Words::tr("Show all") + "</button>\n" +
+                       "<output></output>" +
+                       element("p", ofClass("hint"), Words::tr("n and p choose the next and the previous one.")));
+}
+
+} // namespace firecheck
