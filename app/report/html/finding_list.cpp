@@ -163,7 +163,7 @@ private:
         if (const auto share = missingShare(finding))
             items += element("li", {}, shareText(finding, *share));
         for (const long long handle : handles)
-            items += element("li", {}, placeText(handle));
+            items += element("li", {}, placeText(handle, finding.sentence));
         const std::size_t others = finding.relatedCount - finding.related.size();
         if (others > 0)
             items += element("li", {},
@@ -176,18 +176,20 @@ private:
         const QString percent = QString::number(std::max(1L, std::lround(share * 100.0)));
         const Measure& measure = finding.measures.front();
         return measure.minimum && measure.value < *measure.minimum
-                   ? Words::tr("%1 % of it is missing", "of the distance asked for").arg(percent)
-                   : Words::tr("%1 % of it is too much", "of the value measured").arg(percent);
+                   ? Words::tr("%1 % missing", "of the distance asked for").arg(percent)
+                   : Words::tr("%1 % too much", "of the value measured").arg(percent);
     }
 
-    QString placeText(long long handle) const {
+    /// With its name where the sentence does not have it.
+    QString placeText(long long handle, const std::string& sentence) const {
         const ElementLabel* label = m_report.element(handle);
         QString text = "#" + QString::number(handle);
         if (!label)
             return text;
-        for (const std::string& part : {label->name, label->className})
-            if (!part.empty())
-                text += " · " + escaped(part);
+        if (!label->name.empty() && sentence.find(label->name) == std::string::npos)
+            text += " · " + escaped(label->name);
+        if (!label->className.empty())
+            text += " · " + escaped(label->className);
         if (label->place)
             text += " · " + Words::tr("at (%1, %2) m")
                                 .arg(coordinate(label->place->x), coordinate(label->place->y));
