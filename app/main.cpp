@@ -4,6 +4,7 @@
 #include "command_line/Output.h"
 #include "command_line/commands.h"
 #include "command_line/safe_outputs.h"
+#include "text/language.h"
 #include "text/use_utf8.h"
 
 #include <QCoreApplication>
@@ -35,6 +36,8 @@ int run(QStringList words) {
         words = QStringList("help") + words.mid(0, 1);
     const Command& command = requiredCommand(words.value(0).toStdString());
     const Options options(words.mid(1), command);
+    if (command.option("lang"))
+        useLanguage(options.choice("lang"));
     requireSafeOutputs(options, command);
     return command.run(options);
 }

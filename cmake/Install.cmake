@@ -28,7 +28,7 @@ install(FILES ${PROJECT_BINARY_DIR}/include/firestandardcheck_export.h DESTINATI
 # The host's public face; the inner rooms of its geometry stay inside.
 install(DIRECTORY host/ DESTINATION ${header_directory}/host FILES_MATCHING PATTERN "*.h"
         PATTERN "geometry/plan" EXCLUDE PATTERN "geometry/solids" EXCLUDE PATTERN "geometry/network" EXCLUDE)
-install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/firestandardcheck)
+install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/firestandardcheck PATTERN "*.ts" EXCLUDE)
 install(FILES docs/firecheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 

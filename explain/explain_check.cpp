@@ -6,6 +6,7 @@
 #include "engine/NuxFireStandardCheck.h"
 #include "evaluators/rule_catalogue.h"
 #include "explain/CheckRecorder.h"
+#include "explain/Words.h"
 #include "explain/element_noun.h"
 #include "explain/judged_rules.h"
 #include "explain/record_measures.h"
@@ -204,10 +205,10 @@ std::vector<PassedOver> rulesPassedOver(const std::vector<JudgedRule>& judged) {
     std::vector<PassedOver> result;
     for (const JudgedRule& entry : judged)
         if (entry.verdict == JudgedRule::Verdict::NoEvaluator)
-            result.push_back({"rule " + entry.rule.name.toStdString(),
+            result.push_back({filled(Words::tr("rule %1"), entry.rule.name),
                               isOfKnownType(entry.rule)
-                                  ? "no evaluator knows this rule"
-                                  : "no evaluator is of type \"" + entry.rule.type.toStdString() + "\""});
+                                  ? filled(Words::tr("no evaluator knows this rule"))
+                                  : filled(Words::tr("no evaluator is of type \"%1\""), entry.rule.type)});
     return result;
 }
 

@@ -1,6 +1,7 @@
 #include "explain/judged_rules.h"
 
 #include "evaluators/rule_catalogue.h"
+#include "explain/Words.h"
 #include "explain/rule_text_fields.h"
 #include "explain/rule_wording.h"
 
@@ -31,11 +32,14 @@ std::string noteOf(const NuxStandardCheckRule& rule, const RuleRun& run) {
     const auto end = std::find_if(run.unjudged.begin(), run.unjudged.end(),
                                   [](const Unjudged& one) { return one.why == NotJudged::NoBoxMeasurable; });
     if (end != run.unjudged.end())
-        return "ended at #" + std::to_string(end->element) +
-               ", to which no box has a measurable distance; what follows it in the drawing was not judged";
+        return filled(
+            Words::tr("ended at #%1, to which no box has a measurable distance; what follows it in the "
+                      "drawing was not judged"),
+            end->element);
     const RuleRow* row = findRule(rule.name, rule.type);
     const bool hasFound = run.judged > 0 || !run.unjudged.empty();
-    return row && hasFound ? findRuleWording(row->name)->note : std::string();
+    const char* note = row && hasFound ? findRuleWording(row->name)->note : "";
+    return *note ? filled(Words::tr(note)) : std::string();
 }
 
 /// Elements of another use are not what the rule is about.

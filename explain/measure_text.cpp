@@ -1,5 +1,7 @@
 #include "explain/measure_text.h"
 
+#include "explain/Words.h"
+
 #include <QString>
 
 #include <cmath>
@@ -39,12 +41,13 @@ std::string valueText(const Measure& measure) {
 }
 
 std::string limitText(const Measure& measure) {
-    std::string text;
+    if (measure.minimum && measure.maximum)
+        return filled(Words::tr("at least %1 and at most %2"), withUnit(*measure.minimum, measure),
+                      withUnit(*measure.maximum, measure));
     if (measure.minimum)
-        text = "at least " + withUnit(*measure.minimum, measure);
-    if (measure.maximum)
-        text += (text.empty() ? "at most " : " and at most ") + withUnit(*measure.maximum, measure);
-    return text;
+        return filled(Words::tr("at least %1"), withUnit(*measure.minimum, measure));
+    return measure.maximum ? filled(Words::tr("at most %1"), withUnit(*measure.maximum, measure))
+                           : std::string();
 }
 
 } // namespace firestandard

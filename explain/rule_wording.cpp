@@ -1,5 +1,7 @@
 #include "explain/rule_wording.h"
 
+#include "explain/Words.h"
+
 #include <algorithm>
 #include <cstring>
 #include <iterator>
@@ -11,13 +13,15 @@ namespace {
 constexpr const char* kBoxes =
     "Boxes are 3-D models and count as 0 m away: a positive minimum reports every box against "
     "every open shed, a minimum of 0 none.";
-constexpr const char* kInPlan = "In plan; a cable that reaches down to the ground is not judged.";
+constexpr const char* kInPlan =
+    QT_TRANSLATE_NOOP("Words", "In plan; a cable that reaches down to the ground is not judged.");
 constexpr const char* kOverYards =
     "No overhead cable runs over a wood, formwork, or electrical and mechanical yard.";
 constexpr const char* kAllYards = "All three kinds of yard are judged, whichever the name says.";
 constexpr const char* kYardsAsWell =
     "Wood, formwork, and electrical and mechanical yards are judged as well.";
-constexpr const char* kBoxReach = "The nearest box more than 0 and at most {limit} mm away.";
+constexpr const char* kBoxReach =
+    QT_TRANSLATE_NOOP("Words", "The nearest box more than 0 and at most {limit} mm away.");
 constexpr const char* kEarlyEnd =
     "With boxes on the site, the first element without a body that can be measured ends the "
     "rule, and those after it are not looked at.";
@@ -26,22 +30,24 @@ constexpr const char* kEarlyEndOfSheds =
     "rule, and those after it are not looked at; a shed of another use is such an element.";
 
 constexpr RuleWording kWordings[] = {
-    {"Self_RoadMinWidth", "Each fire road is wide enough.", "At least {limit} mm wide.",
+    {"Self_RoadMinWidth", "Each fire road is wide enough.",
+     QT_TRANSLATE_NOOP("Words", "At least {limit} mm wide."),
      "Roads that are not fire roads are never judged."},
     {"Self_RoadLoop", "The fire roads of the site form a loop.",
-     "At least as many pairs of fire roads with meeting outlines as there are fire roads.",
+     QT_TRANSLATE_NOOP("Words",
+                       "At least as many pairs of fire roads with meeting outlines as there are fire roads."),
      "No fire road at all passes and a single one fails; a violation names no element."},
     {"Self_OneDoorToRoadLoop", "The roads of a site with exactly one door enclose an area.",
-     "Ends of centre lines join within {limit} mm.",
+     QT_TRANSLATE_NOOP("Words", "Ends of centre lines join within {limit} mm."),
      "With no door or with several, and without any road, nothing is judged; roads of every "
      "kind count; a violation names the door as related element only."},
     {"Self_PrefabHouseFloorArea", "The floor of each prefab house, length by depth, is not too large.",
-     "At most {limit} m².", "Stairs are not part of the floor."},
+     QT_TRANSLATE_NOOP("Words", "At most {limit} m²."), "Stairs are not part of the floor."},
     {"Self_PrefabHouseRoomArea", "No room of an office, a prefab house of use 0, is too large.",
-     "At most {limit} m².",
+     QT_TRANSLATE_NOOP("Words", "At most {limit} m²."),
      "Rooms are what lies between neighbouring partitions; a house without partitions has none."},
     {"Self_PrefabHouseStairs", "Each large or tall prefab house has a stair at both ends.",
-     "Needed above {limit} m² a floor, or from {floors} floors on.",
+     QT_TRANSLATE_NOOP("Words", "Needed above {limit} m² a floor, or from {floors} floors on."),
      "Only the stair code for both ends passes; stairs given otherwise do not."},
     {"Distant_PrefabHouseToWoodFactory",
      "Each prefab house, stairs included, keeps its distance from open sheds of use {use}.", "",
@@ -81,13 +87,13 @@ constexpr RuleWording kWordings[] = {
     {"Distant_FireExtinguisherBoxToEletricalMechanicalFactory",
      "Each fire extinguisher box keeps its distance from open sheds of any use.", "", kBoxes},
     {"Position_FireRoad", "Nothing reaches into the space above a fire road.",
-     "{limit} mm high; touching counts.",
+     QT_TRANSLATE_NOOP("Words", "{limit} mm high; touching counts."),
      "Only what the last object of the model space does is reported; roads, doors, washing "
      "pools, vehicles, construction machines and weighbridges are allowed.",
-     "looks at the last object of the drawing only"},
+     QT_TRANSLATE_NOOP("Words", "looks at the last object of the drawing only")},
     {"Position_DoorToDoor",
      "No wall has two doors, and no two walls with a door each meet at more than a right angle.",
-     "Wall ends at most {limit} mm apart meet.",
+     QT_TRANSLATE_NOOP("Words", "Wall ends at most {limit} mm apart meet."),
      "Walls that meet at less than a right angle are reported as well when they turn to one "
      "side; of two doors or more on one wall the first two are named."},
     {"Position_WireToWoodYard", kOverYards, kInPlan, kAllYards},

@@ -3,10 +3,13 @@
 #include "cad/UdDbObject.h"
 #include "elements/NUXPrefabHouseObject.h"
 #include "elements/NUXRoadObject.h"
+#include "explain/Words.h"
 #include "geometry/CPolygon.h"
 #include "site/bodies.h"
 #include "site/host_codes.h"
 #include "site/outlines.h"
+
+#include <algorithm>
 
 namespace firestandard {
 
@@ -23,25 +26,22 @@ bool cross(const hrx::PolyPt2d& a, const hrx::PolyPt2d& b, const hrx::PolyPt2d& 
     return turnOf(a, b, c) * turnOf(a, b, d) < 0.0 && turnOf(c, d, a) * turnOf(c, d, b) < 0.0;
 }
 
-std::string edgeText(std::size_t start, std::size_t count) {
-    return std::to_string(start + 1) + " to " + std::to_string((start + 1) % count + 1);
-}
-
-/// The first two straight edges that cross; empty for an outline with arcs and for one too long to search.
-std::string crossingEdges(const Points& points) {
+/// "its outline crosses itself", with the first two straight edges that do; without them for an outline with
+/// arcs and for one too long to search.
+std::string crossingReason(const Points& points) {
     constexpr std::size_t kLongest = 1000;
     const std::size_t count = points.size();
-    if (count > kLongest)
-        return {};
-    for (const hrx::PolyPt2d& point : points)
-        if (point.bulge != 0.0)
-            return {};
-    for (std::size_t i = 0; i < count; ++i)
+    const bool isSearched =
+        count <= kLongest &&
+        std::all_of(points.begin(), points.end(), [](const auto& point) { return point.bulge == 0.0; });
+    for (std::size_t i = 0; isSearched && i < count; ++i)
         for (std::size_t j = i + 2; j < count; ++j)
             if (cross(points[i], points[i + 1], points[j], points[(j + 1) % count]))
-                return ": the edge from corner " + edgeText(i, count) + " crosses that from " +
-                       edgeText(j, count);
-    return {};
+                return filled(
+                    Words::tr("its outline crosses itself: the edge from corner %1 to %2 crosses that "
+                              "from %3 to %4"),
+                    i + 1, (i + 1) % count + 1, j + 1, (j + 1) % count + 1);
+    return filled(Words::tr("its outline crosses itself"));
 }
 
 Points pointsOf(const NUXBaseObject& element) {
@@ -52,35 +52,41 @@ Points pointsOf(const NUXBaseObject& element) {
 
 std::string rectangleFlaw(double length, double depth) {
     if (!(length > 0.0))
-        return "its length is not above 0";
-    return depth > 0.0 ? "its outline has no area" : "its depth is not above 0";
+        return filled(Words::tr("its length is not above 0"));
+    return filled(depth > 0.0 ? Words::tr("its outline has no area") : Words::tr("its depth is not above 0"));
 }
 
 std::string outlineFlaw(const NUXBaseObject& element) {
     if (element.m_shapeKind == shape::kRectangle)
         return rectangleFlaw(element.getRectWidthL(), element.getRectHigh());
     if (element.m_shapeKind == shape::kCircle)
-        return "its radius is not above 0";
+        return filled(Words::tr("its radius is not above 0"));
     if (element.m_shapeKind != shape::kPolyline)
-        return "it has no outline";
+        return filled(Words::tr("it has no outline"));
     const std::size_t count = pointsOf(element).size();
-    if (count > 2)
-        return "its outline has no area";
-    return count == 0 ? "its outline has no points"
-                      : "its outline has only " + std::to_string(count) + (count == 1 ? " point" : " points");
+    switch (count) {
+    case 0:
+        return filled(Words::tr("its outline has no points"));
+    case 1:
+        return filled(Words::tr("its outline has only 1 point"));
+    case 2:
+        return filled(Words::tr("its outline has only 2 points"));
+    default:
+        return filled(Words::tr("its outline has no area"));
+    }
 }
 
 std::string outlineFlaw(const UdDbObject& element) {
     if (NUXRoadObject::Cast(&element))
-        return "it has no outline with an area";
+        return filled(Words::tr("it has no outline with an area"));
     if (const auto* house = NUXPrefabHouseObject::Cast(&element);
         house && house->m_shapeKind == shape::kRectangle) {
         const int stairs = house->getStairPosition();
         if (stairs < stair::kAtLeftEnd || stairs > stair::kAlongSide)
-            return "its stair code " + std::to_string(stairs) + " is none of 0 to 4";
+            return filled(Words::tr("its stair code %1 is none of 0 to 4"), stairs);
     }
     const auto* base = NUXBaseObject::Cast(&element);
-    return base ? outlineFlaw(*base) : "it has no outline";
+    return base ? outlineFlaw(*base) : filled(Words::tr("it has no outline"));
 }
 
 } // namespace
@@ -91,27 +97,27 @@ std::string unjudgedReason(const UdDbObject& element, NotJudged why) {
     case NotJudged::NoOutline:
         return outlineFlaw(element);
     case NotJudged::OutlineCrossesItself:
-        return "its outline crosses itself" + (base ? crossingEdges(pointsOf(*base)) : std::string());
+        return crossingReason(base ? pointsOf(*base) : Points());
     case NotJudged::NoCentreLine:
-        return "the centre line of a road of the site cannot be joined";
+        return filled(Words::tr("the centre line of a road of the site cannot be joined"));
     case NotJudged::OnTheGround:
-        return "it lies on the ground";
+        return filled(Words::tr("it lies on the ground"));
     case NotJudged::NoRooms:
-        return "it has no rooms";
+        return filled(Words::tr("it has no rooms"));
     case NotJudged::NoNeighbour:
-        return "it has no neighbour with one door";
+        return filled(Words::tr("it has no neighbour with one door"));
     case NotJudged::NothingToCompare:
-        return "the site has nothing to compare it with";
+        return filled(Words::tr("the site has nothing to compare it with"));
     case NotJudged::NeverMeasured:
-        return "elements of these types are never measured against each other";
+        return filled(Words::tr("elements of these types are never measured against each other"));
     case NotJudged::OtherUse:
-        return "it is of another use";
+        return filled(Words::tr("it is of another use"));
     case NotJudged::DidNotOpen:
-        return "it or its door does not open";
+        return filled(Words::tr("it or its door does not open"));
     case NotJudged::NoBoxMeasurable:
-        return "no extinguisher box has a measurable distance to it, which ends the rule";
+        return filled(Words::tr("no extinguisher box has a measurable distance to it, which ends the rule"));
     case NotJudged::RuleEndedBefore:
-        return "the rule ended at an element before it in the drawing";
+        return filled(Words::tr("the rule ended at an element before it in the drawing"));
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include "cad/UdApDocManager.h"
 #include "explain/element_noun.h"
 #include "report/plan/plan_shapes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -53,7 +54,8 @@ std::string planLabel(const std::string& name, const std::string& noun, const Pl
     if (shape.kind == PlanKind::Model || shape.kind == PlanKind::Other)
         return handle;
     const QString shortName = QString::fromStdString(name).section('(', 0, 0).trimmed();
-    return shortName.isEmpty() ? noun + " " + handle : shortName.toStdString();
+    return shortName.isEmpty() ? filled(Words::tr("%1 %2", "noun, handle"), noun, handle)
+                               : shortName.toStdString();
 }
 
 std::vector<PlanShape> plan(const CurrentDocument& document, const Site& site) {
@@ -64,7 +66,9 @@ std::vector<PlanShape> plan(const CurrentDocument& document, const Site& site) {
             continue;
         const std::string noun = firestandard::elementNoun(*object);
         const std::string name = nameOf(site, shape.handle);
-        shape.title = noun + " " + std::to_string(shape.handle) + (name.empty() ? "" : " \"" + name + "\"");
+        shape.title = name.empty()
+                          ? filled(Words::tr("%1 %2", "noun, handle"), noun, shape.handle)
+                          : filled(Words::tr("%1 %2 \"%3\"", "noun, handle, name"), noun, shape.handle, name);
         shape.label = planLabel(name, noun, shape);
         shapes.push_back(std::move(shape));
     }
@@ -88,8 +92,8 @@ SiteReport checkSite(Site site, const std::string& fileName, const RuleMap&,
         complete(label, document, site);
     for (const auto& object : document.objects())
         if (!object->opens())
-            report.notJudged.push_back(
-                {"object #" + std::to_string(object->Handle().GetID()), "it does not open"});
+            report.notJudged.push_back({filled(Words::tr("object #%1"), object->Handle().GetID()),
+                                        filled(Words::tr("it does not open"))});
     report.plan = plan(document, site);
     return report;
 }

@@ -14,6 +14,8 @@ const CommandOption kOutput{
     "output", "FILE",
     "Write the result to this file, which takes the place of an older one only when all is written."};
 
+const CommandOption kLanguage{"lang", "en|zh_CN", "The language of every sentence; English unless given."};
+
 CommandOption format(const char* choice) {
     return {"format", choice, "The format of the result; the first one unless given."};
 }
@@ -34,6 +36,7 @@ const std::vector<Command>& commands() {
          {kRules,
           format("text|json|csv|html"),
           kOutput,
+          kLanguage,
           {"select", "PATTERN",
            "Report only the rules whose name fits the pattern, with * and ?; may be repeated."},
           {"ignore", "PATTERN",
@@ -52,9 +55,16 @@ const std::vector<Command>& commands() {
          "A site file that cannot be read does not keep the others from being checked. A note on standard error tells "
          "when lint-rules or lint-site would find something.",
          checkCommand},
+        {"compare",
+         "OLD.json NEW.json",
+         {format("text|json"), kOutput, kLanguage},
+         "Tells what changed between two JSON reports: violations that are new, worse, better or gone.",
+         "The exit status is 1 when anything that is not accepted is new or worse, or is no longer reported because "
+         "its rule was not run or its element not judged.",
+         compareCommand},
         {"plan",
          "SITE",
-         {kRules, kOutput},
+         {kRules, kOutput, kLanguage},
          "Draws the site to scale with what breaks a rule, as SVG.",
          "",
          planCommand},
@@ -72,13 +82,13 @@ const std::vector<Command>& commands() {
          listRulesCommand},
         {"lint-rules",
          "[FILE]",
-         {format("text|json"), kOutput},
+         {format("text|json"), kOutput, kLanguage},
          "Finds what the checker passes over in silence in a rule file.",
          "",
          lintRulesCommand},
         {"lint-site",
          "SITE...",
-         {kRules, format("text|json"), kOutput},
+         {kRules, format("text|json"), kOutput, kLanguage},
          "Finds what is wrong or doubtful in site files, all at once.",
          "Errors are what check refuses a file for. Doubts are values that no site has, and slips that would change "
          "a verdict without a word. The rules tell which facilities are looked for.",

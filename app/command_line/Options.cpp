@@ -41,13 +41,14 @@ QStringList Options::values(const QString& option) const {
     return given;
 }
 
-QString Options::format() const {
-    const QStringList allowed = QString(m_command.option("format")->value).split('|');
-    const QString format = value("format").value_or(allowed.first());
-    if (!allowed.contains(format))
-        throw InputError("No such format: \"" + format.toStdString() + "\". Choose one of " +
-                         allowed.join(", ").toStdString() + ".");
-    return format;
+QString Options::choice(const QString& option) const {
+    const QStringList allowed = QString(m_command.option(option.toStdString())->value).split('|');
+    const QString chosen = value(option).value_or(allowed.first());
+    if (!allowed.contains(chosen))
+        throw InputError("No such " + (option == "lang" ? "language" : option.toStdString()) + ": \"" +
+                         chosen.toStdString() + "\". Choose one of " + allowed.join(", ").toStdString() +
+                         ".");
+    return chosen;
 }
 
 } // namespace firecheck

@@ -22,8 +22,9 @@ public:
     bool isSet(const QString& flag) const { return m_parser.isSet(flag); }
     QStringList arguments() const { return m_parser.positionalArguments(); }
 
-    /// The value of --format, one of the command's choice; the first of them unless given.
-    QString format() const;
+    /// The value of an option that has a choice, "a|b"; the first of it unless given.
+    QString choice(const QString& option) const;
+    QString format() const { return choice("format"); }
 
 private:
     const Command& m_command;

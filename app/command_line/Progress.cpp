@@ -1,6 +1,7 @@
 #include "command_line/Progress.h"
 
 #include "text/printable.h"
+#include "text/words.h"
 
 #include <cstdio>
 #include <unistd.h>
@@ -26,12 +27,15 @@ void Progress::tell(const firestandard::CheckStep& step) {
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - m_begin;
     if (!m_isTerminal || spent < kPatience)
         return;
-    std::string line = m_fileName + ": " + std::to_string(100 * step.judged / step.rules) + " %";
-    if (step.judged > 0) {
-        const double left = spent.count() / double(step.judged) * double(step.rules - step.judged);
-        line += ", about " + std::to_string(static_cast<long>(left) + 1) + " s left";
+    const std::size_t share = 100 * step.judged / step.rules;
+    const std::string rule = printable(step.next.name.toStdString());
+    if (step.judged == 0) {
+        write(filled(Words::tr("%1: %2 %, %3", "file, share, rule"), m_fileName, share, rule));
+        return;
     }
-    write(line + ", " + printable(step.next.name.toStdString()));
+    const double left = spent.count() / double(step.judged) * double(step.rules - step.judged);
+    write(filled(Words::tr("%1: %2 %, about %3 s left, %4", "file, share, time, rule"), m_fileName, share,
+                 static_cast<long>(left) + 1, rule));
 }
 
 void Progress::write(const std::string& line) {

@@ -15,6 +15,7 @@
 #include "site_lint/SiteDoubts.h"
 #include "site_lint/site_lint_report.h"
 #include "text/printable.h"
+#include "text/words.h"
 
 #include <QtGlobal>
 
@@ -51,8 +52,9 @@ void complainOfAll(const RefusedSite& refused, const std::string& fileName) {
     for (std::size_t i = 0; i < std::min(most, messages.size()); ++i)
         complain(messages[i]);
     if (messages.size() > most)
-        complain(fileName + ": " + std::to_string(messages.size() - most) +
-                 " further errors, see \"firecheck lint-site\"");
+        complain(fileName + ": " +
+                 filled(Words::tr("%n further errors, see \"firecheck lint-site\"", "",
+                                  static_cast<int>(messages.size() - most))));
 }
 
 /// The site, or nothing and complaints: one wrong file does not keep the others from being checked.
@@ -61,8 +63,9 @@ std::optional<Site> tryLoadSite(const std::string& fileName, const RuleMap& rule
         SiteFile file = loadSiteFile(fileName);
         const std::size_t count = isQuiet ? 0 : siteDoubts(file, rules).size();
         if (count > 0)
-            complain(fileName + ": " + countedDoubts(count) +
-                     " about the site file, see \"firecheck lint-site\"");
+            complain(fileName + ": " +
+                     filled(Words::tr("%1 about the site file, see \"firecheck lint-site\"", "doubts"),
+                            countedDoubts(count)));
         return std::move(file.site);
     } catch (const RefusedSite& refused) {
         complainOfAll(refused, fileName);
@@ -76,8 +79,9 @@ std::optional<Site> tryLoadSite(const std::string& fileName, const RuleMap& rule
 void mentionLint(const std::string& ruleFile, bool isQuiet) {
     const std::size_t count = lintRuleFile(ruleFile).size();
     if (count > 0 && !isQuiet)
-        complain(ruleFile + ": " + countedFindings(count) +
-                 " in the rule file, see \"firecheck lint-rules\"");
+        complain(ruleFile + ": " +
+                 filled(Words::tr("%1 in the rule file, see \"firecheck lint-rules\"", "findings"),
+                        countedFindings(count)));
 }
 
 /// How long each rule took, the slowest first.
@@ -87,7 +91,8 @@ void writeProfile(const SiteReport& report) {
         rules.push_back(&judged);
     std::stable_sort(rules.begin(), rules.end(),
                      [](const JudgedRule* a, const JudgedRule* b) { return a->time > b->time; });
-    std::fprintf(stderr, "%s: time by rule\n", printable(report.fileName).c_str());
+    std::fprintf(stderr, "%s: %s\n", printable(report.fileName).c_str(),
+                 filled(Words::tr("time by rule")).c_str());
     for (const JudgedRule* judged : rules)
         std::fprintf(
             stderr, "%10s ms  %s\n",

@@ -14,6 +14,7 @@ enum ExitStatus { kNothingFound = 0, kViolationsFound = 1, kWrongInput = 2 };
 // Each command throws InputError for words that make no sense and for input that it cannot use, and answers
 // its exit status.
 int checkCommand(const Options& options);
+int compareCommand(const Options& options);
 int completionCommand(const Options& options);
 int helpCommand(const Options& options);
 int lintRulesCommand(const Options& options);

@@ -1,6 +1,7 @@
 #include "json/Codec.h"
 
 #include "text/nearest_name.h"
+#include "text/words.h"
 
 #include <QString>
 
@@ -17,10 +18,10 @@ constexpr double kGreatest = 1e12;
 
 double readNumber(const Json& value, const JsonPlace& place) {
     if (!value.is_number())
-        refuseType(value, place, "a number");
+        refuseType(value, place, filled(Words::tr("a number")));
     const double result = value.get<double>();
     if (!(std::abs(result) <= kGreatest))
-        refuse(place, "expected a number from -1e12 to 1e12");
+        refuse(place, filled(Words::tr("expected a number from -1e12 to 1e12")));
     return result;
 }
 
@@ -36,7 +37,7 @@ Json tupleSchema(std::size_t fewest, std::size_t most) {
 std::array<double, 3> readTuple(const Json& value, const JsonPlace& place, std::size_t fewest,
                                 std::size_t most, const char* expected) {
     if (!value.is_array() || value.size() < fewest || value.size() > most)
-        refuseType(value, place, expected);
+        refuseType(value, place, filled(Words::tr(expected)));
     std::array<double, 3> result{};
     for (std::size_t i = 0; i < value.size(); ++i)
         result.at(i) = readNumber(value[i], JsonPlace(place, i));
@@ -46,7 +47,7 @@ std::array<double, 3> readTuple(const Json& value, const JsonPlace& place, std::
 template <class T, class ReadItem>
 std::vector<T> readList(const Json& value, const JsonPlace& place, ReadItem readItem) {
     if (!value.is_array())
-        refuseType(value, place, "a list");
+        refuseType(value, place, filled(Words::tr("a list")));
     std::vector<T> result;
     result.reserve(value.size());
     for (std::size_t i = 0; i < value.size(); ++i)
@@ -61,20 +62,33 @@ Json listSchema(Json item) {
 hrx::CVec3<double> readCorner(const Json& corners, const JsonPlace& place, const std::string& key) {
     const auto found = corners.find(key);
     if (found == corners.end())
-        refuse(place, "expected the key \"" + key + "\"");
-    const auto [x, y, z] = readTuple(*found, JsonPlace(place, key), 3, 3, "a point [x, y, z]");
+        refuse(place, filled(Words::tr("expected the key \"%1\""), key));
+    const auto [x, y, z] =
+        readTuple(*found, JsonPlace(place, key), 3, 3, QT_TRANSLATE_NOOP("Words", "a point [x, y, z]"));
     return {x, y, z};
+}
+
+QString foundText(const Json& value) {
+    switch (value.type()) {
+    case Json::value_t::null:
+        return Words::tr("null");
+    case Json::value_t::object:
+        return Words::tr("an object");
+    case Json::value_t::array:
+        return Words::tr("a list of %1").arg(value.size());
+    case Json::value_t::string:
+        return Words::tr("a string");
+    case Json::value_t::boolean:
+        return Words::tr("a boolean");
+    default:
+        return Words::tr("a number");
+    }
 }
 
 } // namespace
 
 void refuseType(const Json& value, const JsonPlace& place, const std::string& expected) {
-    std::string found = value.type_name();
-    if (value.is_array())
-        found = "list of " + std::to_string(value.size());
-    const bool startsWithVowel = found.front() == 'o' || found.front() == 'a';
-    const std::string article = value.is_null() ? "" : startsWithVowel ? "an " : "a ";
-    refuse(place, "expected " + expected + ", found " + article + found);
+    refuse(place, filled(Words::tr("expected %1, found %2"), expected, foundText(value)));
 }
 
 std::wstring wideText(const std::string& utf8) {
@@ -87,7 +101,7 @@ Codec<bool> flag() {
             },
             [](const Json& value, const JsonPlace& place) {
                 if (!value.is_boolean())
-                    refuseType(value, place, "true or false");
+                    refuseType(value, place, filled(Words::tr("true or false")));
                 return value.get<bool>();
             }};
 }
@@ -103,7 +117,7 @@ Codec<double> extent() {
             [](const Json& value, const JsonPlace& place) {
                 const double result = readNumber(value, place);
                 if (result < 0.0)
-                    refuse(place, "expected a number that is not negative");
+                    refuse(place, filled(Words::tr("expected a number that is not negative")));
                 return result;
             }};
 }
@@ -114,7 +128,7 @@ Codec<std::wstring> text() {
             },
             [](const Json& value, const JsonPlace& place) {
                 if (!value.is_string())
-                    refuseType(value, place, "a text");
+                    refuseType(value, place, filled(Words::tr("a text")));
                 return wideText(value.get_ref<const std::string&>());
             }};
 }
@@ -122,7 +136,8 @@ Codec<std::wstring> text() {
 Codec<hrx::CVec2<double>> planPoint() {
     return {[] { return tupleSchema(2, 2); },
             [](const Json& value, const JsonPlace& place) {
-                const auto [x, y, unused] = readTuple(value, place, 2, 2, "a point [x, y]");
+                const auto [x, y, unused] =
+                    readTuple(value, place, 2, 2, QT_TRANSLATE_NOOP("Words", "a point [x, y]"));
                 static_cast<void>(unused);
                 return hrx::CVec2<double>{x, y};
             }};
@@ -131,7 +146,8 @@ Codec<hrx::CVec2<double>> planPoint() {
 Codec<hrx::CVec3<double>> point() {
     return {[] { return tupleSchema(2, 3); },
             [](const Json& value, const JsonPlace& place) {
-                const auto [x, y, z] = readTuple(value, place, 2, 3, "a point [x, y] or [x, y, z]");
+                const auto [x, y, z] =
+                    readTuple(value, place, 2, 3, QT_TRANSLATE_NOOP("Words", "a point [x, y] or [x, y, z]"));
                 return hrx::CVec3<double>{x, y, z};
             }};
 }
@@ -140,7 +156,8 @@ Codec<std::vector<hrx::PolyPt2d>> polyline() {
     return {[] { return listSchema(tupleSchema(2, 3)); },
             [](const Json& value, const JsonPlace& place) {
                 return readList<hrx::PolyPt2d>(value, place, [](const Json& item, const JsonPlace& at) {
-                    const auto [x, y, bulge] = readTuple(item, at, 2, 3, "a point [x, y] or [x, y, bulge]");
+                    const auto [x, y, bulge] = readTuple(
+                        item, at, 2, 3, QT_TRANSLATE_NOOP("Words", "a point [x, y] or [x, y, bulge]"));
                     return hrx::PolyPt2d{x, y, bulge};
                 });
             }};
@@ -152,7 +169,8 @@ Codec<std::vector<hrx::CVec2<double>>> axisPositions() {
                 return readList<hrx::CVec2<double>>(value, place, [](const Json& item, const JsonPlace& at) {
                     if (item.is_number())
                         return hrx::CVec2<double>{readNumber(item, at), 0.0};
-                    const auto [x, y, unused] = readTuple(item, at, 2, 2, "a number or a point [x, y]");
+                    const auto [x, y, unused] =
+                        readTuple(item, at, 2, 2, QT_TRANSLATE_NOOP("Words", "a number or a point [x, y]"));
                     static_cast<void>(unused);
                     return hrx::CVec2<double>{x, y};
                 });
@@ -168,12 +186,12 @@ Codec<std::optional<hrx::CExtents3>> extents() {
     };
     return {schema, [](const Json& value, const JsonPlace& place) {
                 if (!value.is_object())
-                    refuseType(value, place, "an object with \"low\" and \"high\"");
+                    refuseType(value, place, filled(Words::tr("an object with \"low\" and \"high\"")));
                 hrx::CExtents3 result;
                 result.low = readCorner(value, place, "low");
                 result.high = readCorner(value, place, "high");
                 if (value.size() > 2)
-                    refuse(place, "expected no other keys than \"low\" and \"high\"");
+                    refuse(place, filled(Words::tr("expected no other keys than \"low\" and \"high\"")));
                 return std::optional(result);
             }};
 }
@@ -192,15 +210,14 @@ std::int64_t readInteger(const Json& value, const JsonPlace& place, std::int64_t
     } else if (value.is_number_float()) {
         const auto number = value.get<double>();
         if (std::trunc(number) != number)
-            refuse(place, "expected an integer, found a fraction");
+            refuse(place, filled(Words::tr("expected an integer, found a fraction")));
         fits = std::abs(number) <= exactUpTo;
         result = fits ? static_cast<std::int64_t>(number) : 0;
     } else {
-        refuseType(value, place, "an integer");
+        refuseType(value, place, filled(Words::tr("an integer")));
     }
     if (!fits || result < lowest || result > highest)
-        refuse(place,
-               "expected an integer from " + std::to_string(lowest) + " to " + std::to_string(highest));
+        refuse(place, filled(Words::tr("expected an integer from %1 to %2"), lowest, highest));
     return result;
 }
 
@@ -213,13 +230,13 @@ std::int64_t readCode(const Json& value, const JsonPlace& place, const CodeNames
     if (value.is_number())
         return readInteger(value, place, lowest, highest);
 
-    std::string expected = "one of";
+    std::string choice;
     std::vector<std::string> known;
     for (const auto& [name, number] : names) {
-        expected += " \"" + name + "\",";
+        choice += (choice.empty() ? "\"" : ", \"") + name + "\"";
         known.push_back(name);
     }
-    expected += " or an integer code";
+    const std::string expected = filled(Words::tr("one of %1, or an integer code"), choice);
     if (!value.is_string())
         refuseType(value, place, expected);
 
@@ -228,7 +245,8 @@ std::int64_t readCode(const Json& value, const JsonPlace& place, const CodeNames
                                     [&given](const auto& candidate) { return candidate.first == given; });
     if (named != names.end())
         return named->second;
-    refuse(place, "expected " + expected, nearestName(given, known).value_or(std::string()));
+    refuse(place, filled(Words::tr("expected %1"), expected),
+           nearestName(given, known).value_or(std::string()));
 }
 
 Json codeSchema(const CodeNames& names, std::int64_t lowest, std::int64_t highest) {

@@ -2,6 +2,7 @@
 
 #include "text/nearest_name.h"
 #include "text/shortened.h"
+#include "text/words.h"
 
 #include <algorithm>
 
@@ -18,7 +19,9 @@ namespace {
         all += (all.empty() ? "" : ", ") + shape.key;
     }
     const std::string near = nearestName(key, known).value_or(std::string());
-    refuse(place, "unknown key \"" + shortened(key) + "\"" + (near.empty() ? "; the keys are " + all : ""),
+    refuse(place,
+           near.empty() ? filled(Words::tr("unknown key \"%1\"; the keys are %2"), shortened(key), all)
+                        : filled(Words::tr("unknown key \"%1\""), shortened(key)),
            near);
 }
 
@@ -26,7 +29,7 @@ namespace {
 
 void checkKeys(const Json& object, const JsonPlace& place, const std::vector<KeyShape>& shapes) {
     if (!object.is_object())
-        refuseType(object, place, "an object");
+        refuseType(object, place, filled(Words::tr("an object")));
     for (const auto& [key, value] : object.items()) {
         const auto& given = key;
         if (std::none_of(shapes.begin(), shapes.end(),
@@ -35,8 +38,10 @@ void checkKeys(const Json& object, const JsonPlace& place, const std::vector<Key
     }
     for (const KeyShape& shape : shapes)
         if (shape.required && !object.contains(shape.key))
-            place.attempt(
-                [&] { refuse(place, "expected the key \"" + shape.key + "\" (" + shape.doc + ")"); });
+            place.attempt([&] {
+                refuse(place, filled(Words::tr("expected the key \"%1\" (%2)"), shape.key,
+                                     Words::tr(shape.doc.c_str())));
+            });
 }
 
 Json objectSchema(const std::vector<KeyShape>& shapes) {

@@ -1,6 +1,7 @@
 #include "json/JsonPlace.h"
 
 #include "json/Json.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -16,8 +17,9 @@ std::string message(const std::vector<Refusal>& refusals) {
 } // namespace
 
 std::string Refusal::text() const {
-    return (pointer.empty() ? "top level" : pointer) + ": " + reason +
-           (suggestion.empty() ? "" : "; did you mean \"" + suggestion + "\"?");
+    const std::string place = pointer.empty() ? filled(Words::tr("top level")) : pointer;
+    return place + ": " +
+           (suggestion.empty() ? reason : filled(Words::tr("%1; did you mean \"%2\"?"), reason, suggestion));
 }
 
 RefusedJson::RefusedJson(std::vector<Refusal> refusals)

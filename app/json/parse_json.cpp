@@ -3,6 +3,7 @@
 #include "InputError.h"
 #include "json/json_places.h"
 #include "text/shortened.h"
+#include "text/words.h"
 
 #include <algorithm>
 #include <iterator>
@@ -74,9 +75,9 @@ public:
     }
     bool key(string_t& key) override {
         if (!m_keys.back().insert(key).second)
-            throw InputError("the key \"" + shortened(key) + "\" occurs twice in its object");
+            throw InputError(filled(Words::tr("the key \"%1\" occurs twice in its object"), shortened(key)));
         if (m_keys.back().size() > kMostKeys)
-            throw InputError("an object with more than " + std::to_string(kMostKeys) + " keys");
+            throw InputError(filled(Words::tr("an object with more than %1 keys"), kMostKeys));
         return true;
     }
     bool end_object() override {
@@ -87,14 +88,14 @@ public:
     bool end_array() override { return ascend(); }
     bool parse_error(std::size_t, const std::string&, const Json::exception& error) override {
         if (dynamic_cast<const Json::out_of_range*>(&error))
-            throw InputError("expected a finite number");
-        throw InputError("expected JSON in UTF-8: " + objection(error.what()));
+            throw InputError(filled(Words::tr("expected a finite number")));
+        throw InputError(filled(Words::tr("expected JSON in UTF-8: %1"), objection(error.what())));
     }
 
 private:
     bool descend() {
         if (++m_depth > kDeepestNesting)
-            throw InputError("nested deeper than " + std::to_string(kDeepestNesting) + " levels");
+            throw InputError(filled(Words::tr("nested deeper than %1 levels"), kDeepestNesting));
         return true;
     }
     bool ascend() {
@@ -122,7 +123,7 @@ Json parseJson(const std::string& text, const std::string& name) {
     const auto nul = text.find('\0');
     if (nul != std::string::npos) {
         position += nul + 1;
-        throw fail("expected JSON in UTF-8: found a NUL byte, as texts in UTF-16 have");
+        throw fail(filled(Words::tr("expected JSON in UTF-8: found a NUL byte, as texts in UTF-16 have")));
     }
     Guard guard;
     try {

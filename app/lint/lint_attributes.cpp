@@ -1,6 +1,7 @@
 #include "lint/lint_attributes.h"
 
 #include "text/nearest_name.h"
+#include "text/words.h"
 
 #include <algorithm>
 
@@ -11,9 +12,10 @@ void lintUnknownAttributes(const RuleFileNode& node, const std::vector<std::stri
     for (const RuleFileAttribute& attribute : node.attributes) {
         const bool isOfXml = attribute.name.compare(0, 3, "xml") == 0;
         if (!isOfXml && std::find(read.begin(), read.end(), attribute.name) == read.end())
-            findings.add(attribute.place, "unread-attribute",
-                         "The attribute \"" + attribute.name + "\" of \"" + node.name + "\" is never read.",
-                         nearestOf(attribute.name, read));
+            findings.add(
+                attribute.place, "unread-attribute",
+                filled(Words::tr("The attribute \"%1\" of \"%2\" is never read."), attribute.name, node.name),
+                nearestOf(attribute.name, read));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "lint/lint_attributes.h"
 #include "rules/vocabulary.h"
+#include "text/words.h"
 
 #include <QStringList>
 
@@ -41,8 +42,10 @@ public:
         else if (limits && limits->minimum > 0.0)
             m_findings.add(
                 valuePlace(), "always-finds",
-                m_elementType +
-                    " is not measured and counts as 0 m away: every pair offends against a minimum.");
+                filled(
+                    Words::tr(
+                        "%1 is not measured and counts as 0 m away: every pair offends against a minimum."),
+                    m_elementType));
     }
 
 private:
@@ -55,9 +58,10 @@ private:
     void lintCondition() {
         if (m_condition == kLess || m_condition == kLessOrMore)
             return;
-        m_findings.add(placeOf("ConstraintCondition"), "unknown-condition",
-                       "The condition \"" + m_condition + "\" never judges: no distance offends.",
-                       nearestOf(m_condition, {kLess, kLessOrMore}));
+        m_findings.add(
+            placeOf("ConstraintCondition"), "unknown-condition",
+            filled(Words::tr("The condition \"%1\" never judges: no distance offends."), m_condition),
+            nearestOf(m_condition, {kLess, kLessOrMore}));
     }
 
     /// As the rule reads it: infinite values are taken as they are, whatever else is no number as 0.
@@ -66,27 +70,31 @@ private:
         const double value = part.toDouble(&isNumber);
         if (isNumber && std::isfinite(value) && value >= 0.0)
             return value;
+        const QString consequence = std::isnan(value)   ? Words::tr("No distance offends against it.")
+                                    : std::isinf(value) ? Words::tr("It counts as infinite.")
+                                    : isNumber          ? Words::tr("No distance is below it.")
+                                                        : Words::tr("It counts as 0 m.");
         m_findings.add(valuePlace(), "bad-distance",
-                       "\"" + part.toStdString() +
-                           "\" is no distance, which is a number of metres, 0 or more. " +
-                           (std::isnan(value)   ? "No distance offends against it."
-                            : std::isinf(value) ? "It counts as infinite."
-                            : isNumber          ? "No distance is below it."
-                                                : "It counts as 0 m."));
+                       filled(Words::tr("\"%1\" is no distance, which is a number of metres, 0 or more. %2",
+                                        "given, what it means"),
+                              part, consequence));
         return std::nullopt;
     }
 
     std::optional<Limits> lintValue() {
         const QStringList parts = QString::fromStdString(m_value).split(':');
         if (parts.size() > 2)
-            m_findings.add(valuePlace(), "bad-distance",
-                           "Only a minimum and a maximum are read; what follows the second \":\" is not.");
+            m_findings.add(
+                valuePlace(), "bad-distance",
+                filled(Words::tr(
+                    "Only a minimum and a maximum are read; what follows the second \":\" is not.")));
         const auto minimum = number(parts[0]);
         if (parts.size() == 1)
             return minimum ? std::optional<Limits>({*minimum, std::nullopt}) : std::nullopt;
         if (m_condition == kLess) {
-            m_findings.add(valuePlace(), "bad-distance",
-                           "Under \"less\" the maximum is not read; it is under \"less or more\".");
+            m_findings.add(
+                valuePlace(), "bad-distance",
+                filled(Words::tr("Under \"less\" the maximum is not read; it is under \"less or more\".")));
             return std::nullopt;
         }
         const auto maximum = number(parts[1]);
@@ -96,27 +104,35 @@ private:
     void lintLimits(const Limits& limits) {
         if (limits.maximum && limits.minimum > *limits.maximum)
             m_findings.add(valuePlace(), "bad-distance",
-                           "The minimum is above the maximum: every distance offends.");
+                           filled(Words::tr("The minimum is above the maximum: every distance offends.")));
         constexpr double farthest = 1000.0;
         for (const double limit : {limits.minimum, limits.maximum.value_or(0.0)})
             if (limit > farthest)
-                m_findings.add(valuePlace(), "doubtful-distance",
-                               "A distance of " + QString::number(limit, 'g', 10).toStdString() +
-                                   " m is more than any site has: limits are in metres.");
+                m_findings.add(
+                    valuePlace(), "doubtful-distance",
+                    filled(Words::tr("A distance of %1 m is more than any site has: limits are in metres."),
+                           QString::number(limit, 'g', 10)));
     }
 
     void lintPair(const DistanceMeasure& measure, const std::optional<Limits>& limits) {
         const auto& references = measure.referenceElementTypes;
         if (std::find(references.begin(), references.end(), m_referenceType) == references.end()) {
-            neverFinds(placeOf("ReferenceElementType"),
-                       "Distances from " + m_elementType + " to " + m_referenceType + " are not measured.",
-                       isMeasuredTheOtherWay() ? m_referenceType + " to " + m_elementType : std::string());
+            neverFinds(
+                placeOf("ReferenceElementType"),
+                filled(
+                    Words::tr("Distances from %1 to %2 are not measured. The rule can never find anything."),
+                    m_elementType, m_referenceType),
+                isMeasuredTheOtherWay()
+                    ? filled(Words::tr("%1 to %2", "element types"), m_referenceType, m_elementType)
+                    : std::string());
             return;
         }
         if (m_referenceType == kOpenShed)
             lintShedName();
         if (limits && limits->minimum == 0.0 && !limits->maximum)
-            neverFinds(valuePlace(), "No distance is below a minimum of 0 m.");
+            neverFinds(valuePlace(),
+                       filled(Words::tr(
+                           "No distance is below a minimum of 0 m. The rule can never find anything.")));
     }
 
     bool isMeasuredTheOtherWay() const {
@@ -134,13 +150,15 @@ private:
             if (name.type == "distant" && name.elementType == m_elementType)
                 names.push_back(name.name);
         if (std::find(names.begin(), names.end(), m_rule.name) == names.end())
-            m_findings.add(m_rule.place, "unknown-name",
-                           "Under this name no open shed counts: which ones do, the rule's name decides.",
-                           nearestOf(m_rule.name, names));
+            m_findings.add(
+                m_rule.place, "unknown-name",
+                filled(Words::tr(
+                    "Under this name no open shed counts: which ones do, the rule's name decides.")),
+                nearestOf(m_rule.name, names));
     }
 
     void neverFinds(const Place& place, const std::string& why, const std::string& suggestion = {}) {
-        m_findings.add(place, "never-finds", why + " The rule can never find anything.", suggestion);
+        m_findings.add(place, "never-finds", why, suggestion);
     }
 
     const RuleFileNode& m_rule;

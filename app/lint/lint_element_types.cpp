@@ -3,6 +3,7 @@
 #include "lint/lint_attributes.h"
 #include "rules/element_type_names.h"
 #include "rules/vocabulary.h"
+#include "text/words.h"
 
 #include <algorithm>
 
@@ -16,19 +17,19 @@ bool lintReadType(const RuleFileNode& rule, const std::string& name, const std::
     const RuleFileAttribute* attribute = rule.attribute(name);
     if (!attribute || attribute->value.empty()) {
         findings.add(attribute ? attribute->place : rule.place, "missing-attribute",
-                     "Without \"" + name + "\" the rule concerns no element.", expected);
+                     filled(Words::tr("Without \"%1\" the rule concerns no element."), name), expected);
         return false;
     }
     const std::string& given = attribute->value;
     const std::string instead = reportedInstead(given);
     if (!instead.empty()) {
-        findings.add(attribute->place, "unreported-element-type", "No element reports \"" + given + "\".",
-                     instead);
+        findings.add(attribute->place, "unreported-element-type",
+                     filled(Words::tr("No element reports \"%1\"."), given), instead);
         return false;
     }
     if (!expected.empty() && given != expected) {
         findings.add(attribute->place, "other-element-type",
-                     "The rule's name is about " + expected + ", not " + given + ".", expected);
+                     filled(Words::tr("The rule's name is about %1, not %2."), expected, given), expected);
         return false;
     }
     return true;
@@ -45,7 +46,7 @@ bool lintElementTypes(const RuleFileNode& rule, const std::vector<std::string>& 
         if (attribute && !attribute->value.empty() && !isElementTypeName(attribute->value)) {
             isRight = false;
             findings.add(attribute->place, "unknown-element-type",
-                         "\"" + attribute->value + "\" is no element type identifier.",
+                         filled(Words::tr("\"%1\" is no element type identifier."), attribute->value),
                          nearestOf(attribute->value, elementTypeNames()));
         } else if (isRead) {
             const bool isFirst = name == "ElementType";

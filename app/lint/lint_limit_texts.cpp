@@ -1,6 +1,7 @@
 #include "lint/lint_limit_texts.h"
 
 #include "evaluators/rule_catalogue.h"
+#include "text/words.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -70,11 +71,11 @@ void lintLimitTexts(const RuleFileNode& rule, LintFindings& findings) {
                                    [&](double limit) { return std::abs(limit - *figure) < 1e-9; }))
             continue;
         const auto shown = [&](double value) {
-            return QString::number(value, 'g', 10).toStdString() + (limits.isArea ? " m²" : " m");
+            return QString::number(value, 'g', 10) + (limits.isArea ? " m²" : " m");
         };
         findings.add(text.place, "other-limit",
-                     "The text speaks of " + shown(*figure) + ", but the rule judges by " +
-                         shown(limits.values.front()) + ".");
+                     filled(Words::tr("The text speaks of %1, but the rule judges by %2."), shown(*figure),
+                            shown(limits.values.front())));
     }
 }
 

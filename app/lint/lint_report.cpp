@@ -1,6 +1,7 @@
 #include "lint/lint_report.h"
 
 #include "text/printable.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -8,13 +9,17 @@ std::string lintReportText(const std::string& fileName, const std::vector<LintFi
     const std::string file = printable(fileName);
     std::string text;
     for (const LintFinding& finding : findings) {
-        std::string line = finding.rule.empty() ? finding.message : finding.rule + ": " + finding.message;
-        if (!finding.suggestion.empty())
-            line += " Did you mean \"" + finding.suggestion + "\"?";
+        const std::string message = finding.suggestion.empty() ? finding.message
+                                                               : filled(Words::tr("%1 Did you mean \"%2\"?"),
+                                                                        finding.message, finding.suggestion);
+        const std::string line = finding.rule.empty()
+                                     ? message
+                                     : filled(Words::tr("%1: %2", "rule, message"), finding.rule, message);
         text += file + ":" + std::to_string(finding.place.line) + ":" + std::to_string(finding.place.column) +
                 ": " + printable(line) + " [" + finding.code + "]\n";
     }
-    return text + file + ": " + (findings.empty() ? "clean" : countedFindings(findings.size())) + "\n";
+    return text + file + ": " +
+           (findings.empty() ? filled(Words::tr("clean")) : countedFindings(findings.size())) + "\n";
 }
 
 Json lintReportJson(const std::string& fileName, const std::vector<LintFinding>& findings) {
@@ -32,7 +37,8 @@ Json lintReportJson(const std::string& fileName, const std::vector<LintFinding>&
 }
 
 std::string countedFindings(std::size_t count) {
-    return std::to_string(count) + (count == 1 ? " finding" : " findings");
+    return filled(count == 1 ? Words::tr("1 finding")
+                             : Words::tr("%n findings", "", static_cast<int>(count)));
 }
 
 } // namespace firecheck

@@ -5,6 +5,7 @@
 #include "lint/lint_element_types.h"
 #include "lint/lint_limit_texts.h"
 #include "rules/vocabulary.h"
+#include "text/words.h"
 
 #include <algorithm>
 #include <set>
@@ -35,16 +36,18 @@ void lintTexts(const RuleFileNode& rule, LintFindings& findings) {
     std::set<std::string> seen;
     for (const RuleFileNode& child : rule.children) {
         if (child.kind == RuleFileNode::Kind::Text)
-            findings.add(child.place, "unread-text", "Text directly in a rule is not read.");
+            findings.add(child.place, "unread-text",
+                         filled(Words::tr("Text directly in a rule is not read.")));
         if (child.kind != RuleFileNode::Kind::Element)
             continue;
         lintUnknownAttributes(child, {}, findings);
         if (!contains(kTexts, child.name))
-            findings.add(child.place, "unread-element", "The element \"" + child.name + "\" is never read.",
+            findings.add(child.place, "unread-element",
+                         filled(Words::tr("The element \"%1\" is never read."), child.name),
                          nearestOf(child.name, kTexts));
         else if (!seen.insert(child.name).second)
             findings.add(child.place, "unread-element",
-                         "Only the first \"" + child.name + "\" of a rule is read.");
+                         filled(Words::tr("Only the first \"%1\" of a rule is read."), child.name));
     }
 }
 
@@ -52,12 +55,14 @@ void lintType(const RuleFileNode& rule, LintFindings& findings) {
     const RuleName* known = findRuleName(rule.name);
     const RuleFileAttribute* type = rule.attribute("Type");
     if (!type) {
-        findings.add(rule.place, "unknown-type", "The rule has no \"Type\": no evaluator judges it.",
+        findings.add(rule.place, "unknown-type",
+                     filled(Words::tr("The rule has no \"Type\": no evaluator judges it.")),
                      known ? known->type : std::string());
         return;
     }
     const std::string near = nearestOf(type->value, ruleTypes());
-    findings.add(type->place, "unknown-type", "No evaluator is of type \"" + type->value + "\".",
+    findings.add(type->place, "unknown-type",
+                 filled(Words::tr("No evaluator is of type \"%1\"."), type->value),
                  near.empty() && known ? known->type : near);
 }
 
@@ -69,11 +74,13 @@ const RuleName* lintName(const RuleFileNode& rule, const std::string& type, Lint
         return known;
     const bool isNameConsulted = type != "without" || !rule.value("PropertyType").empty();
     if (known)
-        findings.add(rule.place, "unknown-name",
-                     "This name belongs to rules of type \"" + known->type + "\", not to those of type \"" +
-                         type + "\".");
+        findings.add(
+            rule.place, "unknown-name",
+            filled(Words::tr("This name belongs to rules of type \"%1\", not to those of type \"%2\"."),
+                   known->type, type));
     else if (type != "distant" && isNameConsulted)
-        findings.add(rule.place, "unknown-name", "No evaluator of type \"" + type + "\" knows this name.",
+        findings.add(rule.place, "unknown-name",
+                     filled(Words::tr("No evaluator of type \"%1\" knows this name."), type),
                      nearestOf(rule.name, namesOfType(type)));
     return nullptr;
 }
@@ -84,9 +91,11 @@ void lintIneffective(const RuleFileNode& rule, const std::vector<std::string>& r
         const RuleFileAttribute* attribute = rule.attribute(name);
         if (!attribute || contains(read, name))
             continue;
-        const std::string limits = known && !known->limits.empty() ? " Fixed limit: " + known->limits : "";
         findings.add(attribute->place, "ineffective-attribute",
-                     "\"" + attribute->name + "\" changes nothing for this rule." + limits);
+                     known && !known->limits.empty()
+                         ? filled(Words::tr("\"%1\" changes nothing for this rule. Fixed limit: %2"),
+                                  attribute->name, known->limits)
+                         : filled(Words::tr("\"%1\" changes nothing for this rule."), attribute->name));
     }
 }
 
@@ -110,9 +119,10 @@ void lintRule(const RuleFileNode& rule, LintFindings& findings) {
         lintDistanceRule(rule, areTypesRight, findings);
     lintLimitTexts(rule, findings);
     if (type == "without" && known && rule.value("PropertyType").empty())
-        findings.add(rule.place, "ineffective-name",
-                     "Without a \"PropertyType\" the name means nothing: any " + known->elementType +
-                         " satisfies the rule.");
+        findings.add(
+            rule.place, "ineffective-name",
+            filled(Words::tr("Without a \"PropertyType\" the name means nothing: any %1 satisfies the rule."),
+                   known->elementType));
 }
 
 } // namespace firecheck

@@ -4,6 +4,7 @@
 #include "lint/lint_attributes.h"
 #include "lint/lint_rule.h"
 #include "rules/vocabulary.h"
+#include "text/words.h"
 
 #include <algorithm>
 #include <map>
@@ -19,9 +20,10 @@ class FileLinter {
 public:
     std::vector<LintFinding> findingsOn(const RuleFileNodes& file) {
         if (file.wrongBytes)
-            m_outside.add(*file.wrongBytes, "wrong-bytes",
-                          "These bytes are no text in the encoding of the file, which is UTF-8 unless it "
-                          "declares another: texts come out garbled.");
+            m_outside.add(
+                *file.wrongBytes, "wrong-bytes",
+                filled(Words::tr(
+                    "These bytes are no text in the encoding of the file, which is UTF-8 unless it declares another: texts come out garbled.")));
         lintUnknownAttributes(file.root, {}, m_outside);
         for (const RuleFileNode& node : file.root.children)
             lintGroup(node);
@@ -38,15 +40,18 @@ public:
 private:
     void lintGroup(const RuleFileNode& group) {
         if (group.kind == Kind::Text)
-            m_outside.add(group.place, "unread-text", "Text between the groups is not read.");
+            m_outside.add(group.place, "unread-text",
+                          filled(Words::tr("Text between the groups is not read.")));
         if (group.kind != Kind::Element)
             return;
         m_recordCount += group.children.size();
         if (group.attribute("Type") || findRuleName(group.name)) {
             m_outside.add(
                 group.place, "rule-outside-group",
-                "\"" + group.name +
-                    "\" stands directly in the document element and is taken for a group: put it into one.");
+                filled(
+                    Words::tr(
+                        "\"%1\" stands directly in the document element and is taken for a group: put it into one."),
+                    group.name));
             return;
         }
         lintUnknownAttributes(group, {}, m_outside);
@@ -59,11 +64,14 @@ private:
     }
 
     void lintEmptyRecord(const RuleFileNode& node) {
-        const char* what = node.kind == Kind::Comment ? "A comment"
-                           : node.kind == Kind::Text  ? "Text"
-                                                      : "A processing instruction";
-        m_outside.add(node.place, "empty-record",
-                      std::string(what) + " in a group becomes an empty rule: put it between the groups.");
+        const QString message =
+            node.kind == Kind::Comment
+                ? Words::tr("A comment in a group becomes an empty rule: put it between the groups.")
+            : node.kind == Kind::Text
+                ? Words::tr("Text in a group becomes an empty rule: put it between the groups.")
+                : Words::tr(
+                      "A processing instruction in a group becomes an empty rule: put it between the groups.");
+        m_outside.add(node.place, "empty-record", filled(message));
     }
 
     void lintRuleElement(const RuleFileNode& rule) {
@@ -75,8 +83,8 @@ private:
         const auto [first, isNew] = m_keys.emplace(key, rule.place.line);
         if (!isNew)
             findings.add(rule.place, "colliding-key",
-                         "The rule is filed under the key \"" + key + "\", like the one in line " +
-                             std::to_string(first->second) + ".");
+                         filled(Words::tr("The rule is filed under the key \"%1\", like the one in line %2."),
+                                key, first->second));
     }
 
     std::vector<LintFinding> m_findings;
@@ -91,7 +99,7 @@ std::vector<LintFinding> lintRuleFile(const std::string& fileName) {
     FileLinter linter;
     std::vector<LintFinding> findings = linter.findingsOn(readRuleFileNodes(fileName));
     if (linter.recordCount() == 0)
-        throw InputError(fileName + ": expected at least one rule");
+        throw InputError(fileName + ": " + filled(Words::tr("expected at least one rule")));
     return findings;
 }
 

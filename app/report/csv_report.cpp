@@ -1,6 +1,7 @@
 #include "report/ReportWriter.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
+#include "text/words.h"
 
 #include <QString>
 #include <QStringList>
@@ -127,7 +128,7 @@ private:
                          cell(rules.join("; ")),
                          {},
                          {},
-                         cell("not judged: " + unjudgedText(report, element)),
+                         cell(filled(Words::tr("not judged: %1"), unjudgedText(report, element))),
                          {}};
         line += elementCells(report, element.handle);
         while (line.size() < kColumns)

@@ -1,6 +1,9 @@
 #include "report/judgement_text.h"
 
 #include "evaluators/rule_catalogue.h"
+#include "text/words.h"
+
+#include <QStringList>
 
 namespace firecheck {
 
@@ -9,50 +12,51 @@ using firestandard::NotJudged;
 namespace {
 
 /// Of violations that name no element. Those of gates are about one that the drawing does not have.
-std::string withoutElementText(const JudgedRule& judged) {
+QString withoutElementText(const JudgedRule& judged) {
     const firestandard::RuleRow* row = firestandard::findRule(judged.rule.name, judged.rule.type);
     return row && row->test == firestandard::RuleTest::DoorToDoor
-               ? "a gate that is not in the drawing offends"
-               : "the site as a whole offends";
+               ? Words::tr("a gate that is not in the drawing offends")
+               : Words::tr("the site as a whole offends");
 }
 
-std::string offendersText(const JudgedRule& judged) {
+QString offendersText(const JudgedRule& judged) {
     if (judged.offending > 0)
-        return std::to_string(judged.offending) + (judged.offending == 1 ? " offends" : " offend");
+        return judged.offending == 1 ? Words::tr("1 offends")
+                                     : Words::tr("%n offend", "", static_cast<int>(judged.offending));
     if (judged.violations > 0)
         return withoutElementText(judged);
-    return judged.canOffend ? "none offends" : "none can offend as the rule is written";
+    return judged.canOffend ? Words::tr("none offends") : Words::tr("none can offend as the rule is written");
 }
 
 /// Why elements were not judged: "on the ground".
-const char* reasonText(NotJudged why) {
+QString reasonText(NotJudged why) {
     switch (why) {
     case NotJudged::NoOutline:
-        return "without an outline";
+        return Words::tr("without an outline");
     case NotJudged::OutlineCrossesItself:
-        return "with an outline that crosses itself";
+        return Words::tr("with an outline that crosses itself");
     case NotJudged::NoCentreLine:
-        return "since a centre line cannot be joined";
+        return Words::tr("since a centre line cannot be joined");
     case NotJudged::OnTheGround:
-        return "on the ground";
+        return Words::tr("on the ground");
     case NotJudged::NoRooms:
-        return "without rooms";
+        return Words::tr("without rooms");
     case NotJudged::NoNeighbour:
-        return "without a neighbour that has one door";
+        return Words::tr("without a neighbour that has one door");
     case NotJudged::NothingToCompare:
-        return "nothing to compare with";
+        return Words::tr("nothing to compare with");
     case NotJudged::NeverMeasured:
-        return "never measured against elements of the other type";
+        return Words::tr("never measured against elements of the other type");
     case NotJudged::OtherUse:
-        return "of another use";
+        return Words::tr("of another use");
     case NotJudged::DidNotOpen:
-        return "with a door that does not open";
+        return Words::tr("with a door that does not open");
     case NotJudged::NoBoxMeasurable:
-        return "to which no box has a measurable distance";
+        return Words::tr("to which no box has a measurable distance");
     case NotJudged::RuleEndedBefore:
-        return "after the end of the rule";
+        return Words::tr("after the end of the rule");
     }
-    return "";
+    return {};
 }
 
 /// The note says it already where a rule ended early.
@@ -61,57 +65,61 @@ bool isInNote(NotJudged why) {
 }
 
 /// Why elements were not judged; with their numbers where there are several reasons.
-std::string reasonsText(const JudgedRule& judged) {
-    std::string text;
-    for (const auto& [why, count] : judged.unjudged) {
-        if (isInNote(why))
-            continue;
-        const std::string number = judged.unjudged.size() > 1 ? std::to_string(count) + " " : "";
-        text += (text.empty() ? "" : ", ") + number + reasonText(why);
-    }
-    return text;
+QString reasonsText(const JudgedRule& judged) {
+    QStringList reasons;
+    for (const auto& [why, count] : judged.unjudged)
+        if (!isInNote(why))
+            reasons << (judged.unjudged.size() > 1
+                            ? Words::tr("%1 %2", "count, why not judged").arg(placed(count), reasonText(why))
+                            : reasonText(why));
+    return reasons.join(Words::tr(", "));
 }
 
-std::string nothingJudgedText(const JudgedRule& judged) {
+QString nothingJudgedText(const JudgedRule& judged) {
     if (judged.found == 0)
-        return "nothing to judge";
-    const std::string reasons = reasonsText(judged);
-    return "nothing to judge: " + std::to_string(judged.found) + " found" +
-           (reasons.empty() ? "" : ", " + reasons);
+        return Words::tr("nothing to judge");
+    const QString reasons = reasonsText(judged);
+    return reasons.isEmpty()
+               ? Words::tr("nothing to judge: %1 found").arg(placed(judged.found))
+               : Words::tr("nothing to judge: %1 found, %2", "count, why").arg(placed(judged.found), reasons);
 }
 
-std::string judgedText(const JudgedRule& judged) {
-    const std::string text = std::to_string(judged.found) + " found, " + offendersText(judged) +
-                             (judged.neverMeasuredPairs > 0
-                                  ? ", " + std::to_string(judged.neverMeasuredPairs) + " pairs never measured"
-                                  : "");
+QString judgedText(const JudgedRule& judged) {
+    QStringList parts{
+        Words::tr("%1 found, %2", "count, outcome").arg(placed(judged.found), offendersText(judged))};
+    if (judged.neverMeasuredPairs > 0)
+        parts << Words::tr("%1 pairs never measured").arg(placed(judged.neverMeasuredPairs));
     std::size_t unjudged = 0;
     for (const auto& entry : judged.unjudged)
         unjudged += entry.second;
-    if (unjudged == 0)
-        return text;
-    const std::string reasons = reasonsText(judged);
-    return text + ", " + std::to_string(unjudged) + " not judged" + (reasons.empty() ? "" : ": " + reasons);
+    const QString reasons = reasonsText(judged);
+    if (unjudged > 0)
+        parts << (reasons.isEmpty()
+                      ? Words::tr("%1 not judged", "count").arg(placed(unjudged))
+                      : Words::tr("%1 not judged: %2", "count, why").arg(placed(unjudged), reasons));
+    return parts.join(Words::tr(", "));
 }
 
-std::string verdictText(const JudgedRule& judged) {
+QString verdictText(const JudgedRule& judged) {
     switch (judged.verdict) {
     case JudgedRule::Verdict::NoEvaluator:
-        return "no evaluator knows this rule";
+        return Words::tr("no evaluator knows this rule");
     case JudgedRule::Verdict::NothingToJudge:
         return nothingJudgedText(judged);
     case JudgedRule::Verdict::Judged:
         break;
     }
     if (judged.rule.type == QLatin1String("without"))
-        return judged.violations > 0 ? "looked for, missing" : "looked for, present";
+        return judged.violations > 0 ? Words::tr("looked for, missing") : Words::tr("looked for, present");
     return judgedText(judged);
 }
 
 } // namespace
 
 std::string judgementText(const JudgedRule& judged) {
-    return verdictText(judged) + (judged.note.empty() ? "" : " (" + judged.note + ")");
+    const QString verdict = verdictText(judged);
+    return judged.note.empty() ? filled(verdict)
+                               : filled(Words::tr("%1 (%2)", "outcome, note"), verdict, judged.note);
 }
 
 } // namespace firecheck

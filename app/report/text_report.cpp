@@ -1,9 +1,9 @@
-#include "explain/measure_text.h"
 #include "explain/sentence.h"
 #include "report/ReportWriter.h"
 #include "report/judgement_text.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -13,8 +13,17 @@ std::string shown(const QString& text) {
     return printable(text.toStdString());
 }
 
-std::string counted(std::size_t count, const std::string& noun) {
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+std::string objectsText(std::size_t count) {
+    return filled(count == 1 ? Words::tr("1 object") : Words::tr("%n objects", "", static_cast<int>(count)));
+}
+
+std::string violationsText(std::size_t count) {
+    return filled(count == 1 ? Words::tr("1 violation")
+                             : Words::tr("%n violations", "", static_cast<int>(count)));
+}
+
+std::string rulesText(std::size_t count) {
+    return filled(count == 1 ? Words::tr("1 rule") : Words::tr("%n rules", "", static_cast<int>(count)));
 }
 
 std::string coordinate(double metres) {
@@ -30,18 +39,32 @@ std::string placeText(const SiteReport& report, long long handle) {
     for (const std::string& part : {element->className, element->identifier})
         text += part.empty() ? "" : " " + printable(part);
     if (element->place)
-        text += " at (" + coordinate(element->place->x) + ", " + coordinate(element->place->y) + ") m";
+        text += " " + filled(Words::tr("at (%1, %2) m"), coordinate(element->place->x),
+                             coordinate(element->place->y));
     return text;
+}
+
+std::string othersText(const Finding& finding) {
+    const auto count = static_cast<int>(finding.relatedCount - finding.related.size());
+    return filled(count == 1 ? Words::tr("1 other") : Words::tr("%n others", "", count));
 }
 
 /// What the head tells beside the violations: ", 2 accepted, 1 element not judged".
 std::string otherCounts(const SiteReport& report) {
-    const std::size_t accepted = report.acceptedCount();
-    const std::size_t unjudged = report.unjudgedCount();
-    return (accepted > 0 ? ", " + std::to_string(accepted) + " accepted" : std::string()) +
-           (unjudged > 0 ? ", " + counted(unjudged, "element") + " not judged" : std::string()) +
-           (report.leftOutRules > 0 ? ", " + counted(report.leftOutRules, "rule") + " left out"
-                                    : std::string());
+    const auto accepted = report.acceptedCount();
+    const auto unjudged = static_cast<int>(report.unjudgedCount());
+    const auto leftOut = static_cast<int>(report.leftOutRules);
+    const QString comma = Words::tr(", ");
+    QString text;
+    if (accepted > 0)
+        text += comma + Words::tr("%1 accepted", "count").arg(accepted);
+    if (unjudged > 0)
+        text += comma + (unjudged == 1 ? Words::tr("1 element not judged")
+                                       : Words::tr("%n elements not judged", "", unjudged));
+    if (leftOut > 0)
+        text += comma +
+                (leftOut == 1 ? Words::tr("1 rule left out") : Words::tr("%n rules left out", "", leftOut));
+    return text.toStdString();
 }
 
 class TextReportWriter : public ReportWriter {
@@ -66,10 +89,11 @@ private:
     void writeHead(const SiteReport& report) const {
         const std::string title =
             printable(report.fileName) + (report.siteName.empty() ? "" : ": " + printable(report.siteName));
-        write(emphasised(title, "1") + "\n" + counted(report.objectCount, "object") + ", ");
-        write((report.counts.empty() ? emphasised("no violations", "32")
-                                     : emphasised(counted(report.violationCount(), "violation"), "31") +
-                                           " of " + counted(report.counts.size(), "rule")) +
+        write(emphasised(title, "1") + "\n" + objectsText(report.objectCount) + filled(Words::tr(", ")));
+        write((report.counts.empty() ? emphasised(filled(Words::tr("no violations")), "32")
+                                     : filled(Words::tr("%1 of %2", "violations, rules"),
+                                              emphasised(violationsText(report.violationCount()), "31"),
+                                              rulesText(report.counts.size()))) +
               otherCounts(report) + "\n");
         for (const RuleCount& count : report.counts) {
             const std::string number = std::to_string(count.violations);
@@ -102,7 +126,8 @@ private:
                       const NuxStandardCheckRule& record) const {
         write("  " + printable(finding.sentence) + "\n");
         if (finding.acceptedBecause)
-            write("    accepted: " + printable(*finding.acceptedBecause) + "\n");
+            write("    " + printable(filled(Words::tr("accepted: %1", "reason"), *finding.acceptedBecause)) +
+                  "\n");
         if (finding.outgrown)
             write("    " + printable(outgrownText(finding)) + "\n");
 
@@ -113,34 +138,34 @@ private:
         for (std::size_t i = 0; i < handles.size(); ++i)
             places += (i == 0 ? "" : ", ") + placeText(report, handles[i]);
         if (finding.related.size() < finding.relatedCount)
-            places += " and " + counted(finding.relatedCount - finding.related.size(), "other");
+            places = filled(Words::tr("%1 and %2", "end of a list"), places, othersText(finding));
         if (!places.empty())
             write("    " + places + "\n");
     }
 
     void writeStale(const SiteReport& report) const {
         if (!report.staleAcceptances.empty())
-            write("\nAccepted before, but no longer there\n");
+            write("\n" + filled(Words::tr("Accepted before, but no longer there")) + "\n");
         for (const std::string& entry : report.staleAcceptances)
             write("  " + printable(entry) + "\n");
     }
 
     void writeNotJudged(const SiteReport& report) const {
         if (!report.unjudged.empty() || !report.notJudged.empty())
-            write("\n" + emphasised("Not judged", "33") + "\n");
+            write("\n" + emphasised(filled(Words::tr("Not judged")), "33") + "\n");
         for (const firestandard::UnjudgedElement& element : report.unjudged)
             write("  " + printable(unjudgedText(report, element)) + "\n    " +
                   printable(unjudgedByText(element)) + "\n");
         for (const PassedOver& passedOver : report.notJudged)
             write("  " + printable(passedOver.what) + ": " + printable(passedOver.reason) + "\n");
         if (!report.judgedByNoRule.empty())
-            write("\nJudged by no rule\n");
+            write("\n" + filled(Words::tr("Judged by no rule")) + "\n");
         for (const ElementLabel& element : report.judgedByNoRule)
             write("  " + printable(firestandard::labelPhrase(element)) + "\n");
     }
 
     void writeJudged(const SiteReport& report) const {
-        write("\nWhat was judged\n");
+        write("\n" + filled(Words::tr("What was judged")) + "\n");
         for (const JudgedRule& judged : report.judged)
             write("  " + shown(judged.rule.name) + ": " + printable(judgementText(judged)) + "\n");
     }

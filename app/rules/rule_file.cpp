@@ -4,6 +4,8 @@
 #include "base/rooted_file_name.h"
 #include "rules_config/NUXRuleConfigFile.h"
 #include "rules_config/rule_file_bounds.h"
+#include "text/language.h"
+#include "text/words.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -13,7 +15,9 @@
 namespace firecheck {
 
 std::string defaultRuleFile() {
-    const QString fileName = "FireStandardCheck.xml";
+    const QString language = currentLanguage();
+    const QString fileName =
+        language == "en" ? QStringLiteral("FireStandardCheck.xml") : "FireStandardCheck." + language + ".xml";
     const QString installed =
         QCoreApplication::applicationDirPath() + "/../share/firestandardcheck/" + fileName;
     if (QFileInfo(installed).isFile())
@@ -25,16 +29,20 @@ QByteArray ruleFileContent(const std::string& fileName) {
     const QString name = QString::fromStdString(fileName);
     const QFileInfo info(name);
     if (info.exists() && !info.isFile())
-        throw InputError(fileName + ": expected a rule file, found " +
-                         (info.isDir() ? "a directory" : "something else that is no file"));
+        throw InputError(
+            fileName + ": " +
+            filled(info.isDir() ? Words::tr("expected a rule file, found a directory")
+                                : Words::tr("expected a rule file, found something else that is no file")));
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        throw InputError(fileName + ": cannot be read: " + file.errorString().toStdString());
+        throw InputError(fileName + ": " + filled(Words::tr("cannot be read: %1"), file.errorString()));
     QByteArray content;
     if (file.size() <= firestandard::kLargestRuleFile)
         content = file.read(file.size());
     if (file.size() > firestandard::kLargestRuleFile || !firestandard::isWithinBounds(content))
-        throw InputError(fileName + ": too large, too deeply nested or too many entities for a rule file");
+        throw InputError(
+            fileName + ": " +
+            filled(Words::tr("too large, too deeply nested or too many entities for a rule file")));
     return content;
 }
 
@@ -49,15 +57,15 @@ void requireWellFormed(const std::string& fileName) {
 
 void refuseIllFormed(const std::string& fileName, const QXmlStreamReader& reader) {
     throw InputError(fileName + ":" + std::to_string(reader.lineNumber()) + ":" +
-                     std::to_string(reader.columnNumber() + 1) +
-                     ": expected a well-formed XML document: " + reader.errorString().toStdString());
+                     std::to_string(reader.columnNumber() + 1) + ": " +
+                     filled(Words::tr("expected a well-formed XML document: %1"), reader.errorString()));
 }
 
 const RuleMap& useRules(const std::string& fileName) {
     mapRootedFileName("\\FireStandardCheck.xml", QString::fromStdString(fileName));
     const RuleMap& rules = NUXRuleConfigFile::Single()->getAllRuleMap();
     if (rules.isEmpty())
-        throw InputError(fileName + ": expected at least one rule");
+        throw InputError(fileName + ": " + filled(Words::tr("expected at least one rule")));
     return rules;
 }
 

@@ -12,8 +12,8 @@ namespace firecheck {
 
 using firestandard::RuleMap;
 
-/// The rule file in use where none is named: the one installed beside the executable or, in a source tree
-/// that was never installed, the one of that tree.
+/// The rule file in use where none is named, in the language in use: the one installed beside the executable
+/// or, in a source tree that was never installed, the one of that tree.
 std::string defaultRuleFile();
 
 /// The bytes of a rule file. Throws InputError for what is no file, cannot be read, or is out of the bounds

@@ -4,6 +4,7 @@
 #include "elements/NUXTotalStepDownSubstationObject.h"
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -18,7 +19,7 @@ SiteClass prefabHouse() {
                               {"alongSide", kStairAlongSide}};
     const Fields<Params> fields = {
         requiredField("use", &Params::houseUse, code<int>({{"office", 0}, {"dormitory", 1}}),
-                      "what the house is used for"),
+                      QT_TRANSLATE_NOOP("Words", "what the house is used for")),
         defaultedField("floors", &Params::floorCount, integer<int>(), 1, "number of floors"),
         defaultedField("stairs", &Params::stairPosition, code<StairPt, int>(stairs), "none",
                        "where the outside stairs are"),
@@ -44,7 +45,8 @@ SiteClass openShed() {
         {"general", 0}, {"hotWork", 1}, {"formwork", 2}, {"woodworking", 3}, {"mechanical", 4}};
     return footprintClass<NUXOpenHouseObject, Params>(
         "openShed", "NUX_ELEMENT_TYPE_OPENHOUSE", "an open shed, mostly a workshop",
-        {requiredField("use", &Params::use, code<int>(uses), "what the shed is used for")});
+        {requiredField("use", &Params::use, code<int>(uses),
+                       QT_TRANSLATE_NOOP("Words", "what the shed is used for"))});
 }
 
 SiteClass closedHouse() {
@@ -52,7 +54,7 @@ SiteClass closedHouse() {
     return footprintClass<NUXCloseHouseObject, Params>(
         "closedHouse", "NUX_ELEMENT_TYPE_CLOSEHOUSE", "a closed house: canteen, toilet, store and the like",
         {requiredField("use", &Params::use, text(),
-                       "what the house is used for, in the words of the rules")});
+                       QT_TRANSLATE_NOOP("Words", "what the house is used for, in the words of the rules"))});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "elements/NUXPosterObject.h"
 #include "elements/NUXTowerCraneObject.h"
 #include "site_file/site_classes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -11,11 +12,14 @@ SiteClass towerCrane() {
     using Params = NUXTowerCraneParams;
     return siteClass<NUXTowerCraneObject, Params>(
         "towerCrane", "NUX_EDO_TYPE_TOWERCRANE", "a tower crane: a mast and two jibs",
-        {requiredField("position", &Params::position, point(), "middle of the mast's foot"),
-         requiredField("jibHeight", &Params::jibHeight, extent(),
-                       "height of the jibs' underside above the foot; 0 for a crane without mast"),
+        {requiredField("position", &Params::position, point(),
+                       QT_TRANSLATE_NOOP("Words", "middle of the mast's foot")),
+         requiredField(
+             "jibHeight", &Params::jibHeight, extent(),
+             QT_TRANSLATE_NOOP("Words",
+                               "height of the jibs' underside above the foot; 0 for a crane without mast")),
          requiredField("frontJibLength", &Params::frontJibLength, extent(),
-                       "from the mast's axis; 0 for none"),
+                       QT_TRANSLATE_NOOP("Words", "from the mast's axis; 0 for none")),
          defaultedField("counterJibLength", &Params::counterJibLength, extent(), 0,
                         "from the mast's axis; 0 for none"),
          defaultedField("angle", &Params::angle, number(), 0, "direction of the front jib in degrees"),
@@ -30,9 +34,12 @@ SiteClass poster() {
     using Params = NUXPosterParams;
     return siteClass<NUXPosterObject, Params>(
         "poster", "NUX_ELEMENT_TYPE_POSTER", "a poster or banner between two points",
-        {requiredField("start", &Params::firstPoint, planPoint(), "one end in plan"),
-         requiredField("end", &Params::secondPoint, planPoint(), "the other end in plan"),
-         requiredField("height", &Params::height, extent(), "height of the poster"),
+        {requiredField("start", &Params::firstPoint, planPoint(),
+                       QT_TRANSLATE_NOOP("Words", "one end in plan")),
+         requiredField("end", &Params::secondPoint, planPoint(),
+                       QT_TRANSLATE_NOOP("Words", "the other end in plan")),
+         requiredField("height", &Params::height, extent(),
+                       QT_TRANSLATE_NOOP("Words", "height of the poster")),
          defaultedField("elevationMetres", &Params::elevation, number(), 0,
                         "height of its lower edge above the ground, in metres"),
          defaultedField("drawType", &Params::drawType, code<int>({{"plate", 1}, {"sheet", 2}}), "plate",
@@ -41,7 +48,8 @@ SiteClass poster() {
 
 Fields<NUX3dsBaseParams> placeFields() {
     using Params = NUX3dsBaseParams;
-    return {requiredField("position", &Params::position, point(), "middle of the footprint"),
+    return {requiredField("position", &Params::position, point(),
+                          QT_TRANSLATE_NOOP("Words", "middle of the footprint")),
             defaultedField("angle", &Params::angle, number(), 0, "angle in degrees, counter-clockwise")};
 }
 
@@ -51,8 +59,10 @@ SiteClass model() {
         "model", "", "a 3-D model of known size",
         extended(
             placeFields(),
-            Fields<Params>{requiredField("length", &Params::length, extent(), "along its own x axis"),
-                           requiredField("depth", &Params::depth, extent(), "along its own y axis"),
+            Fields<Params>{requiredField("length", &Params::length, extent(),
+                                         QT_TRANSLATE_NOOP("Words", "along its own x axis")),
+                           requiredField("depth", &Params::depth, extent(),
+                                         QT_TRANSLATE_NOOP("Words", "along its own y axis")),
                            defaultedField("height", &Params::height, extent(), 0, "height of the model")}));
 }
 

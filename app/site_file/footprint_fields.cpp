@@ -1,5 +1,7 @@
 #include "site_file/footprint_fields.h"
 
+#include "text/words.h"
+
 namespace firecheck {
 
 namespace {
@@ -15,8 +17,10 @@ void completeCircle(NUXBaseParams& params, const Json& circle) {
 Field<NUXBaseParams> circleField() {
     Field<NUXBaseParams> field = nestedField<NUXBaseParams>(
         "circle",
-        {requiredField("center", &NUXBaseParams::circleCentre, point(), "centre of the circle"),
-         requiredField("radius", &NUXBaseParams::circleRadius, extent(), "radius of the circle"),
+        {requiredField("center", &NUXBaseParams::circleCentre, point(),
+                       QT_TRANSLATE_NOOP("Words", "centre of the circle")),
+         requiredField("radius", &NUXBaseParams::circleRadius, extent(),
+                       QT_TRANSLATE_NOOP("Words", "radius of the circle")),
          optionalField("radiusPoint", &NUXBaseParams::circleRadiusPoint, point(),
                        "a point on the circle; to the right of the centre unless given")},
         "a footprint given as a circle");
@@ -77,10 +81,12 @@ void completeFootprint(NUXBaseParams& params, const Json& object, const JsonPlac
     const int given =
         int(hasRectangle(object)) + int(object.contains("circle")) + int(object.contains("polyline"));
     if (given == 0)
-        refuse(place, "expected a footprint: \"center\", \"length\" and \"depth\", or \"circle\", or "
-                      "\"polyline\"");
+        refuse(
+            place,
+            filled(Words::tr(
+                "expected a footprint: \"center\", \"length\" and \"depth\", or \"circle\", or \"polyline\"")));
     if (given > 1)
-        refuse(place, "expected \"shapeKind\" to say which of the footprints counts");
+        refuse(place, filled(Words::tr("expected \"shapeKind\" to say which of the footprints counts")));
     params.shapeKind = hasRectangle(object)        ? kRectangleShape
                        : object.contains("circle") ? kCircleShape
                                                    : kPolylineShape;

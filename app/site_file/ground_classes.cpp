@@ -4,6 +4,7 @@
 #include "elements/NUXYardObject.h"
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -22,7 +23,7 @@ SiteClass wastePool() {
     return footprintClass<NUXWastePoolObject, Params>(
         "wastePool", "NUX_EDO_TYPE_WASTEPOOL", "a pool for waste",
         {requiredField("use", &Params::use, code<int>({{"building", 0}, {"household", 1}}),
-                       "the waste it takes")});
+                       QT_TRANSLATE_NOOP("Words", "the waste it takes"))});
 }
 
 } // namespace

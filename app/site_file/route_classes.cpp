@@ -2,6 +2,7 @@
 #include "elements/NUXServiceCableObject.h"
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -20,7 +21,7 @@ Field<NUXRoadParams> outlineField() {
                     return;
                 }
                 if (!value.is_array())
-                    refuseType(value, place, "\"none\" or a list of points");
+                    refuseType(value, place, filled(Words::tr("\"none\" or a list of points")));
                 params.outline = NUXRoadOutline::Given;
                 params.givenOutline = points.read(value, place);
             }};
@@ -30,8 +31,9 @@ SiteClass road() {
     using Params = NUXRoadParams;
     Fields<Params> fields = {
         defaultedField("fireRoad", &Params::isFireRoad, flag(), false, "whether fire engines use it"),
-        requiredField("start", &Params::start, planPoint(), "start of the centre line"),
-        requiredField("end", &Params::end, planPoint(), "end of the centre line"),
+        requiredField("start", &Params::start, planPoint(),
+                      QT_TRANSLATE_NOOP("Words", "start of the centre line")),
+        requiredField("end", &Params::end, planPoint(), QT_TRANSLATE_NOOP("Words", "end of the centre line")),
         optionalField("through", &Params::reference, planPoint(),
                       "a point between, which makes the centre line an arc"),
         defaultedField("width", &Params::width, integer<int>(0), 4000, "width of the road"),
@@ -48,12 +50,12 @@ SiteClass road() {
 SiteClass serviceCable() {
     using Params = NUXServiceCableParams;
     Fields<Params> fields = {
-        requiredField("start", &Params::start, planPoint(), "start in plan"),
-        requiredField("end", &Params::end, planPoint(), "end in plan"),
+        requiredField("start", &Params::start, planPoint(), QT_TRANSLATE_NOOP("Words", "start in plan")),
+        requiredField("end", &Params::end, planPoint(), QT_TRANSLATE_NOOP("Words", "end in plan")),
         optionalField("through", &Params::middle, planPoint(),
                       "a point between, which makes the cable an arc"),
         requiredField("startElevationMetres", &Params::startElevation, number(),
-                      "height of the cable's axis at its start, in metres"),
+                      QT_TRANSLATE_NOOP("Words", "height of the cable's axis at its start, in metres")),
         optionalField("endElevationMetres", &Params::endElevation, number(),
                       "height of the cable's axis at its end, in metres; as at the start unless given"),
         defaultedField("radius", &Params::radius, extent(), 0, "radius of the cable"),

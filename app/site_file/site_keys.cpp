@@ -1,5 +1,7 @@
 #include "site_file/site_keys.h"
 
+#include "text/words.h"
+
 namespace firecheck {
 
 namespace {
@@ -14,11 +16,12 @@ Field<ObjectHead> handleField() {
     codec.read = [read = codec.read](const Json& value, const JsonPlace& place) {
         const long long handle = read(value, place);
         if (handle == 0)
-            refuse(place, "expected a handle other than 0");
+            refuse(place, filled(Words::tr("expected a handle other than 0")));
         return handle;
     };
-    return requiredField("handle", &ObjectHead::handle, std::move(codec),
-                         "the number by which reports name the object; each object has its own");
+    return requiredField(
+        "handle", &ObjectHead::handle, std::move(codec),
+        QT_TRANSLATE_NOOP("Words", "the number by which reports name the object; each object has its own"));
 }
 
 Field<ObjectHead> noteField() {
@@ -28,7 +31,8 @@ Field<ObjectHead> noteField() {
 }
 
 Field<ObjectHead> identifierField(const SiteClass& siteClass) {
-    const std::string doc = "element type identifier, or model kind identifier of a 3-D model";
+    const std::string doc =
+        QT_TRANSLATE_NOOP("Words", "element type identifier, or model kind identifier of a 3-D model");
     if (siteClass.identifierUse == SiteClass::Identifier::Required)
         return requiredField("identifier", &ObjectHead::identifier, text(), doc);
     return defaultedField("identifier", &ObjectHead::identifier, text(), siteClass.identifier, doc);

@@ -7,6 +7,7 @@
 #include "text/input_text.h"
 #include "text/nearest_name.h"
 #include "text/shortened.h"
+#include "text/words.h"
 
 #include <QString>
 
@@ -32,16 +33,18 @@ const SiteClass* classWithUse(const std::string& name) {
         if (allows(role, candidate))
             known.push_back(candidate.name);
     const auto near = nearestName(name, known);
-    const std::string what = role == ObjectRole::SecondView ? "class of 3-D models" : "class";
-    std::string reason = "unknown " + what + " \"" + shortened(name) + "\"";
-    if (const SiteClass* used = near ? nullptr : classWithUse(name))
-        reason += ", which is a use of \"" + used->name + "\"";
-    else if (!near) {
-        reason += "; the classes are ";
-        for (const std::string& candidate : known)
-            reason += (candidate == known.front() ? "" : ", ") + candidate;
-    }
-    refuse(place, reason, near.value_or(std::string()));
+    const std::string reason =
+        filled(role == ObjectRole::SecondView ? Words::tr("unknown class of 3-D models \"%1\"")
+                                              : Words::tr("unknown class \"%1\""),
+               shortened(name));
+    if (near)
+        refuse(place, reason, *near);
+    if (const SiteClass* used = classWithUse(name))
+        refuse(place, filled(Words::tr("%1, which is a use of \"%2\""), reason, used->name));
+    std::string all;
+    for (const std::string& candidate : known)
+        all += (all.empty() ? "" : ", ") + candidate;
+    refuse(place, filled(Words::tr("%1; the classes are %2"), reason, all));
 }
 
 /// What the reader knows about one class.
@@ -88,7 +91,7 @@ private:
             return;
         const JsonPlace list(top, kObjectsKey);
         if (!objects->is_array())
-            refuseType(*objects, list, "a list of objects");
+            refuseType(*objects, list, filled(Words::tr("a list of objects")));
         for (std::size_t i = 0; i < objects->size(); ++i) {
             const JsonPlace place(list, i);
             const std::size_t linksBefore = m_links.count();
@@ -149,18 +152,18 @@ private:
         const std::string handleKey = "handle";
         if (!m_handles.insert(handle).second)
             refuse(JsonPlace(place, handleKey),
-                   "expected a handle of its own, found " + std::to_string(handle) + " once more");
+                   filled(Words::tr("expected a handle of its own, found %1 once more"), handle));
     }
 
     static const ClassReader& readerFor(const Json& value, const JsonPlace& place, ObjectRole role) {
         if (!value.is_object())
-            refuseType(value, place, "an object");
+            refuseType(value, place, filled(Words::tr("an object")));
         const auto className = value.find(kClassKey);
         if (className == value.end())
-            refuse(place, "expected the key \"class\" (what the object is)");
+            refuse(place, filled(Words::tr("expected the key \"class\" (what the object is)")));
         const JsonPlace classPlace(place, kClassKey);
         if (!className->is_string())
-            refuseType(*className, classPlace, "the name of a class");
+            refuseType(*className, classPlace, filled(Words::tr("the name of a class")));
         return readerOfClass(className->get_ref<const std::string&>(), classPlace, role);
     }
 
@@ -189,7 +192,7 @@ SiteFile parseSiteFile(std::string text, const std::string& name) {
 }
 
 SiteFile loadSiteFile(const std::string& fileName) {
-    return parseSiteFile(inputText(fileName, "a site file"), fileName);
+    return parseSiteFile(inputText(fileName, filled(Words::tr("a site file"))), fileName);
 }
 
 Site parseSite(const std::string& text, const std::string& name) {

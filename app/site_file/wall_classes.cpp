@@ -2,6 +2,7 @@
 #include "elements/NUXWallObject.h"
 #include "site_file/footprint_fields.h"
 #include "site_file/site_classes.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -10,9 +11,10 @@ namespace {
 SiteClass door() {
     using Params = NUXDoorParams;
     // Hosts add these up as integers.
-    const Codec<int> partOfDoor = integer<int>(0, 100'000'000);
+    const Codec<int> partOfDoor = integer<int>(0, 100000000);
     Fields<Params> fields = {
-        requiredField("position", &Params::position, point(), "middle of the door"),
+        requiredField("position", &Params::position, point(),
+                      QT_TRANSLATE_NOOP("Words", "middle of the door")),
         defaultedField("angle", &Params::angle, number(), 0, "angle of the closed door in degrees"),
         defaultedField("leafWidth", &Params::plankWidth, partOfDoor, 1000, "width between the posts"),
         defaultedField("postWidth", &Params::postSectionWidth, partOfDoor, 100,
@@ -52,7 +54,8 @@ Field<WallDoor> keyField() {
 
 Fields<WallDoor> wallDoorFields() {
     const Fields<DoorData> data = {
-        requiredField("distance", &DoorData::distance, number(), "from the wall's start, along it"),
+        requiredField("distance", &DoorData::distance, number(),
+                      QT_TRANSLATE_NOOP("Words", "from the wall's start, along it")),
         defaultedField("flagged", &DoorData::flag, flag(), false,
                        "whether the entry stands for no door of the wall"),
         defaultedField("width", &DoorData::width, extent(), 0, "width of the opening"),
@@ -75,7 +78,7 @@ Field<WallParams> doorsField() {
     return {KeyShape{"doors", "the wall's doors", false, schema},
             [fields, shapes](WallParams& params, const Json& value, const JsonPlace& place) {
                 if (!value.is_array())
-                    refuseType(value, place, "a list of doors");
+                    refuseType(value, place, filled(Words::tr("a list of doors")));
                 for (std::size_t i = 0; i < value.size(); ++i) {
                     const JsonPlace entryPlace(place, i);
                     checkKeys(value[i], entryPlace, shapes);
@@ -88,8 +91,9 @@ Field<WallParams> doorsField() {
 
 Fields<WallParams> wallFields() {
     const Fields<NUXWallParams> axis = {
-        requiredField("start", &NUXWallParams::start, planPoint(), "start of the axis"),
-        requiredField("end", &NUXWallParams::end, planPoint(), "end of the axis"),
+        requiredField("start", &NUXWallParams::start, planPoint(),
+                      QT_TRANSLATE_NOOP("Words", "start of the axis")),
+        requiredField("end", &NUXWallParams::end, planPoint(), QT_TRANSLATE_NOOP("Words", "end of the axis")),
     };
     return extended<WallParams>(axis, {doorsField()});
 }
@@ -99,8 +103,9 @@ UdDbObjectId doorId(const WallDoor& entry, const ObjectLinks::ObjectsByHandle& o
         return {};
     const auto found = objects.find(*entry.handle);
     if (found == objects.end() || !NUXDoorObject::Cast(found->second))
-        throw RefusedJson(
-            {{entry.pointer, "expected the handle of a door, found " + std::to_string(*entry.handle), {}}});
+        throw RefusedJson({{entry.pointer,
+                            filled(Words::tr("expected the handle of a door, found %1"), *entry.handle),
+                            {}}});
     return UdDbObjectId(found->second);
 }
 
@@ -111,7 +116,9 @@ void linkDoors(NUXWallObject& wall, const std::vector<WallDoor>& entries,
         DoorData data = entry;
         data.doorId = doorId(entry, objects);
         if (!doors.emplace(entry.key.value_or(entry.distance), data).second)
-            throw RefusedJson({{entry.pointer, "expected a \"key\" that no other door of the wall has", {}}});
+            throw RefusedJson({{entry.pointer,
+                                filled(Words::tr("expected a \"key\" that no other door of the wall has")),
+                                {}}});
     }
     wall.setAssociationDoor(std::move(doors));
 }

@@ -1,6 +1,7 @@
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
+#include "text/words.h"
 
 #include <algorithm>
 #include <map>
@@ -40,8 +41,8 @@ void doubtCodes(const DoubtedSite& site, SiteDoubts& doubts) {
                              [code](const auto& known) { return known.second == code; }))
                 doubts.push_back({DoubtedSite::pointerTo(i, "/" + shape.key),
                                   "unknown-code",
-                                  "The code " + std::to_string(code) + " has no meaning here; known are " +
-                                      knownCodes(shape.names) + ".",
+                                  filled(Words::tr("The code %1 has no meaning here; known are %2."), code,
+                                         knownCodes(shape.names)),
                                   {}});
         }
     }

@@ -1,5 +1,6 @@
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
+#include "text/words.h"
 
 #include <QByteArray>
 
@@ -53,7 +54,7 @@ private:
             m_doubts.push_back(
                 {pointer + "/distance",
                  "door-off-wall",
-                 "The door is " + metres(distance) + " along a wall of " + metres(length) + ".",
+                 filled(Words::tr("The door is %1 along a wall of %2."), metres(distance), metres(length)),
                  {}});
             return;
         }
@@ -69,11 +70,11 @@ private:
         const double tolerance = std::max(kDoorTolerance, object.value("leafWidth", 1000.0) * 0.5) +
                                  std::abs(entry.value("offset", 0.0));
         if (apart > tolerance)
-            m_doubts.push_back(
-                {pointer + "/distance",
-                 "door-off-wall",
-                 DoubtedSite::mention(object) + " stands " + metres(apart) + " from where this wall says.",
-                 {}});
+            m_doubts.push_back({pointer + "/distance",
+                                "door-off-wall",
+                                filled(Words::tr("%1 stands %2 from where this wall says."),
+                                       DoubtedSite::mention(object), metres(apart)),
+                                {}});
     }
 
     const DoubtedSite& m_site;

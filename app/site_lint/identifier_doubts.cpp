@@ -3,6 +3,7 @@
 #include "site_lint/SiteDoubts.h"
 #include "text/nearest_name.h"
 #include "text/shortened.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -22,7 +23,8 @@ void doubt(const Json& object, const std::string& pointer, SiteDoubts& doubts) {
     if (near.empty() && !looksKnown)
         return; // a kind of the drawing's own, as models have
     doubts.push_back({pointer + "/identifier", "unknown-identifier",
-                      "No rule knows the identifier \"" + shortened(identifier) + "\".", near});
+                      filled(Words::tr("No rule knows the identifier \"%1\"."), shortened(identifier)),
+                      near});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "explain/unjudged_reason.h"
 #include "site_lint/SiteDoubts.h"
+#include "text/words.h"
 
 namespace firecheck {
 
@@ -11,7 +12,7 @@ void doubtOutlines(const DoubtedSite& site, SiteDoubts& doubts) {
         if (!flaw.empty())
             doubts.push_back({DoubtedSite::pointerTo(i, "/polyline"),
                               "bad-outline",
-                              "No rule can measure the object: " + flaw + ".",
+                              filled(Words::tr("No rule can measure the object: %1."), flaw),
                               {}});
     }
 }

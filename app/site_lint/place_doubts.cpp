@@ -1,6 +1,7 @@
 #include "report/plan/plan_shapes.h"
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
+#include "text/words.h"
 
 #include <QByteArray>
 
@@ -16,7 +17,7 @@ using Point = hrx::CVec2<double>;
 /// Elements may stand this deep in each other before it is doubted: walls shared, outlines drawn by hand.
 constexpr double kOverlapTolerance = 100.0;
 /// No site reaches this far from its middle.
-constexpr double kFarthest = 5'000'000.0;
+constexpr double kFarthest = 5000e3;
 
 /// An outline in plan, arcs as chords.
 struct Outline {
@@ -141,10 +142,11 @@ public:
         for (const auto& [index, place] : m_middles) {
             const double apart = std::hypot(place.x - middle.x, place.y - middle.y);
             if (apart > kFarthest)
-                m_doubts.push_back({DoubtedSite::pointerTo(index),
-                                    "remote",
-                                    "The object stands " + metres(apart) + " from the middle of the site.",
-                                    {}});
+                m_doubts.push_back(
+                    {DoubtedSite::pointerTo(index),
+                     "remote",
+                     filled(Words::tr("The object stands %1 from the middle of the site."), metres(apart)),
+                     {}});
         }
     }
 
@@ -172,11 +174,11 @@ private:
     }
 
     void addOverlap(std::size_t a, std::size_t b) {
-        m_doubts.push_back(
-            {DoubtedSite::pointerTo(std::max(a, b)),
-             "overlap",
-             "The object stands in " + DoubtedSite::mention(m_site.objects()[std::min(a, b)]) + ".",
-             {}});
+        m_doubts.push_back({DoubtedSite::pointerTo(std::max(a, b)),
+                            "overlap",
+                            filled(Words::tr("The object stands in %1."),
+                                   DoubtedSite::mention(m_site.objects()[std::min(a, b)])),
+                            {}});
     }
 
     double median(double Point::*coordinate) const {

@@ -1,16 +1,13 @@
 #include "site_lint/site_lint_report.h"
 
 #include "text/printable.h"
+#include "text/words.h"
 
 #include <algorithm>
 
 namespace firecheck {
 
 namespace {
-
-std::string counted(std::size_t count, const std::string& noun) {
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
 
 std::size_t countOf(const SiteFindings& findings, SiteFinding::Kind kind) {
     return std::size_t(std::count_if(findings.findings.begin(), findings.findings.end(),
@@ -21,23 +18,35 @@ const char* nameOf(SiteFinding::Kind kind) {
     return kind == SiteFinding::Kind::Error ? "error" : "doubt";
 }
 
+/// '#12 "Dormitory 3", /objects/3/use'.
+std::string placeOf(const SiteFinding& finding) {
+    const std::string object = finding.object.text();
+    const std::string pointer = finding.pointer.empty() ? filled(Words::tr("top level")) : finding.pointer;
+    return object.empty() ? pointer
+                          : filled(Words::tr("%1, %2", "object, place in the file"), object, pointer);
+}
+
+std::string messageOf(const SiteFinding& finding) {
+    if (finding.suggestion.empty())
+        return finding.message;
+    const bool isSentence = finding.kind == SiteFinding::Kind::Doubt;
+    return filled(isSentence ? Words::tr("%1 Did you mean \"%2\"?") : Words::tr("%1; did you mean \"%2\"?"),
+                  finding.message, finding.suggestion);
+}
+
 std::string lineOf(const SiteFinding& finding) {
-    std::string line = std::string(nameOf(finding.kind)) + ": ";
-    if (!finding.object.text().empty())
-        line += finding.object.text() + ", ";
-    line += (finding.pointer.empty() ? "top level" : finding.pointer) + ": " + finding.message;
-    if (!finding.suggestion.empty())
-        line += std::string(finding.message.back() == '.' ? " D" : "; d") + "id you mean \"" +
-                finding.suggestion + "\"?";
-    return line + " [" + finding.code + "]";
+    const QString line = finding.kind == SiteFinding::Kind::Error
+                             ? Words::tr("error: %1: %2 [%3]", "place, message, code")
+                             : Words::tr("doubt: %1: %2 [%3]", "place, message, code");
+    return filled(line, placeOf(finding), messageOf(finding), finding.code);
 }
 
 std::string summary(const SiteFindings& findings) {
-    const std::size_t errors = countOf(findings, SiteFinding::Kind::Error);
+    const auto errors = static_cast<int>(countOf(findings, SiteFinding::Kind::Error));
     const std::size_t doubts = countOf(findings, SiteFinding::Kind::Doubt);
     if (errors > 0)
-        return counted(errors, "error");
-    return doubts > 0 ? countedDoubts(doubts) : "clean";
+        return filled(errors == 1 ? Words::tr("1 error") : Words::tr("%n errors", "", errors));
+    return doubts > 0 ? countedDoubts(doubts) : filled(Words::tr("clean"));
 }
 
 } // namespace
@@ -75,7 +84,7 @@ Json siteLintJson(const SiteFindings& findings) {
 }
 
 std::string countedDoubts(std::size_t count) {
-    return counted(count, "doubt");
+    return filled(count == 1 ? Words::tr("1 doubt") : Words::tr("%n doubts", "", static_cast<int>(count)));
 }
 
 } // namespace firecheck

@@ -1,5 +1,6 @@
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
+#include "text/words.h"
 
 #include <QByteArray>
 
@@ -26,34 +27,34 @@ struct PlausibleSize {
 
 const std::vector<PlausibleSize>& plausibleSizes() {
     static const std::vector<PlausibleSize> table = {
-        {{"model", "extinguisherBox", "building"}, "/length", 50, 500'000, "mm"},
-        {{"model", "extinguisherBox", "building"}, "/depth", 50, 500'000, "mm"},
-        {{"model", "extinguisherBox"}, "/height", 50, 100'000, "mm", true},
-        {{}, "/length", 500, 1'000'000, "mm"},
-        {{}, "/depth", 500, 1'000'000, "mm"},
-        {{}, "/circle/radius", 250, 500'000, "mm"},
-        {{}, "/elevation", -100'000, 500'000, "mm"},
-        {{}, "/floors", 1, 20, "floors"},
-        {{}, "/floorDepth", 500, 100'000, "mm"},
-        {{"road"}, "/width", 1'000, 50'000, "mm"},
-        {{"serviceCable"}, "/radius", 1, 1'000, "mm", true},
+        {{"model", "extinguisherBox", "building"}, "/length", 50, 500e3, "mm"},
+        {{"model", "extinguisherBox", "building"}, "/depth", 50, 500e3, "mm"},
+        {{"model", "extinguisherBox"}, "/height", 50, 100e3, "mm", true},
+        {{}, "/length", 500, 1000e3, "mm"},
+        {{}, "/depth", 500, 1000e3, "mm"},
+        {{}, "/circle/radius", 250, 500e3, "mm"},
+        {{}, "/elevation", -100e3, 500e3, "mm"},
+        {{}, "/floors", 1, 20, QT_TRANSLATE_NOOP("Words", "floors")},
+        {{}, "/floorDepth", 500, 100e3, "mm"},
+        {{"road"}, "/width", 1e3, 50e3, "mm"},
+        {{"serviceCable"}, "/radius", 1, 1e3, "mm", true},
         {{}, "/startElevationMetres", -50, 200, "m"},
         {{}, "/endElevationMetres", -50, 200, "m"},
         {{}, "/elevationMetres", -50, 200, "m"},
-        {{"poster"}, "/height", 100, 50'000, "mm"},
-        {{}, "/jibHeight", 2'000, 500'000, "mm", true},
-        {{}, "/frontJibLength", 2'000, 150'000, "mm", true},
-        {{}, "/counterJibLength", 1'000, 100'000, "mm", true},
-        {{}, "/mastWidth", 500, 10'000, "mm", true},
-        {{}, "/jibWidth", 300, 10'000, "mm", true},
-        {{}, "/jibDepth", 300, 10'000, "mm", true},
-        {{}, "/leafWidth", 300, 30'000, "mm"},
-        {{}, "/postWidth", 10, 2'000, "mm", true},
-        {{}, "/postDepth", 10, 2'000, "mm", true},
-        {{}, "/angle", -360, 360, "degrees"},
-        {{}, "/jibInclination", -90, 90, "degrees"},
-        {{}, "/position/2", -100'000, 500'000, "mm"},
-        {{}, "/center/2", -100'000, 500'000, "mm"},
+        {{"poster"}, "/height", 100, 50e3, "mm"},
+        {{}, "/jibHeight", 2e3, 500e3, "mm", true},
+        {{}, "/frontJibLength", 2e3, 150e3, "mm", true},
+        {{}, "/counterJibLength", 1e3, 100e3, "mm", true},
+        {{}, "/mastWidth", 500, 10e3, "mm", true},
+        {{}, "/jibWidth", 300, 10e3, "mm", true},
+        {{}, "/jibDepth", 300, 10e3, "mm", true},
+        {{}, "/leafWidth", 300, 30e3, "mm"},
+        {{}, "/postWidth", 10, 2e3, "mm", true},
+        {{}, "/postDepth", 10, 2e3, "mm", true},
+        {{}, "/angle", -360, 360, QT_TRANSLATE_NOOP("Words", "degrees")},
+        {{}, "/jibInclination", -90, 90, QT_TRANSLATE_NOOP("Words", "degrees")},
+        {{}, "/position/2", -100e3, 500e3, "mm"},
+        {{}, "/center/2", -100e3, 500e3, "mm"},
     };
     return table;
 }
@@ -65,10 +66,13 @@ std::string shown(double value) {
 void doubt(double value, const PlausibleSize& size, const std::string& pointer, SiteDoubts& doubts) {
     if ((value >= size.low && value <= size.high) || (value == 0.0 && size.mayBeZero))
         return;
-    std::string message =
-        shown(value) + " " + size.unit + " is " +
-        (value < size.low ? "less than " + shown(size.low) : "more than " + shown(size.high)) + " " +
-        size.unit + ", which no such element has.";
+    const std::string unit = filled(Words::tr(size.unit));
+    const std::string message =
+        value < size.low
+            ? filled(Words::tr("%1 %3 is less than %2 %3, which no such element has.", "value, bound, unit"),
+                     shown(value), shown(size.low), unit)
+            : filled(Words::tr("%1 %3 is more than %2 %3, which no such element has.", "value, bound, unit"),
+                     shown(value), shown(size.high), unit);
     std::string suggestion;
     const bool isLength = std::string_view(size.unit) == "mm" || std::string_view(size.unit) == "m";
     for (const double factor : {1000.0, 0.001}) {
@@ -111,7 +115,7 @@ void doubtPolyline(const Json& points, const std::string& pointer, SiteDoubts& d
             high[axis] = std::max(high[axis], point[axis].get<double>());
         }
     const double extent = std::max(high[0] - low[0], high[1] - low[1]);
-    doubt(extent, {{}, "", 500, 2'000'000, "mm"}, pointer, doubts);
+    doubt(extent, {{}, "", 500, 2000e3, "mm"}, pointer, doubts);
 }
 
 /// Partitions of a house lie in their order between its ends, rooms apart.
@@ -126,17 +130,18 @@ void doubtPartitions(const Json& object, std::size_t index, SiteDoubts& doubts) 
         const double position = entry.is_number() ? entry.get<double>() : entry[0].get<double>();
         const std::string pointer = DoubtedSite::pointerTo(index, "/partitions/" + std::to_string(i));
         if (position < -1.0 || position > length + 1.0)
+            doubts.push_back({pointer,
+                              "doubtful-size",
+                              filled(Words::tr("%1 mm is outside the house, which is %2 mm long."),
+                                     shown(position), shown(length)),
+                              {}});
+        else if (i > 0 && position < previous + 500.0)
             doubts.push_back(
                 {pointer,
                  "doubtful-size",
-                 shown(position) + " mm is outside the house, which is " + shown(length) + " mm long.",
+                 filled(Words::tr("The wall at %1 mm stands less than 500 mm behind the one at %2 mm."),
+                        shown(position), shown(previous)),
                  {}});
-        else if (i > 0 && position < previous + 500.0)
-            doubts.push_back({pointer,
-                              "doubtful-size",
-                              "The wall at " + shown(position) +
-                                  " mm stands less than 500 mm behind the one at " + shown(previous) + " mm.",
-                              {}});
         previous = position;
     }
 }
@@ -149,7 +154,7 @@ void doubtLine(const Json& object, std::size_t index, SiteDoubts& doubts) {
     const Json& end = object.at("end");
     const double length = std::hypot(end[0].get<double>() - start[0].get<double>(),
                                      end[1].get<double>() - start[1].get<double>());
-    doubt(length, {{}, "", 200, 10'000'000, "mm"}, DoubtedSite::pointerTo(index, "/end"), doubts);
+    doubt(length, {{}, "", 200, 10000e3, "mm"}, DoubtedSite::pointerTo(index, "/end"), doubts);
 }
 
 void doubtExtents(const Json& object, std::size_t index, SiteDoubts& doubts) {
@@ -160,7 +165,7 @@ void doubtExtents(const Json& object, std::size_t index, SiteDoubts& doubts) {
         if (extents->at("low")[axis].get<double>() > extents->at("high")[axis].get<double>()) {
             doubts.push_back({DoubtedSite::pointerTo(index, "/extents"),
                               "doubtful-size",
-                              "The low corner lies above the high one.",
+                              filled(Words::tr("The low corner lies above the high one.")),
                               {}});
             return;
         }

@@ -3,6 +3,7 @@
 #include "site_lint/SiteDoubts.h"
 #include "text/nearest_name.h"
 #include "text/shortened.h"
+#include "text/words.h"
 
 #include <QString>
 
@@ -88,10 +89,13 @@ void doubtUses(const DoubtedSite& site, const RuleMap& rules, SiteDoubts& doubts
         const std::string meant = meantUse(use, missing);
         if (asked.count(use) > 0 || (meant.empty() && !isLatin(use)))
             continue; // houses have many uses of no concern to the rules
-        doubts.push_back({DoubtedSite::pointerTo(i, "/use"), "unknown-use",
-                          "No rule looks for the use \"" + shortened(use) + "\", and no house has one of " +
-                              joined(missing) + ", which rules look for.",
-                          meant});
+        doubts.push_back(
+            {DoubtedSite::pointerTo(i, "/use"), "unknown-use",
+             filled(
+                 Words::tr(
+                     "No rule looks for the use \"%1\", and no house has one of %2, which rules look for."),
+                 shortened(use), joined(missing)),
+             meant});
     }
 }
 

@@ -1,6 +1,7 @@
 #include "text/input_text.h"
 
 #include "InputError.h"
+#include "text/words.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,7 +21,7 @@ constexpr qint64 kPart = 1024 * 1024; // room for as much is taken at a time, wh
 constexpr int kPatience = 3000;       // ms in which a named pipe has to find its writer
 
 [[noreturn]] void failToRead(const std::string& fileName, const QString& reason) {
-    throw InputError(fileName + ": cannot be read: " + reason.toStdString());
+    throw InputError(fileName + ": " + filled(Words::tr("cannot be read: %1"), reason));
 }
 
 /// Opens the file without the wait for a writer that a named pipe asks for, which might be endless. Reading
@@ -45,9 +46,11 @@ bool isPipe(int handle) {
 } // namespace
 
 std::string inputText(const std::string& fileName, const std::string& what) {
-    const std::string refusal = fileName + ": expected " + what + ", found ";
+    const auto refusal = [&](const QString& found) {
+        return InputError(fileName + ": " + filled(Words::tr("expected %1, found %2"), what, found));
+    };
     if (fileName != "-" && QFileInfo(QString::fromStdString(fileName)).isDir())
-        throw InputError(refusal + "a directory");
+        throw refusal(Words::tr("a directory"));
     QFile file;
     if (fileName == "-")
         file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered);
@@ -59,13 +62,13 @@ std::string inputText(const std::string& fileName, const std::string& what) {
         part = file.read(kPart);
         text.append(part.constData(), static_cast<std::size_t>(part.size()));
         if (text.size() > kLargestInput)
-            throw InputError(refusal + "more than 256 MiB");
+            throw refusal(Words::tr("more than 256 MiB"));
         // A shorter part of a file is the last: who types would have to end the input twice.
     } while (fileName == "-" ? !part.isEmpty() : part.size() == kPart);
     if (file.error() != QFileDevice::NoError)
         failToRead(fileName, file.errorString());
     if (text.empty() && isPipe(file.handle()))
-        throw InputError(refusal + "a pipe that nothing was written to");
+        throw refusal(Words::tr("a pipe that nothing was written to"));
     return text;
 }
 
