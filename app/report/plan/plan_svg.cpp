@@ -54,8 +54,8 @@ public:
         return "<svg" + attributes + " viewBox=\"0 0 " + drawnNumber(m_frame.width()) + " " +
                drawnNumber(m_frame.height()) + "\" font-size=\"" +
                drawnNumber(labelHeight(m_frame.width(), kLevelOnScreen)) + "\" role=\"group\" aria-label=\"" +
-               Words::tr("Plan of %1").arg(name) + "\">\n" + head + elements() + measures() + labels() +
-               scaleBar() + north() + "</svg>\n";
+               Words::tr("Plan of %1").arg(name) + "\">\n" + head + "<g class=\"ground\">\n" + elements() +
+               measures() + "</g>\n" + labels() + scaleBar() + north() + "</svg>\n";
     }
 
     std::vector<PlanPin> takePins() { return std::move(m_pins); }
@@ -203,12 +203,16 @@ private:
                                 "\" height=\"" + inLabelHeights(kPinHeight) + "\" rx=\"" +
                                 inLabelHeights(0.5 * kPinHeight) + "\"/><text x=\"" +
                                 inLabelHeights(left + 0.5 * width) + "\">" + text + "</text>";
-        const QString place = " transform=\"translate(" + drawnPair(pin.spot) + ")\"";
+        const QString place = placed(pin.spot);
         if (!m_hasList)
             return "<g" + attributes + place + ">" + content + "</g>\n";
         return "<a" + attributes + place + " href=\"#" +
                m_ids.finding(m_merged[pin.findings.front()].numbers.front()) + "\" aria-label=\"" + name +
                "\">" + content + "</a>\n";
+    }
+
+    static QString placed(const DrawnPoint& point) {
+        return " transform=\"translate(" + drawnPair(point) + ")\"";
     }
 
     static QString inLabelHeights(double length) {
@@ -262,13 +266,17 @@ private:
         const double drop = labelDrop(label.place);
         QString attributes = label.attributes;
         if (label.place == PlanLabel::Place::Right)
-            attributes.insert(attributes.indexOf('"') + 1, "right ");
+            attributes = beside(attributes, "right", 0.3);
         if (label.place == PlanLabel::Place::Left)
-            attributes.insert(attributes.indexOf('"') + 1, "left ");
+            attributes = beside(attributes, "left", -0.3);
         if (drop != 0.0)
             attributes += " dy=\"" + inLabelHeights(drop) + "\"";
-        return "<text" + attributes + " x=\"" + drawnNumber(anchor.x) + "\" y=\"" + drawnNumber(anchor.y) +
-               "\">" + escaped(label.text) + "</text>\n";
+        return "<text" + attributes + placed(anchor) + ">" + escaped(label.text) + "</text>\n";
+    }
+
+    static QString beside(QString attributes, const QString& side, double shift) {
+        attributes.insert(attributes.indexOf('"') + 1, side + " ");
+        return attributes + " dx=\"" + inLabelHeights(shift) + "\"";
     }
 
     /// A round length of about a fifth of the plan.
@@ -280,7 +288,7 @@ private:
         const double tick = m_frame.margin() / 3.0;
         const double x = m_frame.margin();
         return "<g class=\"scale\"><path d=\"M" + drawnPair({x, y - tick}) + "V" + drawnNumber(y) + "H" +
-               drawnNumber(x + length) + "V" + drawnNumber(y - tick) + "\"/><text class=\"right\" x=\"" +
+               drawnNumber(x + length) + "V" + drawnNumber(y - tick) + "\"/><text class=\"right\" dx=\".3em\" x=\"" +
                drawnNumber(x + length) + "\" y=\"" + drawnNumber(y) + "\">" +
                Words::tr("%1 m").arg(QString::number(length)) + "</text></g>\n";
     }
@@ -292,7 +300,7 @@ private:
         const double y = m_frame.height() - m_frame.margin() - 0.5 * half;
         return "<g class=\"north\"><path d=\"M" + drawnPair({x, y - half}) + "L" +
                drawnPair({x + 0.5 * half, y + half}) + "L" + drawnPair({x, y + 0.6 * half}) + "L" +
-               drawnPair({x - 0.5 * half, y + half}) + "Z\"/><text class=\"left\" x=\"" +
+               drawnPair({x - 0.5 * half, y + half}) + "Z\"/><text class=\"left\" dx=\"-.3em\" x=\"" +
                drawnNumber(x - 0.5 * half) + "\" y=\"" + drawnNumber(y) + "\">" +
                Words::tr("N", "north, by the arrow of a plan") + "</text></g>\n";
     }

@@ -6,36 +6,54 @@ const LEAST_FITTED = 8; // metres
 class Plan {
   constructor(drawing) {
     this.svg = drawing.querySelector("svg");
+    this.ground = this.svg.querySelector(".ground");
     this.bar = drawing.querySelector(".bar");
     this.length = drawing.querySelector(".length");
     const { x, y, width, height } = this.svg.viewBox.baseVal;
     this.whole = { x, y, width, height };
     this.seen = { ...this.whole };
     this.labels = new PlanLabels(this.svg);
+    this.svg.removeAttribute("viewBox");
     this.pointers = new Map();
     this.listen();
     new ResizeObserver(() => this.show(this.seen)).observe(this.svg);
   }
 
-  pixelsPerMetre(box = this.seen) {
-    return Math.min(this.svg.clientWidth / box.width, this.svg.clientHeight / box.height) || 1;
+  pixelsPerMetre() {
+    return Math.min(this.svg.clientWidth / this.seen.width, this.svg.clientHeight / this.seen.height) || 1;
   }
 
+  /** Only the ground's transform changes: another view box would have every element laid out again. */
   show(box) {
     this.seen = box;
     const scale = this.pixelsPerMetre();
-    this.svg.setAttribute("viewBox", `${box.x} ${box.y} ${box.width} ${box.height}`);
-    this.labels.show(this.visible(scale), scale);
+    const visible = this.visible();
+    this.ground.setAttribute("transform", `matrix(${scale} 0 0 ${scale} ${-visible.x * scale} ${-visible.y * scale})`);
+    this.labels.show(visible, scale);
     this.showScale(scale);
     this.svg.dispatchEvent(new Event("planmove"));
   }
 
   /** What is really seen: the box lies in the middle of a window of another shape. */
-  visible(scale) {
+  visible() {
+    const scale = this.pixelsPerMetre();
     const width = this.svg.clientWidth / scale;
     const height = this.svg.clientHeight / scale;
     const { seen } = this;
     return { x: seen.x + (seen.width - width) / 2, y: seen.y + (seen.height - height) / 2, width, height };
+  }
+
+  /** The whole plan in metres, for paper of any size. */
+  beginPrint() {
+    const { x, y, width, height } = this.whole;
+    this.svg.setAttribute("viewBox", `${x} ${y} ${width} ${height}`);
+    this.ground.removeAttribute("transform");
+    this.labels.restore();
+  }
+
+  endPrint() {
+    this.svg.removeAttribute("viewBox");
+    this.show(this.seen);
   }
 
   /** A round length of at most 120 pixels. */
@@ -58,7 +76,10 @@ class Plan {
     const by = width / newWidth;
     let at = { x: x + width / 2, y: y + height / 2 };
     if (clientX !== undefined) {
-      at = new DOMPoint(clientX, clientY).matrixTransform(this.svg.getScreenCTM().inverse());
+      const rim = this.svg.getBoundingClientRect();
+      const scale = this.pixelsPerMetre();
+      const visible = this.visible();
+      at = { x: visible.x + (clientX - rim.left) / scale, y: visible.y + (clientY - rim.top) / scale };
     }
     this.show({ x: at.x - (at.x - x) / by, y: at.y - (at.y - y) / by, width: width / by, height: height / by });
   }

@@ -1,4 +1,4 @@
-/** The texts and pins of a plan: how large they are, and which are shown at a magnification and in a view. */
+/** The texts and pins of a plan: which are shown at a magnification, and where they stand in a view. */
 class PlanLabels {
   constructor(svg) {
     const { labelPixels, narrowest, levels } = svg.dataset;
@@ -14,27 +14,37 @@ class PlanLabels {
   }
 
   static itemOf(node) {
-    const place = node.getAttribute("transform")?.match(/-?[\d.]+/g) ?? [node.getAttribute("x"), node.getAttribute("y")];
-    return { node, x: Number(place[0]), y: Number(place[1]), isOff: false };
+    const [x, y] = node.getAttribute("transform").match(/-?[\d.]+/g).map(Number);
+    return { node, x, y, isOff: false };
   }
 
-  /** What lies out of sight is taken out, because browsers lay out every text again at every zoom. */
+  /** `box` is what is seen. Texts only move, and those out of sight are taken out: to lay texts out is slow. */
   show(box, pixelsPerMetre) {
     const level = Math.floor(Math.log2((this.wholeWidth * pixelsPerMetre) / this.narrowest));
     const shownLevel = Math.max(0, Math.min(this.lastLevel, level));
-    const size = Math.min(this.pixels / pixelsPerMetre, (this.wholeWidth * this.pixels) / this.narrowest);
-    const margin = 16 * size;
+    const size = Math.min(this.pixels, (this.wholeWidth * pixelsPerMetre * this.pixels) / this.narrowest);
+    const margin = (16 * size) / pixelsPerMetre;
     this.root.style.fontSize = `${size}px`;
     for (const { group, first, last, items } of this.groups) {
       const isOn = first <= shownLevel && shownLevel <= last;
       group.classList.toggle("on", isOn);
-      if (!isOn) continue;
-      for (const item of items) {
+      for (const item of isOn ? items : []) {
         const isOff = item.x < box.x - margin || item.x > box.x + box.width + margin
           || item.y < box.y - margin || item.y > box.y + box.height + margin;
         if (isOff !== item.isOff) item.node.classList.toggle("off", isOff);
         item.isOff = isOff;
+        if (!isOff) PlanLabels.put(item, (item.x - box.x) * pixelsPerMetre, (item.y - box.y) * pixelsPerMetre);
       }
     }
+  }
+
+  /** As they stand in the markup, in metres. */
+  restore() {
+    this.root.style.fontSize = "";
+    for (const { items } of this.groups) for (const item of items) PlanLabels.put(item, item.x, item.y);
+  }
+
+  static put({ node }, x, y) {
+    node.setAttribute("transform", `translate(${x} ${y})`);
   }
 }

@@ -39,10 +39,11 @@ let closed = [];
 window.addEventListener("beforeprint", () => {
   closed = foldable.filter((details) => !details.open);
   for (const details of closed) details.open = true;
-  for (const site of sites) site.plan?.showAll();
+  for (const site of sites) site.plan?.beginPrint();
 });
 window.addEventListener("afterprint", () => {
   for (const details of closed) details.open = false;
+  for (const site of sites) site.plan?.endPrint();
 });
 
 followLink();
