@@ -2,8 +2,6 @@
 
 #include "report/SiteReport.h"
 
-#include <QString>
-
 #include <functional>
 #include <memory>
 #include <string>
@@ -44,8 +42,6 @@ std::unique_ptr<ReportWriter> textReportWriter(ReportWriter::Sink sink, bool col
 std::unique_ptr<ReportWriter> csvReportWriter(ReportWriter::Sink sink);
 
 /// One page for a browser, complete in itself: the plan of each site, and its violations linked with it.
-/// `language` is that of the sentences, as a BCP 47 tag: "en", "zh-CN".
-std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink,
-                                               const QString& language = QStringLiteral("en"));
+std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink);
 
 } // namespace firecheck

@@ -1,4 +1,5 @@
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
 #include "report/judgement_text.h"
 #include "rules/rule_texts.h"
 
@@ -127,6 +128,22 @@ Json judgedJson(const SiteReport& report) {
     return judged;
 }
 
+Json clausesJson(const SiteReport& report) {
+    Json clauses = Json::array();
+    for (const ClauseOutcome& clause : clauseTable(report)) {
+        Json rules = Json::array();
+        for (const JudgedRule* judged : clause.rules)
+            rules.push_back(judged->rule.name.toStdString());
+        clauses.push_back({{"standard", clause.standard.toStdString()},
+                           {"rules", std::move(rules)},
+                           {"judgedRules", clause.judgedRules},
+                           {"offending", clause.offending},
+                           {"violations", clause.violations},
+                           {"accepted", clause.accepted}});
+    }
+    return clauses;
+}
+
 Json notJudgedJson(const SiteReport& report) {
     Json notJudged = Json::array();
     for (const PassedOver& passedOver : report.notJudged)
@@ -161,6 +178,7 @@ Json headJson(const SiteReport& report) {
 Json tailJson(const SiteReport& report) {
     return {{"elements", labelsJson(report.elements)},
             {"judged", judgedJson(report)},
+            {"clauses", clausesJson(report)},
             {"unjudged", unjudgedJson(report)},
             {"notJudged", notJudgedJson(report)},
             {"judgedByNoRule", labelsJson(report.judgedByNoRule)},

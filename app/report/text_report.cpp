@@ -1,5 +1,6 @@
 #include "explain/sentence.h"
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
 #include "report/judgement_text.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
@@ -78,6 +79,7 @@ public:
         writeFindings(report);
         writeStale(report);
         writeNotJudged(report);
+        writeClauses(report);
         writeJudged(report);
     }
 
@@ -162,6 +164,12 @@ private:
             write("\n" + filled(Words::tr("Judged by no rule")) + "\n");
         for (const ElementLabel& element : report.judgedByNoRule)
             write("  " + printable(firestandard::labelPhrase(element)) + "\n");
+    }
+
+    void writeClauses(const SiteReport& report) const {
+        write("\n" + filled(Words::tr("By clause")) + "\n");
+        for (const ClauseOutcome& clause : clauseTable(report))
+            write("  " + shown(clauseName(clause)) + ": " + shown(clauseOutcomeText(clause)) + "\n");
     }
 
     void writeJudged(const SiteReport& report) const {

@@ -5,6 +5,7 @@
 #include "report/html/overview.h"
 #include "report/html/paper.h"
 #include "report/html/site_section.h"
+#include "text/language.h"
 
 #include <QCryptographicHash>
 
@@ -30,9 +31,8 @@ QString pageScript() {
 /// come first and depend on all sites.
 class HtmlReportWriter : public ReportWriter {
 public:
-    HtmlReportWriter(Sink sink, QString language)
-        : ReportWriter(std::move(sink)), m_language(std::move(language)),
-          m_style("\n" + asset("plan.css") + asset("report.css")) {}
+    explicit HtmlReportWriter(Sink sink)
+        : ReportWriter(std::move(sink)), m_style("\n" + asset("plan.css") + asset("report.css")) {}
 
     void add(const SiteReport& report) override {
         ++m_sites;
@@ -46,7 +46,7 @@ public:
         const QString script = pageScript();
         const QString policy = "default-src 'none'; base-uri 'none'; form-action 'none'; style-src " +
                                sourceHash(m_style) + "; script-src " + sourceHash(script);
-        write(("<!DOCTYPE html>\n<html lang=\"" + m_language +
+        write(("<!DOCTYPE html>\n<html lang=\"" + currentLanguage().replace('_', '-') +
                "\">\n<head>\n<meta charset=\"utf-8\">\n"
                "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
                policy +
@@ -60,7 +60,6 @@ public:
     }
 
 private:
-    const QString m_language;
     QString m_style;
     std::vector<std::string> m_sections;
     QString m_overviewRows;
@@ -69,8 +68,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink, const QString& language) {
-    return std::make_unique<HtmlReportWriter>(std::move(sink), language);
+std::unique_ptr<ReportWriter> htmlReportWriter(ReportWriter::Sink sink) {
+    return std::make_unique<HtmlReportWriter>(std::move(sink));
 }
 
 } // namespace firecheck
