@@ -1896,14 +1896,6 @@
         <translation>结果</translation>
     </message>
     <message>
-        <source>Rules</source>
-        <translation>规则</translation>
-    </message>
-    <message>
-        <source>What the rule file says of them</source>
-        <translation>规则文件的说明</translation>
-    </message>
-    <message>
         <source>What was judged: %1 of 1 rule</source>
         <translation>判定情况：1 条规则中已判定 %1 条</translation>
     </message>
@@ -1955,6 +1947,10 @@
         <translation>
             <numerusform>从 %1 起的 %n 处违规</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rules, and what the rule file says of them</source>
+        <translation>规则及规则文件的说明</translation>
     </message>
 </context>
 </TS>

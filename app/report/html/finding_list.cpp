@@ -114,7 +114,7 @@ private:
         const Finding& finding = findingOf(merged);
         const std::vector<long long> handles = concernedElements(m_report, finding);
         QString content = "<span class=\"number badge " + colourClasses(merged.rules.front()) +
-                          "\">" + numbersText(merged.numbers) + "</span>" + anchors(merged) +
+                          "\">" + numbersText(merged.numbers) + anchors(merged) + "</span>" +
                           "<a class=\"sentence\" href=\"#" +
                           (handles.empty() ? m_ids.finding(merged.numbers.front())
                                            : m_ids.element(handles.front())) +

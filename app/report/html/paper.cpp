@@ -22,9 +22,10 @@ QString cssString(const QString& text) {
 
 QString paperStyle(const QString& id, const QString& siteName) {
     const QString top = " { @top-left { content: " + cssString(siteName) + "; } }\n";
-    return "@page " + id + top + "@page " + id + "-plan" + top + "@page " + id +
-           "-plan { size: landscape; margin: 14mm 8mm 10mm; }\n@media print { #" + id + " { page: " + id + "; } #" + id +
-           " .plan-pane { page: " + id + "-plan; } }\n";
+    const QString section = "#" + id;
+    return "@page " + id + " { size: portrait; margin: 16mm 14mm; }\n@page " + id + top + "@page " + id +
+           "-plan" + top + "@media print { " + section + " { page: " + id + "; } " + section + " > header, " +
+           section + " .plan-pane { page: " + id + "-plan; } }\n";
 }
 
 } // namespace firecheck

@@ -72,12 +72,11 @@ QString legend(const SiteReport& report) {
     return element("ul", ofClass("legend"), "\n" + items);
 }
 
-/// What the clusters of a level stand for, so that each number of the plan is found where nothing opens them.
-QString clusterKey(const std::vector<PlanPin>& pins, const std::vector<MergedFinding>& merged, int level,
-                   const QString& classes) {
+/// What clusters stand for where nothing opens them.
+QString clusterKey(const std::vector<PlanPin>& pins, const std::vector<MergedFinding>& merged) {
     QString items;
     for (const PlanPin& pin : pins) {
-        if (!pin.isCluster || level < pin.firstLevel || level > pin.lastLevel)
+        if (!pin.isCluster || kLevelWithoutScripts < pin.firstLevel || kLevelWithoutScripts > pin.lastLevel)
             continue;
         std::vector<std::size_t> numbers;
         for (const std::size_t finding : pin.findings)
@@ -87,7 +86,7 @@ QString clusterKey(const std::vector<PlanPin>& pins, const std::vector<MergedFin
                          Words::tr("%1 stands for %2", "a cluster of pins and their numbers")
                              .arg("<b>" + clusterText(pin, merged) + "</b>", numbersText(numbers)));
     }
-    return items.isEmpty() ? items : element("ul", ofClass("key " + classes), "\n" + items);
+    return items.isEmpty() ? items : element("ul", ofClass("key"), "\n" + items);
 }
 
 } // namespace
@@ -104,8 +103,7 @@ QString planPane(const SiteReport& report, const std::vector<MergedFinding>& mer
                        element("figcaption", {},
                                "\n" + legend(report) + element("p", {}, remark) +
                                    element("p", ofClass("hint"), hint) +
-                                   clusterKey(plan.pins, merged, kLevelOnScreen, "on-screen") +
-                                   clusterKey(plan.pins, merged, kLevelOnPaper, "on-paper")));
+                                   clusterKey(plan.pins, merged)));
 }
 
 } // namespace firecheck

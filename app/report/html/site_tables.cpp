@@ -57,39 +57,27 @@ QString noRuleTable(const SiteReport& report) {
     return rows.isEmpty() ? rows : table(Words::tr("Judged by no rule: %n", "", count), {}, rows, false);
 }
 
-/// What the rule file says of the rules of a clause, each text once.
-QString detailsOf(const ClauseOutcome& clause) {
-    QStringList texts;
-    for (const JudgedRule* judged : clause.rules) {
-        const QString detail = escaped(judged->rule.ruleDetailDescription);
-        if (!detail.isEmpty() && !texts.contains(detail))
-            texts << detail;
-    }
-    QString items;
-    for (const QString& text : texts)
-        items += element("li", {}, text);
-    return items.isEmpty() ? items : element("ul", {}, items);
-}
-
+/// With what the rule file says of each: there it tells what a rule leaves out of its clause.
 QString rulesOf(const ClauseOutcome& clause) {
     QString items;
     for (const JudgedRule* judged : clause.rules)
-        items += element("li", {}, escaped(ruleHeading(judged->rule)));
+        items += element("li", {},
+                         "<b>" + escaped(ruleHeading(judged->rule)) + "</b> " +
+                             escaped(judged->rule.ruleDetailDescription));
     return element("ul", {}, items);
 }
 
 QString clauseRows(const SiteReport& report) {
     QString rows;
     for (const ClauseOutcome& clause : clauseTable(report))
-        rows += row({escaped(clauseName(clause)), escaped(clauseOutcomeText(clause)), rulesOf(clause),
-                     detailsOf(clause)});
+        rows += row({escaped(clauseName(clause)), escaped(clauseOutcomeText(clause)), rulesOf(clause)});
     return rows;
 }
 
 QString byClauseTable(const SiteReport& report) {
     return table(Words::tr("By clause"),
-                 headRow({Words::tr("Clause"), Words::tr("Outcome"), Words::tr("Rules"),
-                          Words::tr("What the rule file says of them")}),
+                 headRow({Words::tr("Clause"), Words::tr("Outcome"),
+                          Words::tr("Rules, and what the rule file says of them")}),
                  clauseRows(report), true);
 }
 

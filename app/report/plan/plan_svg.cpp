@@ -53,7 +53,7 @@ public:
         const QString name = escaped(m_report.siteName.empty() ? m_report.fileName : m_report.siteName);
         return "<svg" + attributes + " viewBox=\"0 0 " + drawnNumber(m_frame.width()) + " " +
                drawnNumber(m_frame.height()) + "\" font-size=\"" +
-               drawnNumber(labelHeight(m_frame.width(), kLevelOnScreen)) + "\" role=\"group\" aria-label=\"" +
+               drawnNumber(labelHeight(m_frame.width(), kLevelWithoutScripts)) + "\" role=\"group\" aria-label=\"" +
                Words::tr("Plan of %1").arg(name) + "\">\n" + head + "<g class=\"ground\">\n" + elements() +
                measures() + "</g>\n" + labels() + scaleBar() + north() + "</svg>\n";
     }

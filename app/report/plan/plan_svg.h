@@ -20,9 +20,8 @@ struct PlanIds {
 /// "k7", from its place in the counts on.
 QString colourClasses(std::size_t ruleIndex);
 
-/// Magnification at which a plan is drawn where no script changes it, on screen and on paper.
-constexpr int kLevelOnScreen = 1;
-constexpr int kLevelOnPaper = 2;
+/// Magnification at which a plan is drawn where no script changes it: on paper, and in a file of its own.
+constexpr int kLevelWithoutScripts = 1;
 
 struct DrawnPlan {
     QString svg; ///< empty for a site without anything to draw
