@@ -4,6 +4,7 @@
 #include "explain/number_word.h"
 #include "explain/rule_wording.h"
 #include "site/element_type_identifiers.h"
+#include "text/words.h"
 
 #include <QString>
 
@@ -28,14 +29,17 @@ QString useText(const RequiredUse& use) {
                                                   : QString::number(use.code);
 }
 
-/// What the explained catalogue has for a wording with placeholders.
+/// What the explained catalogue has for a wording with placeholders, translated where linters and reports
+/// tell it.
 std::string filledIn(const char* wording, const RuleRow& row) {
-    QString filled = QString::fromUtf8(wording);
-    filled.replace("{use}", useText(row.use));
-    filled.replace("{limit}", QString::number(row.fixedLimits[0]));
-    filled.replace("{floors}",
-                   QString::fromStdString(firestandard::numberWord(static_cast<int>(row.fixedLimits[1]))));
-    return filled.toStdString();
+    if (!*wording)
+        return {}; // an empty text asks a translation for its head
+    QString text = Words::tr(wording);
+    text.replace("{use}", useText(row.use));
+    text.replace("{limit}", QString::number(row.fixedLimits[0]));
+    text.replace("{floors}",
+                 QString::fromStdString(firestandard::numberWord(static_cast<int>(row.fixedLimits[1]))));
+    return text.toStdString();
 }
 
 /// What absence rules have in common, whatever their names.

@@ -42,48 +42,34 @@ public:
     }
 
 private:
-    /// Reference elements with their type identifiers.
-    using References = std::vector<std::pair<const NUXElementObject*, std::wstring>>;
-
     /// `first` is the object as a site element, which a 3-D model is not.
     std::vector<qint64> offendingReferences(const UdDbObject& firstObject, const IdentifiedElement& first) {
         std::vector<qint64> offending;
         bool isCompared = false;
         NotJudged reason = NotJudged::NothingToCompare;
-        for (const auto& [element, type] : references()) {
-            if (element == first.element)
-                continue;
-            const IdentifiedElement reference{element, type};
-            const PairDistance pair = distanceOf(first, reference);
+        walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
+            const auto* reference = NUXElementObject::Cast(object);
+            if (!reference || reference == first.element)
+                return;
+            const std::wstring type = reference->getElementType();
+            if (!m_referenceType.matches(type))
+                return;
+            const PairDistance pair = distanceOf(first, {reference, type});
             if (pair.distance > kNoDistanceMark) {
                 if (CheckObserver* observer = m_outcome.observer())
-                    reason = tellNotJudged(*observer, firstObject, first, *element, pair, reason);
-                continue;
+                    reason = tellNotJudged(*observer, firstObject, first, *reference, pair, reason);
+                return;
             }
             isCompared = true;
             const bool offends = m_condition.isDistanceViolated(pair.distance);
             if (offends)
-                offending.push_back(element->Handle().GetID());
+                offending.push_back(object->Handle().GetID());
             if (CheckObserver* observer = m_outcome.observer())
-                observer->compared({firstObject, element, offends, measurementOf(pair), pair.contact});
-        }
+                observer->compared({firstObject, object, offends, measurementOf(pair), pair.contact});
+        });
         if (CheckObserver* observer = m_outcome.observer(); observer && !isCompared)
             observer->notJudged(firstObject, reason);
         return offending;
-    }
-
-    /// In the order of the drawing. Looked for once, so that many first elements without any cost no square.
-    const References& references() {
-        if (!m_references) {
-            m_references.emplace();
-            walkModelSpace(m_modelSpace, [&](const UdDbObject* object) {
-                const auto* reference = NUXElementObject::Cast(object);
-                std::wstring type = reference ? reference->getElementType() : std::wstring();
-                if (reference && m_referenceType.matches(type))
-                    m_references->emplace_back(reference, std::move(type));
-            });
-        }
-        return *m_references;
     }
 
     /// Deliberate: a 3-D model as first element is not measured but counts as touching every reference
@@ -115,7 +101,6 @@ private:
     const DistanceCondition m_condition;
     const IdentifierField m_firstType;
     const IdentifierField m_referenceType;
-    std::optional<References> m_references;
     RuleOutcome m_outcome;
 };
 

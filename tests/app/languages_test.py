@@ -15,8 +15,16 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 TRANSLATION = ROOT / "data/firecheck_zh_CN.ts"
 # Latin letters that stand in a Chinese report: identifiers, rule names, keys, units, clauses and names of files.
 TECHNICAL = re.compile(
-    r"NUX_\w+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
+    r"NUX_\w+|“\w+”|\([a-zA-Z]+\)|/objects/[\w/]+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
 )
+
+
+# One rule for each fixed limit that the linter names, and what else it finds.
+WRONG_RULES = "<R><G>" + "".join(
+    f'<{name} Type="{name.split("_")[0].lower()}" ElementType="NUX_EDO_TYPE_ROAD" DistantValue="7"/>'
+    for name in ["Self_RoadMinWidth", "Self_RoadLoop", "Self_OneDoorToRoadLoop", "Self_PrefabHouseFloorArea",
+                 "Self_PrefabHouseStairs", "Position_FireRoad", "Position_DoorToDoor", "Position_WireToWoodYard",
+                 "Position_FireExtinguisherBoxToWoodYard", "Distant_FireRoadToWoodYard"]) + "<!-- --></G></R>"
 
 
 def run(*arguments):
@@ -70,13 +78,18 @@ class Languages(unittest.TestCase):
                     thing["name"] = "某处"
                 site["objects"].append({"class": "futureHouse", "handle": 99999, "polyline": [
                     [0, 0], [20000, 0], [0, 10000], [20000, 10000]]})
-                classes = "|".join({thing["class"] for thing in site["objects"]})
+                # Kinds without a noun of their own are called by the end of their identifier.
+                ends = {thing.get("identifier", "").split("_")[-1].lower() for thing in site["objects"]} - {""}
+                classes = "|".join({thing["class"] for thing in site["objects"]} | ends)
                 path = pathlib.Path(directory) / f"{example}.json"
                 path.write_text(json.dumps(site))
                 reports = {form: run("check", path, "--lang", "zh_CN", "--format", form, "--unjudged")
                            for form in ["text", "csv"]}
                 reports["csv"] = reports["csv"].split("\n", 1)[1]  # the columns keep their names
                 reports["lint"] = run("lint-site", path, "--lang", "zh_CN")
+                rules = pathlib.Path(directory) / "rules.xml"
+                rules.write_text(WRONG_RULES)
+                reports["rules"] = run("lint-rules", rules, "--lang", "zh_CN").replace(str(rules), "")
                 for form, report in reports.items():
                     report = report.replace(str(path), "")
                     for line in report.splitlines():
