@@ -82,7 +82,7 @@ private:
         for (const std::size_t i : members)
             items += item(m_merged[i], false);
         return element("section", ofClass("rule"),
-                       "\n" + heads + element("ol", ofClass("findings"), "\n" + items));
+                       "\n" + element("div", ofClass("heads"), "\n" + heads) + element("ol", ofClass("findings"), "\n" + items));
     }
 
     QString ruleHead(std::size_t rule, const Finding& finding, std::size_t count, bool hasDetail) const {

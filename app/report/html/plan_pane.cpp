@@ -24,7 +24,7 @@ QString gauge() {
            "<path class=\"arrow\" d=\"M7 1L12 17L7 13L2 17Z\"/></svg><span>" +
            Words::tr("N", "north, by the arrow of a plan") +
            "</span><span class=\"bar\"></span><span class=\"length\" data-text=\"" +
-           Words::tr("%1 m") + "\"></span></div>\n";
+           Words::tr("%1 m") + "\"></span></div>";
 }
 
 QString tools() {
@@ -99,7 +99,7 @@ QString planPane(const SiteReport& report, const std::vector<MergedFinding>& mer
     const QString hint =
         Words::tr("Drag moves the plan; Ctrl and the wheel, or two fingers, zoom it; so do + and −.");
     return element("figure", ofClass("plan-pane"),
-                   "\n" + element("div", ofClass("drawing"), "\n" + plan.svg + gauge() + tools()) +
+                   "\n" + element("div", ofClass("drawing"), "\n" + plan.svg + element("div", ofClass("instruments"), gauge() + tools())) +
                        element("figcaption", {},
                                "\n" + legend(report) + element("p", {}, remark) +
                                    element("p", ofClass("hint"), hint) +

@@ -61,11 +61,14 @@ class FindingOrder {
     const section = document.createElement("section");
     section.className = "rule";
     section.dataset.title = titles.join("\n");
+    const heads = document.createElement("div");
+    heads.className = "heads";
     for (const title of titles) {
       const head = document.createElement("h2");
       head.textContent = title;
-      section.append(head);
+      heads.append(head);
     }
+    section.append(heads);
     const list = document.createElement("ol");
     list.className = "findings";
     list.append(...findings);
