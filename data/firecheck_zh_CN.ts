@@ -993,11 +993,6 @@
         <translation>位于 (%1, %2) m</translation>
     </message>
     <message>
-        <source>%1 accepted</source>
-        <comment>count</comment>
-        <translation>%1 处已接受</translation>
-    </message>
-    <message>
         <source>1 element not judged</source>
         <translation>1 个构件未判断</translation>
     </message>

@@ -1,9 +1,11 @@
 #include "report/clause_table.h"
 
 #include "explain/Words.h"
+#include "report/counts.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <set>
 
 namespace firecheck {
@@ -11,6 +13,14 @@ namespace firecheck {
 using firestandard::Words;
 
 namespace {
+
+/// The end of the digits, or of the one other character, that starts at `from`.
+QString::size_type endOfPart(const QString& text, QString::size_type from) {
+    QString::size_type end = from + 1;
+    while (text[from].isDigit() && end < text.size() && text[end].isDigit())
+        ++end;
+    return end;
+}
 
 class ClauseRows {
 public:
@@ -32,10 +42,8 @@ private:
 };
 
 QString offendingText(const ClauseOutcome& clause) {
-    const int violations = static_cast<int>(clause.violations);
     const int offending = static_cast<int>(clause.offending);
-    const QString records =
-        violations == 1 ? Words::tr("1 violation") : Words::tr("%n violations", "", violations);
+    const QString records = violationsText(clause.violations);
     if (offending == 0)
         return records;
     return offending == 1
@@ -62,7 +70,11 @@ std::vector<ClauseOutcome> clauseTable(const SiteReport& report) {
         if (record.handle != 0 && offenders.emplace(record.standard, record.handle).second)
             ++clause.offending;
     }
-    return rows.take();
+    std::vector<ClauseOutcome> table = rows.take();
+    std::stable_sort(table.begin(), table.end(), [](const ClauseOutcome& a, const ClauseOutcome& b) {
+        return clausePrecedes(a.standard, b.standard);
+    });
+    return table;
 }
 
 QString clauseOutcomeText(const ClauseOutcome& clause) {
@@ -81,8 +93,24 @@ QString clauseOutcomeText(const ClauseOutcome& clause) {
         .arg(rules, offending, QString::number(clause.accepted));
 }
 
-QString clauseName(const ClauseOutcome& clause) {
-    return clause.standard.isEmpty() ? Words::tr("No clause is cited") : clause.standard;
+QString clauseName(const QString& standard) {
+    return standard.isEmpty() ? Words::tr("No clause is cited") : standard;
+}
+
+bool clausePrecedes(const QString& a, const QString& b) {
+    if (a.isEmpty() || b.isEmpty())
+        return !a.isEmpty();
+    QString::size_type i = 0;
+    QString::size_type j = 0;
+    while (i < a.size() && j < b.size()) {
+        const QString left = a.mid(i, endOfPart(a, i) - i);
+        const QString right = b.mid(j, endOfPart(b, j) - j);
+        if (left != right)
+            return left.size() != right.size() ? left.size() < right.size() : left < right;
+        i += left.size();
+        j += right.size();
+    }
+    return a.size() - i < b.size() - j;
 }
 
 } // namespace firecheck

@@ -14,13 +14,17 @@ struct ClauseOutcome {
     std::size_t accepted = 0;             ///< of the records
 };
 
-/// One row for each text by which the rules cite a clause, in the order of the rule file. Borrows the report.
+/// One row for each text by which the rules cite a clause, by ascending clause.
+/// Borrows the report.
 std::vector<ClauseOutcome> clauseTable(const SiteReport& report);
 
 /// What was looked at and what came of it: "3 of 5 rules judged, 2 violations by 1 element".
 QString clauseOutcomeText(const ClauseOutcome& clause);
 
-/// The clause; for rules that cite none, that they do so.
-QString clauseName(const ClauseOutcome& clause);
+/// The clause; where rules cite none, that they do so.
+QString clauseName(const QString& standard);
+
+/// That one clause comes before another: numbers in them count as numbers, and no clause comes last.
+bool clausePrecedes(const QString& a, const QString& b);
 
 } // namespace firecheck

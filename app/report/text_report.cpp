@@ -1,6 +1,7 @@
 #include "explain/sentence.h"
 #include "report/ReportWriter.h"
 #include "report/clause_table.h"
+#include "report/counts.h"
 #include "report/judgement_text.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
@@ -12,19 +13,6 @@ namespace {
 
 std::string shown(const QString& text) {
     return printable(text.toStdString());
-}
-
-std::string objectsText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 object") : Words::tr("%n objects", "", static_cast<int>(count)));
-}
-
-std::string violationsText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 violation")
-                             : Words::tr("%n violations", "", static_cast<int>(count)));
-}
-
-std::string rulesText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 rule") : Words::tr("%n rules", "", static_cast<int>(count)));
 }
 
 std::string coordinate(double metres) {
@@ -52,19 +40,14 @@ std::string othersText(const Finding& finding) {
 
 /// What the head tells beside the violations: ", 2 accepted, 1 element not judged".
 std::string otherCounts(const SiteReport& report) {
-    const auto accepted = report.acceptedCount();
-    const auto unjudged = static_cast<int>(report.unjudgedCount());
-    const auto leftOut = static_cast<int>(report.leftOutRules);
     const QString comma = Words::tr(", ");
     QString text;
-    if (accepted > 0)
-        text += comma + Words::tr("%1 accepted", "count").arg(accepted);
-    if (unjudged > 0)
-        text += comma + (unjudged == 1 ? Words::tr("1 element not judged")
-                                       : Words::tr("%n elements not judged", "", unjudged));
-    if (leftOut > 0)
-        text += comma +
-                (leftOut == 1 ? Words::tr("1 rule left out") : Words::tr("%n rules left out", "", leftOut));
+    if (report.acceptedCount() > 0)
+        text += comma + acceptedText(report.acceptedCount());
+    if (report.unjudgedCount() > 0)
+        text += comma + unjudgedElementsText(report.unjudgedCount());
+    if (report.leftOutRules > 0)
+        text += comma + leftOutRulesText(report.leftOutRules);
     return text.toStdString();
 }
 
@@ -91,10 +74,10 @@ private:
     void writeHead(const SiteReport& report) const {
         const std::string title =
             printable(report.fileName) + (report.siteName.empty() ? "" : ": " + printable(report.siteName));
-        write(emphasised(title, "1") + "\n" + objectsText(report.objectCount) + filled(Words::tr(", ")));
+        write(emphasised(title, "1") + "\n" + filled(objectsText(report.objectCount)) + filled(Words::tr(", ")));
         write((report.counts.empty() ? emphasised(filled(Words::tr("no violations")), "32")
                                      : filled(Words::tr("%1 of %2", "violations, rules"),
-                                              emphasised(violationsText(report.violationCount()), "31"),
+                                              emphasised(filled(violationsText(report.violationCount())), "31"),
                                               rulesText(report.counts.size()))) +
               otherCounts(report) + "\n");
         for (const RuleCount& count : report.counts) {
@@ -169,7 +152,7 @@ private:
     void writeClauses(const SiteReport& report) const {
         write("\n" + filled(Words::tr("By clause")) + "\n");
         for (const ClauseOutcome& clause : clauseTable(report))
-            write("  " + shown(clauseName(clause)) + ": " + shown(clauseOutcomeText(clause)) + "\n");
+            write("  " + shown(clauseName(clause.standard)) + ": " + shown(clauseOutcomeText(clause)) + "\n");
     }
 
     void writeJudged(const SiteReport& report) const {

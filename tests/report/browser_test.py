@@ -23,17 +23,24 @@ def checked(form, *arguments):
 
 
 class Browser(webdriver.Chrome):
-    """A headless window. Use it in a with statement; scripts of pages run unless told otherwise."""
+    """A headless window. Scripts of pages run unless told otherwise."""
 
-    def __init__(self, width=1280, height=800, scripts=True):
+    def __init__(self, scripts=True):
+        self.runs_scripts = scripts
         options = webdriver.ChromeOptions()
         for argument in ("headless=new", "no-sandbox", "disable-dev-shm-usage", "disable-background-networking"):
             options.add_argument("--" + argument)
         if not scripts:
             options.add_experimental_option("prefs", {"profile.managed_default_content_settings.javascript": 2})
         super().__init__(options=options)
+
+    def open(self, url, width, height):
         self.execute_cdp_cmd("Emulation.setDeviceMetricsOverride",
                              {"width": width, "height": height, "deviceScaleFactor": 1, "mobile": False})
+        self.get("about:blank")  # else another part of the same page would be gone to
+        self.get(url)
+        if self.runs_scripts:
+            self.execute_async_script("requestAnimationFrame(() => requestAnimationFrame(arguments[0]));")
 
     def all(self, selector):
         return self.find_elements(By.CSS_SELECTOR, selector)
@@ -50,7 +57,11 @@ class Browser(webdriver.Chrome):
         return self.one(".ground").get_dom_attribute("transform")
 
     def current(self):
-        return [finding.get_dom_attribute("data-number") for finding in self.all(".finding.current")]
+        return self.data(".finding.current", "number")
+
+    def data(self, selector, name):
+        return self.execute_script(
+            "return [...document.querySelectorAll(arguments[0])].map((node) => node.dataset[arguments[1]]);", selector, name)
 
     def wheel(self, delta, ctrl):
         """True when the page was kept from scrolling."""
@@ -84,6 +95,7 @@ class ReportTest(unittest.TestCase):
         cls.large = str(pathlib.Path(cls.directory.name) / "site0001.json")
         cls.site = json.loads(checked("json", SITE))["sites"][0]
         cls.urls = {site: cls.written(site) for site in (SITE, cls.large)}
+        cls.browsers = {scripts: cls.enterClassContext(Browser(scripts)) for scripts in (True, False)}
 
     @classmethod
     def written(cls, *arguments):
@@ -95,9 +107,9 @@ class ReportTest(unittest.TestCase):
     def tearDownClass(cls):
         cls.directory.cleanup()
 
-    def page(self, site=SITE, url=None, **settings):
-        browser = self.enterContext(Browser(**settings))
-        browser.get(url or self.urls[site])
+    def page(self, site=SITE, url=None, width=1280, height=800, scripts=True):
+        browser = self.browsers[scripts]
+        browser.open(url or self.urls[site], width, height)
         return browser
 
     def finding(self, rule):
@@ -112,7 +124,7 @@ class ReportTest(unittest.TestCase):
 
     def test_shows_the_counts_of_the_json(self):
         page = self.page()
-        listed = [rule for finding in page.all(".finding") for rule in finding.get_dom_attribute("data-rules").split()]
+        listed = " ".join(page.data(".finding", "rules")).split()
         self.assertEqual(len(listed), self.site["violations"])
         self.assertTrue(page.one(".verdict").text.startswith(f"{self.site['violations']} violations"))
         counts = {rule.text.split()[0]: int(count.text)
@@ -122,32 +134,50 @@ class ReportTest(unittest.TestCase):
         self.assertEqual(shared, ["11–16"], "one cable over one yard under six rules")
 
     def click_every_pin(self, page):
-        """The numbers that the pins in view choose, each clicked."""
-        numbers = set()
-        for pin in page.execute_script("""
-                const window = document.querySelector(".drawing > svg").getBoundingClientRect();
-                return [...document.querySelectorAll(".labels > .on > .pin:not(.off)")].filter((pin) => {
-                    const box = pin.getBoundingClientRect();
-                    return box.left > window.left && box.right < window.right
-                        && box.top > window.top && box.bottom < window.bottom;
-                });"""):
-            single = pin.get_dom_attribute("data-finding")
-            for number in [single] if single else pin.get_dom_attribute("data-findings").split():
-                pin.click()
-                if not single:
-                    page.one(f".opened a[data-finding='{number}']").click()
-                self.assertEqual(page.current(), [number])
-                numbers.add(number)
-        return numbers
+        """The numbers that the pins in view choose, each clicked where it is seen."""
+        pins = page.execute_script("""
+            window.chosen = [];
+            Element.prototype.scrollIntoView = () => {};  // so that the pins stay where they are
+            document.onclick = () => {
+                const links = [...document.querySelectorAll(".opened:not([hidden]) a")];
+                const number = document.querySelector(".finding.current")?.dataset.number;
+                chosen.push(links.length > 0 ? links.map((link) => link.dataset.finding) : [number]);
+            };
+            const view = document.querySelector(".drawing > svg").getBoundingClientRect();
+            return [...document.querySelectorAll(".labels > .on > .pin:not(.off)")].map((pin) => {
+                const { left, right, top, bottom } = pin.querySelector("rect").getBoundingClientRect();
+                const isSeen = left > view.left && right < view.right && top > view.top && bottom < view.bottom;
+                const { finding, findings } = pin.dataset;
+                return isSeen ? [(left + right) / 2, (top + bottom) / 2, finding ? [finding] : findings.split(" ")] : null;
+            }).filter((pin) => pin !== null);""")
+        for first in range(0, len(pins), 50):
+            clicks = webdriver.ActionChains(page, duration=0)
+            for x, y, _ in pins[first:first + 50]:
+                clicks.w3c_actions.pointer_action.move_to_location(round(x), round(y))
+                clicks.click().send_keys(Keys.ESCAPE)
+            clicks.perform()
+        self.assertEqual(page.execute_script("return chosen"), [numbers for _, _, numbers in pins])
+        clustered = page.execute_script("""
+            const chosen = [];
+            for (const cluster of document.querySelectorAll(".labels > .on > .cluster:not(.off)")) {
+                for (const number of cluster.dataset.findings.split(" ")) {
+                    cluster.dispatchEvent(new MouseEvent("click", { bubbles: true, cancelable: true }));
+                    document.querySelector(`.opened a[data-finding="${number}"]`).click();
+                    chosen.push([number, document.querySelector(".finding.current").dataset.number]);
+                }
+            }
+            return chosen;""")
+        self.assertEqual([link for link, _ in clustered], [number for _, number in clustered])
+        return {number for _, _, numbers in pins for number in numbers}
 
     def test_every_pin_chooses_its_finding(self):
         for site in (SITE, self.large):
             page = self.page(site)
-            located = {finding.get_dom_attribute("data-number") for finding in page.all(".finding:not([data-handle='0'])")}
+            located = set(page.data(".finding:not([data-handle='0'])", "number"))
             self.assertEqual(self.click_every_pin(page), located)
-            for _ in range(4):
-                page.one(".zoom-in").click()
-            self.assertTrue(self.click_every_pin(page))
+        for _ in range(4):
+            page.one(".zoom-in").click()
+        self.assertTrue(self.click_every_pin(page))
 
     def test_a_click_lights_up_the_elements_and_the_other_way_round(self):
         page = self.page()
@@ -184,7 +214,7 @@ class ReportTest(unittest.TestCase):
         self.assertEqual([one.get_dom_attribute("data-number") for one in shown(page.all(".finding"))], [str(number)])
         self.assertEqual(page.one("output").text, f"Showing 1 of {self.site['violations']} violations")
         for kind in ("pin[data-finding]", "measure", "value"):
-            marks = {mark.get_dom_attribute("data-finding") for mark in page.all(f".drawing .{kind}:not(.muted)")}
+            marks = set(page.data(f".drawing .{kind}:not(.muted)", "finding"))
             self.assertLessEqual(marks, {str(number)}, kind)
 
         page.one("button[type=reset]").click()
@@ -201,13 +231,13 @@ class ReportTest(unittest.TestCase):
 
     def test_orders(self):
         page = self.page()
-        written = [one.get_dom_attribute("data-number") for one in page.all(".finding")]
+        written = page.data(".finding", "number")
 
-        def ordered(by):
+        def ordered(by, name="number"):
             page.one(f"select[name=order] option[value='{by}']").click()
-            return page.all(".finding")
+            return page.data(".finding", name)
 
-        shares = [float(one.get_dom_attribute("data-missing") or 0) for one in ordered("missing")]
+        shares = [float(share or 0) for share in ordered("missing", "missing")]
         self.assertEqual(shares, sorted(shares, reverse=True))
         self.assertGreater(shares[0], 0.2)
         self.assertTrue(shown(page.all(".finding .of-rule")))
@@ -215,7 +245,7 @@ class ReportTest(unittest.TestCase):
         headings = [heading.text for heading in page.all(".rule h2")]
         self.assertIn("GB 50720-2011, 3.2.2", headings)
         self.assertEqual(len(headings), len(set(headings)))
-        self.assertEqual([one.get_dom_attribute("data-number") for one in ordered("rule")], written)
+        self.assertEqual(ordered("rule"), written)
 
     def test_works_from_the_keyboard(self):
         page = self.page()

@@ -87,7 +87,7 @@ Counts countsOfText(const QString& text) {
     Counts counts;
     int all = 0;
     const QString findings =
-        text.section(QRegularExpression("\\n(What was judged|Not judged|Judged by no rule)\\n"), 0, 0);
+        text.section(QRegularExpression("\\n(By clause|Not judged|Judged by no rule)\\n"), 0, 0);
     const QRegularExpression head("^(\\w+) \\((\\d+)\\)", QRegularExpression::MultilineOption);
     for (auto match = head.globalMatch(findings); match.hasNext();) {
         const auto group = match.next();
@@ -97,13 +97,17 @@ Counts countsOfText(const QString& text) {
     return counts;
 }
 
+/// Findings under several rules stand once, below the headings of all of them.
 Counts countsOfHtml(const QString& html) {
     Counts counts;
-    for (const QString& group : html.split("<section class=\"rule ").mid(1)) {
-        const QString name =
-            group.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
-        counts[name] = group.count("<li class=\"finding");
-        EXPECT_EQ(group.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), counts[name]);
+    for (const QString& group : html.split("<section class=\"rule\"").mid(1)) {
+        const int findings = group.count("<li class=\"finding");
+        for (const QString& head : group.split("<h2>").mid(1)) {
+            const QString name =
+                head.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
+            EXPECT_EQ(head.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), findings);
+            counts[name] += findings;
+        }
     }
     return counts;
 }

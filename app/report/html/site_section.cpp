@@ -2,7 +2,7 @@
 
 #include "explain/Words.h"
 #include "report/escape.h"
-#include "report/html/counts.h"
+#include "report/counts.h"
 #include "report/html/finding_list.h"
 #include "report/html/markup.h"
 #include "report/html/plan_pane.h"

@@ -70,7 +70,7 @@ QString rulesOf(const ClauseOutcome& clause) {
 QString clauseRows(const SiteReport& report) {
     QString rows;
     for (const ClauseOutcome& clause : clauseTable(report))
-        rows += row({escaped(clauseName(clause)), escaped(clauseOutcomeText(clause)), rulesOf(clause)});
+        rows += row({escaped(clauseName(clause.standard)), escaped(clauseOutcomeText(clause)), rulesOf(clause)});
     return rows;
 }
 

@@ -1,4 +1,4 @@
-#include "report/html/counts.h"
+#include "report/counts.h"
 
 #include "explain/Words.h"
 
