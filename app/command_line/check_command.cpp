@@ -9,6 +9,7 @@
 #include "lint/lint_report.h"
 #include "lint/lint_rule_file.h"
 #include "report/ReportWriter.h"
+#include "report/finding_order.h"
 #include "rules/rule_file.h"
 #include "site_file/RefusedSite.h"
 #include "site_file/site_reader.h"
@@ -123,6 +124,7 @@ public:
             report.judgedByNoRule.clear();
         m_accept.applyTo(report);
         m_selection.applyTo(report);
+        orderFindings(report, orderNamed(m_options.choice("order")));
         if (m_options.isSet("profile"))
             writeProfile(report);
         return report;
@@ -151,6 +153,7 @@ int checkCommand(const Options& options) {
     if (options.arguments().isEmpty())
         throw InputError("No site file is given. Try \"firecheck help check\".");
     options.format(); // refused before anything is read
+    options.choice("order");
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     mentionLint(ruleFile, options.isSet("quiet"));

@@ -46,10 +46,9 @@ QString offendingText(const ClauseOutcome& clause) {
     const QString records = violationsText(clause.violations);
     if (offending == 0)
         return records;
-    return offending == 1
-               ? Words::tr("%1 by 1 element", "violations, such as \"2 violations\"").arg(records)
-               : Words::tr("%1 by %n elements", "violations, such as \"2 violations\"", offending)
-                     .arg(records);
+    return offending == 1 ? Words::tr("%1 by 1 element", "violations, such as \"2 violations\"").arg(records)
+                          : Words::tr("%1 by %n elements", "violations, such as \"2 violations\"", offending)
+                                .arg(records);
 }
 
 } // namespace

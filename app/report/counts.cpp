@@ -7,8 +7,7 @@ namespace firecheck {
 using firestandard::Words;
 
 QString violationsText(std::size_t count) {
-    return count == 1 ? Words::tr("1 violation")
-                      : Words::tr("%n violations", "", static_cast<int>(count));
+    return count == 1 ? Words::tr("1 violation") : Words::tr("%n violations", "", static_cast<int>(count));
 }
 
 QString rulesText(std::size_t count) {

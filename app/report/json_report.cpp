@@ -1,6 +1,7 @@
 #include "report/ReportWriter.h"
 #include "report/clause_table.h"
 #include "report/judgement_text.h"
+#include "report/missing_share.h"
 #include "rules/rule_texts.h"
 
 namespace firecheck {
@@ -82,6 +83,7 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
     Json related = Json::array();
     for (const long long handle : finding.related)
         related.push_back(decimal(handle));
+    const auto share = missingShare(finding);
     Json measures = Json::array();
     for (const Measure& measure : finding.measures)
         measures.push_back(measureJson(measure));
@@ -93,6 +95,7 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
             {"relatedCount", finding.relatedCount},
             {"sentence", finding.sentence},
             {"measures", std::move(measures)},
+            {"missingShare", share ? Json(*share) : Json()},
             {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()},
             {"outgrown", finding.outgrown
                              ? Json{{"value", finding.outgrown->value}, {"reason", finding.outgrown->reason}}
@@ -133,7 +136,9 @@ Json clausesJson(const SiteReport& report) {
     for (const ClauseOutcome& clause : clauseTable(report)) {
         Json rules = Json::array();
         for (const JudgedRule* judged : clause.rules)
-            rules.push_back(judged->rule.name.toStdString());
+            rules.push_back({{"rule", judged->rule.name.toStdString()},
+                             {"description", judged->rule.ruleDescription.toStdString()},
+                             {"detail", judged->rule.ruleDetailDescription.toStdString()}});
         clauses.push_back({{"standard", clause.standard.toStdString()},
                            {"rules", std::move(rules)},
                            {"judgedRules", clause.judgedRules},

@@ -3,9 +3,13 @@
 #include "report/clause_table.h"
 #include "report/counts.h"
 #include "report/judgement_text.h"
+#include "report/missing_share.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
 #include "text/words.h"
+
+#include <map>
+#include <optional>
 
 namespace firecheck {
 
@@ -74,11 +78,13 @@ private:
     void writeHead(const SiteReport& report) const {
         const std::string title =
             printable(report.fileName) + (report.siteName.empty() ? "" : ": " + printable(report.siteName));
-        write(emphasised(title, "1") + "\n" + filled(objectsText(report.objectCount)) + filled(Words::tr(", ")));
-        write((report.counts.empty() ? emphasised(filled(Words::tr("no violations")), "32")
-                                     : filled(Words::tr("%1 of %2", "violations, rules"),
-                                              emphasised(filled(violationsText(report.violationCount())), "31"),
-                                              rulesText(report.counts.size()))) +
+        write(emphasised(title, "1") + "\n" + filled(objectsText(report.objectCount)) +
+              filled(Words::tr(", ")));
+        write((report.counts.empty()
+                   ? emphasised(filled(Words::tr("no violations")), "32")
+                   : filled(Words::tr("%1 of %2", "violations, rules"),
+                            emphasised(filled(violationsText(report.violationCount())), "31"),
+                            rulesText(report.counts.size()))) +
               otherCounts(report) + "\n");
         for (const RuleCount& count : report.counts) {
             const std::string number = std::to_string(count.violations);
@@ -88,28 +94,55 @@ private:
     }
 
     void writeFindings(const SiteReport& report) const {
-        auto count = report.counts.begin();
-        const NuxStandardCheckRule* previous = nullptr;
+        std::map<QString, std::size_t> sizes;
+        for (const Finding& finding : report.findings)
+            ++sizes[groupOf(report, finding)];
+        std::optional<QString> group;
         for (const Finding& finding : report.findings) {
             const NuxStandardCheckRule& record = report.record(finding);
-            if (!previous || previous->name != record.name)
-                writeRuleHead(record, (count++)->violations);
-            previous = &record;
+            if (const QString own = groupOf(report, finding); own != group) {
+                group = own;
+                writeGroupHead(report.order, record, sizes[own]);
+            }
             writeFinding(report, finding, record);
         }
     }
 
-    void writeRuleHead(const NuxStandardCheckRule& rule, std::size_t violations) const {
+    static QString groupOf(const SiteReport& report, const Finding& finding) {
+        switch (report.order) {
+        case FindingOrder::Rule:
+            return report.record(finding).name;
+        case FindingOrder::Clause:
+            return report.record(finding).standard;
+        case FindingOrder::Missing:
+            break;
+        }
+        return {};
+    }
+
+    void writeGroupHead(FindingOrder order, const NuxStandardCheckRule& rule, std::size_t violations) const {
+        write("\n");
+        const std::string count = " (" + std::to_string(violations) + ")";
+        if (order == FindingOrder::Rule)
+            write(emphasised(shown(rule.name), "1") + count + ruleTexts(rule) + "\n");
+        else if (order == FindingOrder::Clause)
+            write(emphasised(shown(clauseName(rule.standard)), "1") + count + "\n");
+    }
+
+    static std::string ruleTexts(const NuxStandardCheckRule& rule) {
         const std::string description =
             rule.ruleDescription.isEmpty() ? "" : ": " + shown(rule.ruleDescription);
         const std::string standard = rule.standard.isEmpty() ? "" : " [" + shown(rule.standard) + "]";
-        write("\n" + emphasised(shown(rule.name), "1") + " (" + std::to_string(violations) + ")" +
-              description + standard + "\n");
+        return description + standard;
     }
 
     void writeFinding(const SiteReport& report, const Finding& finding,
                       const NuxStandardCheckRule& record) const {
         write("  " + printable(finding.sentence) + "\n");
+        if (report.order == FindingOrder::Missing && missingShare(finding))
+            write("    " + filled(missingShareText(finding)) + "\n");
+        if (report.order != FindingOrder::Rule)
+            write("    " + shown(record.name) + ruleTexts(record) + "\n");
         if (finding.acceptedBecause)
             write("    " + printable(filled(Words::tr("accepted: %1", "reason"), *finding.acceptedBecause)) +
                   "\n");

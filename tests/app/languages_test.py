@@ -84,7 +84,7 @@ class Languages(unittest.TestCase):
                 path = pathlib.Path(directory) / f"{example}.json"
                 path.write_text(json.dumps(site))
                 reports = {form: run("check", path, "--lang", "zh_CN", "--format", form, "--unjudged")
-                           for form in ["text", "csv"]}
+                           for form in ["text", "csv", "html"]}
                 reports["csv"] = reports["csv"].split("\n", 1)[1]  # the columns keep their names
                 reports["lint"] = run("lint-site", path, "--lang", "zh_CN")
                 rules = pathlib.Path(directory) / "rules.xml"

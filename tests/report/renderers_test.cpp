@@ -3,6 +3,8 @@
 #include "check/accept_file.h"
 #include "check/check_site.h"
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
+#include "report/finding_order.h"
 #include "report/plan/plan_svg.h"
 #include "site_file/site_reader.h"
 #include "source_file.h"
@@ -154,6 +156,37 @@ TEST_F(Renderers, AgreeOnEveryCase) {
             expectAgreement(check(readSite(single.site), name));
         }
     }
+}
+
+TEST_F(Renderers, ListTheSameInAnyOrder) {
+    SiteReport report = checkExample("tower-site.json");
+    const auto all = report.findings.size();
+    for (const FindingOrder order : {FindingOrder::Clause, FindingOrder::Missing}) {
+        orderFindings(report, order);
+        const Json site = Json::parse(rendered(report, jsonReportWriter).toStdString())["sites"][0];
+        const QString text = rendered(report, plainTextWriter);
+        const QString html = rendered(report, htmlReportWriter);
+        const auto rows = csvRows(rendered(report, csvReportWriter));
+        QStringList clauses;
+        std::vector<double> shares;
+        int textPlace = 0;
+        for (const Json& finding : site["findings"]) {
+            textPlace = text.indexOf("\n  " + QString::fromStdString(finding["sentence"]) + "\n", textPlace);
+            EXPECT_GE(textPlace, 0) << finding["sentence"];
+            shares.push_back(finding["missingShare"].is_null() ? 0.0 : finding["missingShare"].get<double>());
+        }
+        for (const QStringList& row : rows)
+            if (const QString standard = row.value(5);
+                row.value(2).toInt() > 0 && !clauses.endsWith(standard))
+                clauses << standard;
+        EXPECT_EQ(shares.size(), all);
+        EXPECT_EQ(order == FindingOrder::Missing, std::is_sorted(shares.rbegin(), shares.rend()));
+        EXPECT_EQ(order == FindingOrder::Clause, clauses.removeDuplicates() == 0);
+        EXPECT_EQ(html.count("<h2>GB 50720-2011, 3.2.2</h2>"), order == FindingOrder::Clause ? 1 : 0);
+        EXPECT_EQ(rows[1].last(), order == FindingOrder::Missing ? "28" : "");
+    }
+    EXPECT_TRUE(clausePrecedes("A 3.2.1", "A 3.10"));
+    EXPECT_FALSE(clausePrecedes("", "A 3.10"));
 }
 
 TEST_F(Renderers, SayWhatAPlannerWouldSay) {

@@ -2,6 +2,7 @@
 
 #include "explain/Words.h"
 #include "explain/sentence.h"
+#include "report/clause_table.h"
 #include "report/escape.h"
 #include "report/html/finding_filters.h"
 #include "report/html/markup.h"
@@ -10,10 +11,7 @@
 
 #include <QStringList>
 
-#include <algorithm>
-#include <cmath>
 #include <map>
-#include <set>
 
 namespace firecheck {
 
@@ -41,27 +39,18 @@ public:
         if (m_report.findings.empty())
             return element("p", ofClass("rule"), Words::tr("Nothing breaks a rule."));
         return findingFilters(m_report, m_merged) +
-               element("div", ofClass("groups"), "\n" + (isRuleByRule() ? groups() : plainList()));
+               element("div", ofClass(isByRule() ? "groups" : "groups names-rules"), "\n" + groups());
     }
 
 private:
-    bool isRuleByRule() const {
-        std::set<std::size_t> seen;
-        std::size_t previous = m_report.counts.size();
-        for (const std::size_t rule : ruleIndices(m_report)) {
-            if (rule != previous && !seen.insert(rule).second)
-                return false;
-            previous = rule;
-        }
-        return true;
-    }
+    bool isByRule() const { return m_report.order == FindingOrder::Rule; }
 
-    /// One for each set of rules that findings share, in the order of their first findings.
+    /// One for each set of rules, or clauses, that findings share, in the order of their first findings.
     QString groups() const {
-        std::map<std::vector<std::size_t>, std::size_t> placeOf;
+        std::map<QString, std::size_t> placeOf;
         std::vector<std::vector<std::size_t>> members;
         for (std::size_t i = 0; i < m_merged.size(); ++i) {
-            const auto [place, isNew] = placeOf.emplace(m_merged[i].rules, members.size());
+            const auto [place, isNew] = placeOf.emplace(groupKey(m_merged[i]), members.size());
             if (isNew)
                 members.emplace_back();
             members[place->second].push_back(i);
@@ -72,17 +61,40 @@ private:
         return text;
     }
 
+    QString groupKey(const MergedFinding& merged) const {
+        switch (m_report.order) {
+        case FindingOrder::Rule:
+            return asTexts(merged.rules).join(' ');
+        case FindingOrder::Clause:
+            return clausesOf(merged).join('\n');
+        case FindingOrder::Missing:
+            break;
+        }
+        return {};
+    }
+
+    QStringList clausesOf(const MergedFinding& merged) const {
+        QStringList clauses;
+        for (const std::size_t number : merged.numbers)
+            clauses << clauseName(m_report.record(m_report.findings[number - 1]).standard);
+        clauses.removeDuplicates();
+        return clauses;
+    }
+
     QString group(const std::vector<std::size_t>& members) const {
         const MergedFinding& first = m_merged[members.front()];
         QString heads;
-        for (std::size_t i = 0; i < first.rules.size(); ++i)
+        if (m_report.order == FindingOrder::Clause)
+            heads = element("h2", {}, escaped(clausesOf(first).join("; ")));
+        for (std::size_t i = 0; isByRule() && i < first.rules.size(); ++i)
             heads += ruleHead(first.rules[i], m_report.findings[first.numbers[i] - 1], members.size(),
                               first.rules.size() == 1);
         QString items;
         for (const std::size_t i : members)
-            items += item(m_merged[i], false);
+            items += item(m_merged[i]);
         return element("section", ofClass("rule"),
-                       "\n" + element("div", ofClass("heads"), "\n" + heads) + element("ol", ofClass("findings"), "\n" + items));
+                       "\n" + element("div", ofClass("heads"), "\n" + heads) +
+                           element("ol", ofClass("findings"), "\n" + items));
     }
 
     QString ruleHead(std::size_t rule, const Finding& finding, std::size_t count, bool hasDetail) const {
@@ -91,7 +103,8 @@ private:
         if (!record.standard.isEmpty())
             source += " · " + escaped(record.standard);
         return element("h2", {},
-                       "<span class=\"badge " + colourClasses(rule) + "\"></span><span>" + escaped(ruleHeading(record)) + "</span><span class=\"count\">" +
+                       "<span class=\"badge " + colourClasses(rule) + "\"></span><span>" +
+                           escaped(ruleHeading(record)) + "</span><span class=\"count\">" +
                            QString::number(count) + "</span>") +
                element("p", ofClass("source"), source) +
                (hasDetail && !record.ruleDetailDescription.isEmpty()
@@ -99,34 +112,25 @@ private:
                     : QString());
     }
 
-    QString plainList() const {
-        QString items;
-        for (const MergedFinding& merged : m_merged)
-            items += item(merged, true);
-        return element("section", ofClass("rule"), element("ol", ofClass("findings"), "\n" + items));
-    }
-
     const Finding& findingOf(const MergedFinding& merged) const {
         return m_report.findings[merged.numbers.front() - 1];
     }
 
-    QString item(const MergedFinding& merged, bool namesRules) const {
+    QString item(const MergedFinding& merged) const {
         const Finding& finding = findingOf(merged);
         const std::vector<long long> handles = concernedElements(m_report, finding);
-        QString content = "<span class=\"number badge " + colourClasses(merged.rules.front()) +
-                          "\">" + numbersText(merged.numbers) + anchors(merged) + "</span>" +
-                          "<a class=\"sentence\" href=\"#" +
-                          (handles.empty() ? m_ids.finding(merged.numbers.front())
-                                           : m_ids.element(handles.front())) +
-                          "\">" + asSentence(finding.sentence) + "</a>\n";
-        if (namesRules)
+        QString content =
+            "<span class=\"number badge " + colourClasses(merged.rules.front()) + "\">" +
+            numbersText(merged.numbers) + anchors(merged) + "</span>" + "<a class=\"sentence\" href=\"#" +
+            (handles.empty() ? m_ids.finding(merged.numbers.front()) : m_ids.element(handles.front())) +
+            "\">" + asSentence(finding.sentence) + "</a>\n";
+        if (!isByRule())
             for (const std::size_t number : merged.numbers)
                 content += element("p", ofClass("of-rule"),
                                    escaped(ruleHeading(m_report.record(m_report.findings[number - 1]))));
         if (finding.acceptedBecause)
-            content +=
-                element("p", ofClass("reason"),
-                        Words::tr("Accepted: %1").arg(escaped(*finding.acceptedBecause)));
+            content += element("p", ofClass("reason"),
+                               Words::tr("Accepted: %1").arg(escaped(*finding.acceptedBecause)));
         if (finding.outgrown)
             content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
         return element("li", itemAttributes(merged, finding, handles), content + places(finding, handles));
@@ -138,8 +142,8 @@ private:
         for (const long long handle : handles)
             all << QString::number(handle);
         const QString number = QString::number(merged.numbers.front());
-        QString attributes = ofClass(finding.acceptedBecause ? "finding accepted" : "finding") +
-                             " id=\"" + m_ids.finding(merged.numbers.front()) + "\" data-number=\"" + number +
+        QString attributes = ofClass(finding.acceptedBecause ? "finding accepted" : "finding") + " id=\"" +
+                             m_ids.finding(merged.numbers.front()) + "\" data-number=\"" + number +
                              "\" data-rules=\"" + asTexts(merged.rules).join(' ') + "\" data-handle=\"" +
                              QString::number(m_report.record(finding).handle) + "\" data-elements=\"" +
                              all.join(' ') + "\"";
@@ -160,8 +164,8 @@ private:
 
     QString places(const Finding& finding, const std::vector<long long>& handles) const {
         QString items;
-        if (const auto share = missingShare(finding))
-            items += element("li", {}, shareText(finding, *share));
+        if (missingShare(finding))
+            items += element("li", {}, missingShareText(finding));
         for (const long long handle : handles)
             items += element("li", {}, placeText(handle, finding.sentence));
         const std::size_t others = finding.relatedCount - finding.related.size();
@@ -170,14 +174,6 @@ private:
                              others == 1 ? Words::tr("and 1 other")
                                          : Words::tr("and %n others", "", static_cast<int>(others)));
         return items.isEmpty() ? items : element("ul", ofClass("places"), "\n" + items);
-    }
-
-    static QString shareText(const Finding& finding, double share) {
-        const QString percent = QString::number(std::max(1L, std::lround(share * 100.0)));
-        const Measure& measure = finding.measures.front();
-        return measure.minimum && measure.value < *measure.minimum
-                   ? Words::tr("%1 % missing", "of the distance asked for").arg(percent)
-                   : Words::tr("%1 % too much", "of the value measured").arg(percent);
     }
 
     /// With its name where the sentence does not have it.
@@ -191,8 +187,8 @@ private:
         if (!label->className.empty())
             text += " · " + escaped(label->className);
         if (label->place)
-            text += " · " + Words::tr("at (%1, %2) m")
-                                .arg(coordinate(label->place->x), coordinate(label->place->y));
+            text += " · " +
+                    Words::tr("at (%1, %2) m").arg(coordinate(label->place->x), coordinate(label->place->y));
         return text;
     }
 

@@ -26,9 +26,9 @@ QString pageScript() {
     return script;
 }
 
-/// The page: head, overview of several sites, one section for each. Its policy admits nothing but its own style
-/// and script, so that whatever a site file says stays text. Written at the end, because policy and overview
-/// come first and depend on all sites.
+/// The page: head, overview of several sites, one section for each. Its policy admits nothing but its own
+/// style and script, so that whatever a site file says stays text. Written at the end, because policy and
+/// overview come first and depend on all sites.
 class HtmlReportWriter : public ReportWriter {
 public:
     explicit HtmlReportWriter(Sink sink)
@@ -38,8 +38,9 @@ public:
         ++m_sites;
         m_sections.push_back(siteSection(report, m_sites).toStdString());
         m_overviewRows += overviewRow(report, m_sites);
-        m_style += paperStyle(siteId(m_sites),
-                              QString::fromStdString(report.siteName.empty() ? report.fileName : report.siteName));
+        m_style +=
+            paperStyle(siteId(m_sites),
+                       QString::fromStdString(report.siteName.empty() ? report.fileName : report.siteName));
     }
 
     void end() override {
@@ -49,8 +50,7 @@ public:
         write(("<!DOCTYPE html>\n<html lang=\"" + currentLanguage().replace('_', '-') +
                "\">\n<head>\n<meta charset=\"utf-8\">\n"
                "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
-               policy +
-               "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
+               policy + "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
                element("title", {}, firestandard::Words::tr("Fire-safety check")) + "<style>" + m_style +
                "</style>\n</head>\n<body>\n" + (m_sites > 1 ? overview(m_overviewRows, m_sites) : QString()))
                   .toStdString());

@@ -31,13 +31,11 @@ QString overview(const QString& rows, std::size_t sites) {
     for (const QString& name : {Words::tr("Site"), Words::tr("File"), Words::tr("Objects"),
                                 Words::tr("Violations"), Words::tr("Accepted"), Words::tr("Not judged")})
         head += "<th scope=\"col\">" + name + "</th>";
-    return element("nav", ofClass("overview"),
-                   "\n" +
-                       element("h1", {},
-                               Words::tr("Fire-safety check of %n sites", "", static_cast<int>(sites))) +
-                       element("div", ofClass("scroll"),
-                               "<table><thead><tr>" + head + "</tr></thead><tbody>\n" + rows +
-                                   "</tbody></table>"));
+    return element(
+        "nav", ofClass("overview"),
+        "\n" + element("h1", {}, Words::tr("Fire-safety check of %n sites", "", static_cast<int>(sites))) +
+            element("div", ofClass("scroll"),
+                    "<table><thead><tr>" + head + "</tr></thead><tbody>\n" + rows + "</tbody></table>"));
 }
 
 } // namespace firecheck

@@ -10,7 +10,8 @@ namespace {
 QString cssString(const QString& text) {
     QString result = "\"";
     for (const uint character : text.toUcs4()) {
-        const bool isPlain = (character >= '0' && character <= '9') || (character >= 'a' && character <= 'z') ||
+        const bool isPlain = (character >= '0' && character <= '9') ||
+                             (character >= 'a' && character <= 'z') ||
                              (character >= 'A' && character <= 'Z') || character == ' ';
         result += isPlain ? QString(QChar(static_cast<ushort>(character)))
                           : "\\" + QString::number(character == 0 ? 0xfffd : character, 16) + " ";

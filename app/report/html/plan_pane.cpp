@@ -23,8 +23,8 @@ QString gauge() {
     return "<div class=\"gauge\" aria-hidden=\"true\"><svg class=\"plan\" viewBox=\"0 0 14 18\">"
            "<path class=\"arrow\" d=\"M7 1L12 17L7 13L2 17Z\"/></svg><span>" +
            Words::tr("N", "north, by the arrow of a plan") +
-           "</span><span class=\"bar\"></span><span class=\"length\" data-text=\"" +
-           Words::tr("%1 m") + "\"></span></div>";
+           "</span><span class=\"bar\"></span><span class=\"length\" data-text=\"" + Words::tr("%1 m") +
+           "\"></span></div>";
 }
 
 QString tools() {
@@ -35,8 +35,8 @@ QString tools() {
 
 QString legendItem(const QString& shape, const QString& name) {
     return element("li", {},
-                   "<svg class=\"plan swatch\" viewBox=\"0 0 26 14\" aria-hidden=\"true\">" + shape + "</svg>" +
-                       name);
+                   "<svg class=\"plan swatch\" viewBox=\"0 0 26 14\" aria-hidden=\"true\">" + shape +
+                       "</svg>" + name);
 }
 
 QString sample(const QString& classes) {
@@ -99,11 +99,12 @@ QString planPane(const SiteReport& report, const std::vector<MergedFinding>& mer
     const QString hint =
         Words::tr("Drag moves the plan; Ctrl and the wheel, or two fingers, zoom it; so do + and −.");
     return element("figure", ofClass("plan-pane"),
-                   "\n" + element("div", ofClass("drawing"), "\n" + plan.svg + element("div", ofClass("instruments"), gauge() + tools())) +
+                   "\n" +
+                       element("div", ofClass("drawing"),
+                               "\n" + plan.svg + element("div", ofClass("instruments"), gauge() + tools())) +
                        element("figcaption", {},
                                "\n" + legend(report) + element("p", {}, remark) +
-                                   element("p", ofClass("hint"), hint) +
-                                   clusterKey(plan.pins, merged)));
+                                   element("p", ofClass("hint"), hint) + clusterKey(plan.pins, merged)));
 }
 
 } // namespace firecheck

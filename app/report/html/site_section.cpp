@@ -1,8 +1,8 @@
 #include "report/html/site_section.h"
 
 #include "explain/Words.h"
-#include "report/escape.h"
 #include "report/counts.h"
+#include "report/escape.h"
 #include "report/html/finding_list.h"
 #include "report/html/markup.h"
 #include "report/html/plan_pane.h"

@@ -33,10 +33,10 @@ QString headRow(const QStringList& names) {
 
 /// Open, so that paper and readers without scripts have it; a script closes what is `foldable`.
 QString table(const QString& summary, const QString& head, const QString& rows, bool isFoldable) {
-    return element("details", (isFoldable ? ofClass("foldable") : QString()) + " open",
-                   "<summary>" + summary + "</summary>\n" +
-                       element("div", ofClass("scroll"),
-                               "<table>" + head + "<tbody>\n" + rows + "</tbody></table>"));
+    return element(
+        "details", (isFoldable ? ofClass("foldable") : QString()) + " open",
+        "<summary>" + summary + "</summary>\n" +
+            element("div", ofClass("scroll"), "<table>" + head + "<tbody>\n" + rows + "</tbody></table>"));
 }
 
 QString notJudgedTable(const SiteReport& report) {
@@ -70,7 +70,8 @@ QString rulesOf(const ClauseOutcome& clause) {
 QString clauseRows(const SiteReport& report) {
     QString rows;
     for (const ClauseOutcome& clause : clauseTable(report))
-        rows += row({escaped(clauseName(clause.standard)), escaped(clauseOutcomeText(clause)), rulesOf(clause)});
+        rows +=
+            row({escaped(clauseName(clause.standard)), escaped(clauseOutcomeText(clause)), rulesOf(clause)});
     return rows;
 }
 
@@ -89,11 +90,10 @@ QString judgedTable(const SiteReport& report) {
         rows += row({escaped(judged.rule.name), escaped(judged.rule.ruleDescription),
                      escaped(judgementText(judged))});
     }
-    const QString summary =
-        report.judged.size() == 1
-            ? Words::tr("What was judged: %1 of 1 rule").arg(looked)
-            : Words::tr("What was judged: %1 of %n rules", "", static_cast<int>(report.judged.size()))
-                  .arg(looked);
+    const QString summary = report.judged.size() == 1 ? Words::tr("What was judged: %1 of 1 rule").arg(looked)
+                                                      : Words::tr("What was judged: %1 of %n rules", "",
+                                                                  static_cast<int>(report.judged.size()))
+                                                            .arg(looked);
     return table(summary, headRow({Words::tr("Rule"), Words::tr("Finds"), Words::tr("Outcome")}), rows, true);
 }
 

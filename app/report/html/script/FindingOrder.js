@@ -2,11 +2,10 @@
 class FindingOrder {
   constructor(groups, form) {
     this.groups = groups;
-    this.noClause = form.dataset.noClause;
     this.rules = [...form.elements.rule.options].slice(1).map((option) => option.dataset);
     this.written = [...groups.children];
     this.home = [...groups.querySelectorAll(".finding")].map((finding) => [finding, finding.parentElement]);
-    this.isWrittenByRule = groups.querySelector("h2") !== null;
+    this.writtenOrder = [...form.elements.order.options].find((option) => option.defaultSelected).value;
   }
 
   get findings() {
@@ -18,17 +17,17 @@ class FindingOrder {
   }
 
   apply(order) {
-    const isAsWritten = order === (this.isWrittenByRule ? "rule" : "missing");
     this.groups.classList.toggle("names-rules", order !== "rule");
     if (order !== "rule") this.nameRules();
-    if (isAsWritten) {
+    if (order === this.writtenOrder) {
       for (const [finding, list] of this.home) list.append(finding);
       this.groups.replaceChildren(...this.written);
     } else if (order === "rule") {
-      this.groups.replaceChildren(...this.grouped((finding) => this.rulesOf(finding).map(({ heading }) => heading)));
+      const sorted = this.findings.sort((a, b) => FindingOrder.ruleOf(a) - FindingOrder.ruleOf(b));
+      this.groups.replaceChildren(...FindingOrder.grouped(sorted, (finding) => this.rulesOf(finding).map(({ heading }) => heading)));
     } else if (order === "clause") {
-      const groups = this.grouped((finding) => [this.clauseOf(finding)]);
-      this.groups.replaceChildren(...groups.sort((a, b) => this.compareClauses(a.dataset.title, b.dataset.title)));
+      const sorted = this.findings.sort((a, b) => this.clausePlace(a) - this.clausePlace(b));
+      this.groups.replaceChildren(...FindingOrder.grouped(sorted, (finding) => [this.clausesOf(finding)]));
     } else {
       const missing = (finding) => Number(finding.dataset.missing ?? -1);
       const sorted = this.findings.sort((a, b) => missing(b) - missing(a));
@@ -36,31 +35,33 @@ class FindingOrder {
     }
   }
 
-  clauseOf(finding) {
-    const clauses = new Set(this.rulesOf(finding).map(({ clause }) => clause || this.noClause));
-    return [...clauses].join("; ");
+  static ruleOf(finding) {
+    return Number(finding.dataset.rules.split(" ")[0]);
   }
 
-  compareClauses(a, b) {
-    return Number(a === this.noClause) - Number(b === this.noClause) || a.localeCompare(b, "en", { numeric: true });
+  clausesOf(finding) {
+    return [...new Set(this.rulesOf(finding).map(({ clause }) => clause))].join("; ");
+  }
+
+  clausePlace(finding) {
+    return Math.min(...this.rulesOf(finding).map(({ clausePlace }) => Number(clausePlace)));
   }
 
   /** One group for each list of titles, in the order of their first findings. */
-  grouped(titlesOf) {
+  static grouped(findings, titlesOf) {
     const groups = new Map();
-    for (const finding of this.findings) {
+    for (const finding of findings) {
       const titles = titlesOf(finding);
       const key = titles.join("\n");
       if (!groups.has(key)) groups.set(key, { titles, findings: [] });
       groups.get(key).findings.push(finding);
     }
-    return [...groups.values()].map(({ titles, findings }) => FindingOrder.group(titles, findings));
+    return [...groups.values()].map((group) => FindingOrder.group(group.titles, group.findings));
   }
 
   static group(titles, findings) {
     const section = document.createElement("section");
     section.className = "rule";
-    section.dataset.title = titles.join("\n");
     const heads = document.createElement("div");
     heads.className = "heads";
     for (const title of titles) {

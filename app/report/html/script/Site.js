@@ -114,7 +114,6 @@ class Site {
 
   listenToFilters() {
     const order = new FindingOrder(this.section.querySelector(".groups"), this.form);
-    if (!order.isWrittenByRule) this.form.elements.order.options[2].defaultSelected = true;
     const update = () => {
       order.apply(this.form.elements.order.value);
       this.filter();
