@@ -11,6 +11,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <map>
 
 namespace firecheck {
@@ -76,8 +77,11 @@ private:
     QStringList clausesOf(const MergedFinding& merged) const {
         QStringList clauses;
         for (const std::size_t number : merged.numbers)
-            clauses << clauseName(m_report.record(m_report.findings[number - 1]).standard);
+            clauses << m_report.record(m_report.findings[number - 1]).standard;
         clauses.removeDuplicates();
+        std::sort(clauses.begin(), clauses.end(), clausePrecedes);
+        for (QString& clause : clauses)
+            clause = clauseName(clause);
         return clauses;
     }
 

@@ -45,7 +45,7 @@ QString notJudgedTable(const SiteReport& report) {
         rows += row({asSentence(unjudgedText(report, unjudged)), escaped(unjudgedByText(unjudged))});
     for (const PassedOver& passedOver : report.notJudged)
         rows += row({escaped(passedOver.what), escaped(passedOver.reason)});
-    const int count = static_cast<int>(report.unjudged.size() + report.notJudged.size());
+    const int count = static_cast<int>(report.unjudgedCount() + report.notJudged.size());
     return rows.isEmpty() ? rows : table(Words::tr("Not judged: %n", "", count), {}, rows, false);
 }
 

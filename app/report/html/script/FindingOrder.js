@@ -40,7 +40,8 @@ class FindingOrder {
   }
 
   clausesOf(finding) {
-    return [...new Set(this.rulesOf(finding).map(({ clause }) => clause))].join("; ");
+    const rules = this.rulesOf(finding).sort((a, b) => a.clausePlace - b.clausePlace);
+    return [...new Set(rules.map(({ clause }) => clause))].join("; ");
   }
 
   clausePlace(finding) {
