@@ -95,6 +95,13 @@ class Languages(unittest.TestCase):
             self.assertRegex(text, "[\u4e00-\u9fff]")
             self.assertIsNone(re.search("[A-Za-z]{3}", text), text)
 
+    def test_chinese_example_differs_in_texts_alone(self):
+        def objects(name):
+            site = json.loads((ROOT / "examples" / name).read_text())["objects"]
+            return [{key: value for key, value in thing.items() if key != "name"} for thing in site]
+
+        self.assertEqual(objects("small-yard.zh_CN.json"), objects("small-yard.json"))
+
     def test_no_english_in_chinese_reports(self):
         with tempfile.TemporaryDirectory() as directory:
             for example in ["tower-site", "every-rule-offends"]:
