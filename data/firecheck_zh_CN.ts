@@ -1947,5 +1947,197 @@
         <source>Rules, and what the rule file says of them</source>
         <translation>规则及规则文件的说明</translation>
     </message>
+    <message>
+        <source>Move %1 %2 north</source>
+        <translation>将%1向北移动 %2</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 south</source>
+        <translation>将%1向南移动 %2</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 east</source>
+        <translation>将%1向东移动 %2</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 west</source>
+        <translation>将%1向西移动 %2</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 north-east, %3 on each axis</source>
+        <translation>将%1向东北移动 %2（每个坐标轴方向 %3）</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 south-east, %3 on each axis</source>
+        <translation>将%1向东南移动 %2（每个坐标轴方向 %3）</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 north-west, %3 on each axis</source>
+        <translation>将%1向西北移动 %2（每个坐标轴方向 %3）</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 south-west, %3 on each axis</source>
+        <translation>将%1向西南移动 %2（每个坐标轴方向 %3）</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 east and %3 north</source>
+        <translation>将%1向东移动 %2、向北移动 %3</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 east and %3 south</source>
+        <translation>将%1向东移动 %2、向南移动 %3</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 west and %3 north</source>
+        <translation>将%1向西移动 %2、向北移动 %3</translation>
+    </message>
+    <message>
+        <source>Move %1 %2 west and %3 south</source>
+        <translation>将%1向西移动 %2、向南移动 %3</translation>
+    </message>
+    <message>
+        <source>Add an extinguisher box at (%1, %2) m</source>
+        <translation>在（%1，%2）m 处增设灭火器箱</translation>
+    </message>
+    <message>
+        <source>Add an object of class %1 and use &quot;%2&quot; at (%3, %4) m, %5 by %6</source>
+        <translation>在（%3，%4）m 处增设类别为 %1、用途为“%2”的构件，尺寸 %5 × %6</translation>
+    </message>
+    <message>
+        <source>Add an object of class %1 and use &quot;%2&quot; at (%3, %4) m, %5 by %6, with an extinguisher box beside it</source>
+        <translation>在（%3，%4）m 处增设类别为 %1、用途为“%2”的构件，尺寸 %5 × %6，并在其旁设置灭火器箱</translation>
+    </message>
+    <message>
+        <source>Turn %1 by %2° counter-clockwise</source>
+        <translation>将%1逆时针旋转 %2°</translation>
+    </message>
+    <message>
+        <source>Turn %1 by %2° clockwise</source>
+        <translation>将%1顺时针旋转 %2°</translation>
+    </message>
+    <message>
+        <source>Widen %1 to %2</source>
+        <translation>将%1加宽至 %2</translation>
+    </message>
+    <message>
+        <source>Raise %1 by %2</source>
+        <translation>将%1抬高 %2</translation>
+    </message>
+    <message>
+        <source>Lay %1 in the ground, %2 deep</source>
+        <translation>将%1改为埋地敷设，埋深 %2</translation>
+    </message>
+    <message>
+        <source>Give %1 a stair at each end</source>
+        <translation>在%1两端各设一部楼梯</translation>
+    </message>
+    <message>
+        <source>Give %1 %2 floors instead of %3</source>
+        <translation>将%1的层数由 %3 层改为 %2 层</translation>
+    </message>
+    <message>
+        <source>Shorten %1 to %2 from %3</source>
+        <translation>将%1的长度由 %3 缩短至 %2</translation>
+    </message>
+    <message>
+        <source>Set the partitions of %1 at %2 m along it</source>
+        <translation>将%1的隔墙设在沿其长度 %2 m 处</translation>
+    </message>
+    <message>
+        <source>Make %1 a fire road</source>
+        <translation>将%1设为临时消防车道</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1或%2</translation>
+    </message>
+    <message>
+        <source>%1: %2 then measures %3</source>
+        <translation>%1：此后 %2 的实测值为 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is then kept</source>
+        <translation>%1：此后符合 %2</translation>
+    </message>
+    <message>
+        <source>nothing within %1 helps: every way breaks %2, or stands in %3</source>
+        <translation>%1 范围内没有可行的办法：每种办法都违反 %2，或与%3重叠</translation>
+    </message>
+    <message>
+        <source>nothing within %1 helps: every way breaks %2</source>
+        <translation>%1 范围内没有可行的办法：每种办法都违反 %2</translation>
+    </message>
+    <message>
+        <source>nothing within %1 helps: every way stands in %2</source>
+        <translation>%1 范围内没有可行的办法：每种办法都与%2重叠</translation>
+    </message>
+    <message>
+        <source>nothing within %1 helps</source>
+        <translation>%1 范围内没有可行的办法</translation>
+    </message>
+    <message>
+        <source>the rule takes the distance for granted, so that no move changes it</source>
+        <translation>该规则取固定的间距，移动不会改变结果</translation>
+    </message>
+    <message>
+        <source>gates, walls and roads stay where they are</source>
+        <translation>出入口、围墙和道路保持原位</translation>
+    </message>
+    <message>
+        <source>no road of the site closes the loop as a further fire road</source>
+        <translation>现场没有道路可作为临时消防车道使环路闭合</translation>
+    </message>
+    <message>
+        <source>a fire road has to be added: an object of class road with &quot;fireRoad&quot;: true</source>
+        <translation>需增设临时消防车道：类别为 road 且 &quot;fireRoad&quot;: true 的构件</translation>
+    </message>
+    <message>
+        <source>neither of the elements may be moved</source>
+        <translation>两个构件都不允许移动</translation>
+    </message>
+    <message>
+        <source>this removes 1 other offence as well</source>
+        <translation>同时消除另外 1 处不符合</translation>
+    </message>
+    <message numerus="yes">
+        <source>this removes %n other offences as well</source>
+        <translation>
+            <numerusform>同时消除另外 %n 处不符合</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No suggestion: %1</source>
+        <translation>无建议：%1</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>建议：%1</translation>
+    </message>
+    <message>
+        <source>and then: %1</source>
+        <translation>然后：%1</translation>
+    </message>
+    <message>
+        <source>No change helps</source>
+        <translation>没有可行的修改</translation>
+    </message>
+    <message>
+        <source>1 change</source>
+        <translation>1 项修改</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changes, one after the other</source>
+        <translation>
+            <numerusform>依次 %n 项修改</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing remains</source>
+        <translation>无遗留问题</translation>
+    </message>
+    <message>
+        <source>What remains</source>
+        <translation>遗留问题</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,6 @@
 #include "check/check_site.h"
 
-#include "cad/UdApDocManager.h"
+#include "check/CurrentDocument.h"
 #include "explain/element_noun.h"
 #include "report/plan/plan_shapes.h"
 #include "text/words.h"
@@ -8,24 +8,6 @@
 namespace firecheck {
 
 namespace {
-
-/// A document that is open and current as long as this lives.
-class CurrentDocument {
-public:
-    explicit CurrentDocument(std::unique_ptr<UdDbDocument> database)
-        : m_document(UdDocManagerPtr()->open(std::move(database))) {}
-    ~CurrentDocument() { UdDocManagerPtr()->close(m_document); }
-    CurrentDocument(const CurrentDocument&) = delete;
-    CurrentDocument& operator=(const CurrentDocument&) = delete;
-
-    const UdDbObjects& objects() const { return m_document->Database()->GetModelSpace()->objects(); }
-    UdDbObject* object(long long handle) const {
-        return m_document->Database()->GetItem(handle, UdDb::kForRead);
-    }
-
-private:
-    UdApDocument* m_document;
-};
 
 std::string nameOf(const Site& site, long long handle) {
     const auto known = site.labels.find(handle);

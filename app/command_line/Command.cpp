@@ -15,6 +15,12 @@ const CommandOption kOutput{
     "Write the result to this file, which takes the place of an older one only when all is written."};
 
 const CommandOption kLanguage{"lang", "en|zh_CN", "The language of every sentence; English unless given."};
+const CommandOption kReach{"reach", "METRES", "The longest move that is tried; 10 unless given."};
+const CommandOption kKeep{"keep", "HANDLE", "Leave the element of this handle as it is; may be repeated."};
+const CommandOption kMove{
+    "move", "CLASS",
+    "Move objects of this class, too, as futureHouse or road, which stay where they are "
+    "otherwise; may be repeated."};
 
 CommandOption format(const char* choice) {
     return {"format", choice, "The format of the result; the first one unless given."};
@@ -44,6 +50,9 @@ const std::vector<Command>& commands() {
            "Report only the rules whose name fits the pattern, with * and ?; may be repeated."},
           {"ignore", "PATTERN",
            "Leave the rules whose name fits the pattern out of the report; may be repeated."},
+          {"suggest", "",
+           "Tell for each violation the smallest change of one element that removes it, in text and JSON. "
+           "\"firecheck help suggest\" tells more."},
           {"unjudged", "", "List the elements, too, that no rule compared with anything."},
           {"no-results", "", "Leave the engine's own two maps out of JSON."},
           {"accept", "FILE",
@@ -65,6 +74,26 @@ const std::vector<Command>& commands() {
          "The exit status is 1 when anything that is not accepted is new or worse, or is no longer reported because "
          "its rule was not run or its element not judged.",
          compareCommand},
+        {"suggest",
+         "SITE",
+         {kRules,
+          format("text|json"),
+          kOutput,
+          kLanguage,
+          kReach,
+          kKeep,
+          kMove,
+          {"all", "",
+           "Tell a sequence of changes for the whole site instead, until nothing is left or nothing helps, and what "
+           "remains."},
+          {"apply", "FILE",
+           "Write the site with the changes of --all, which this implies, and everything else as it was."}},
+         "Tells what would remove each violation: a move, a turn, a wider road, another box.",
+         "Each suggestion is the smallest change found of one element. The checker has judged the whole site with "
+         "it: the violation is gone, none is new and none is worse. Houses, sheds, yards, substations, boxes, "
+         "posters, cranes and models are moved, in steps of 10 mm; buildings under construction, roads, walls and "
+         "doors are not.",
+         suggestCommand},
         {"plan",
          "SITE",
          {kRules, kOutput, kLanguage},

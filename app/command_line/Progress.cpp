@@ -24,16 +24,20 @@ Progress::~Progress() {
 }
 
 void Progress::tell(const firestandard::CheckStep& step) {
+    tell(step.judged, step.rules, step.next.name.toStdString());
+}
+
+void Progress::tell(std::size_t done, std::size_t all, const std::string& next) {
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - m_begin;
     if (!m_isTerminal || spent < kPatience)
         return;
-    const std::size_t share = 100 * step.judged / step.rules;
-    const std::string rule = printable(step.next.name.toStdString());
-    if (step.judged == 0) {
+    const std::size_t share = 100 * done / all;
+    const std::string rule = printable(next);
+    if (done == 0) {
         write(filled(Words::tr("%1: %2 %, %3", "file, share, rule"), m_fileName, share, rule));
         return;
     }
-    const double left = spent.count() / double(step.judged) * double(step.rules - step.judged);
+    const double left = spent.count() / double(done) * double(all - done);
     write(filled(Words::tr("%1: %2 %, about %3 s left, %4", "file, share, time, rule"), m_fileName, share,
                  static_cast<long>(left) + 1, rule));
 }

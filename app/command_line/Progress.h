@@ -17,6 +17,8 @@ public:
     Progress& operator=(const Progress&) = delete;
 
     void tell(const firestandard::CheckStep& step);
+    /// Before the next of all that is gone through.
+    void tell(std::size_t done, std::size_t all, const std::string& next);
 
 private:
     void write(const std::string& line);

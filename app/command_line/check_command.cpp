@@ -15,6 +15,7 @@
 #include "site_file/site_reader.h"
 #include "site_lint/SiteDoubts.h"
 #include "site_lint/site_lint_report.h"
+#include "suggest/suggest_changes.h"
 #include "text/printable.h"
 #include "text/words.h"
 
@@ -59,7 +60,7 @@ void complainOfAll(const RefusedSite& refused, const std::string& fileName) {
 }
 
 /// The site, or nothing and complaints: one wrong file does not keep the others from being checked.
-std::optional<Site> tryLoadSite(const std::string& fileName, const RuleMap& rules, bool isQuiet) {
+std::optional<SiteFile> tryLoadSite(const std::string& fileName, const RuleMap& rules, bool isQuiet) {
     try {
         SiteFile file = loadSiteFile(fileName);
         const std::size_t count = isQuiet ? 0 : siteDoubts(file, rules).size();
@@ -67,7 +68,7 @@ std::optional<Site> tryLoadSite(const std::string& fileName, const RuleMap& rule
             complain(fileName + ": " +
                      filled(Words::tr("%1 about the site file, see \"firecheck lint-site\"", "doubts"),
                             countedDoubts(count)));
-        return std::move(file.site);
+        return file;
     } catch (const RefusedSite& refused) {
         complainOfAll(refused, fileName);
     } catch (const InputError& error) {
@@ -118,13 +119,15 @@ public:
           m_selection(options.values("select"), options.values("ignore"), ruleNames(rules)),
           m_accept(options) {}
 
-    SiteReport check(Site site, const std::string& fileName) {
-        SiteReport report = withProgress(std::move(site), fileName);
+    SiteReport check(SiteFile file, const std::string& fileName) {
+        SiteReport report = withProgress(std::move(file.site), fileName);
         if (!m_options.isSet("unjudged"))
             report.judgedByNoRule.clear();
         m_accept.applyTo(report);
         m_selection.applyTo(report);
         orderFindings(report, orderNamed(m_options.choice("order")));
+        if (m_options.isSet("suggest"))
+            suggest(file.value, report);
         if (m_options.isSet("profile"))
             writeProfile(report);
         return report;
@@ -139,6 +142,14 @@ private:
             progress.tell(step);
             return true;
         });
+    }
+
+    void suggest(const Json& site, SiteReport& report) const {
+        Progress progress(report.fileName);
+        report.suggestions = suggestChanges(site, report, m_rules, {},
+                                            [&](std::size_t done, std::size_t all, const std::string& rule) {
+                                                progress.tell(done, all, rule);
+                                            });
     }
 
     const Options& m_options;
@@ -167,7 +178,7 @@ int checkCommand(const Options& options) {
     writer->begin();
     for (const QString& argument : options.arguments()) {
         const std::string fileName = argument.toStdString();
-        std::optional<Site> site = tryLoadSite(fileName, rules, options.isSet("quiet"));
+        std::optional<SiteFile> site = tryLoadSite(fileName, rules, options.isSet("quiet"));
         if (!site) {
             status = kWrongInput;
             continue;

@@ -24,6 +24,7 @@ int manualCommand(const Options& options);
 int planCommand(const Options& options);
 int showRulesCommand(const Options& options);
 int siteSchemaCommand(const Options& options);
+int suggestCommand(const Options& options);
 
 /// Throws InputError, with the name that was probably meant, when there is none of that name.
 const Command& requiredCommand(const std::string& name);

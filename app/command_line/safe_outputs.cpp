@@ -67,10 +67,11 @@ std::vector<NamedFile> inputsOf(const Options& options, const Command& command) 
 void requireSafeOutputs(const Options& options, const Command& command) {
     std::vector<NamedFile> outputs;
     append(outputs, "output", options, command);
+    append(outputs, "apply", options, command);
     append(outputs, "write-accept", options, command);
     if (outputs.size() == 2 && areSame(outputs[0].name, outputs[1].name))
-        throw InputError(outputs[0].name.toStdString() +
-                         ": expected another file for --write-accept than for --output");
+        throw InputError(outputs[0].name.toStdString() + ": expected another file for " + outputs[1].role +
+                         " than for " + outputs[0].role);
     bool continuesAcceptances = false;
     for (const NamedFile& output : outputs)
         for (const NamedFile& input : inputsOf(options, command)) {

@@ -12,6 +12,7 @@ namespace {
 /// The wanted values as a tree of keys and indices.
 struct Wanted {
     std::size_t offset = 0; ///< in the text, once it was met
+    ByteRange value;        ///< behind the key, where there is one
     bool isMet = false;
     std::map<std::string, Wanted> inner;
 };
@@ -49,6 +50,7 @@ private:
     void scanValue(Wanted* wanted, std::size_t offset) {
         if (wanted) {
             wanted->offset = offset;
+            wanted->value.begin = m_at;
             wanted->isMet = true;
         }
         const char first = m_text[m_at];
@@ -58,6 +60,8 @@ private:
             scanString();
         else
             m_at = std::min(m_text.find_first_of(",]} \t\r\n", m_at), m_text.size());
+        if (wanted)
+            wanted->value.end = m_at;
     }
 
     void scanInner(Wanted* wanted, bool isObject) {
@@ -106,7 +110,8 @@ Wanted wantedOf(const std::vector<std::string>& pointers) {
     return top;
 }
 
-std::size_t offsetOf(const Wanted& top, const std::string& pointer) {
+/// The value, or the innermost one around it.
+const Wanted& metBy(const Wanted& top, const std::string& pointer) {
     const Wanted* wanted = &top;
     for (const std::string& step : stepsOf(pointer)) {
         const Wanted& inner = wanted->inner.at(step);
@@ -114,7 +119,7 @@ std::size_t offsetOf(const Wanted& top, const std::string& pointer) {
             break;
         wanted = &inner;
     }
-    return wanted->offset;
+    return *wanted;
 }
 
 } // namespace
@@ -134,7 +139,7 @@ std::vector<Place> jsonPlaces(const std::string& text, const std::vector<std::st
     Scanner(text).scan(top);
     std::map<std::size_t, Place> places; // each line is counted once, however many values stand there
     for (const std::string& pointer : pointers)
-        places[offsetOf(top, pointer)];
+        places[metBy(top, pointer).offset];
     std::size_t start = 0;
     int linesBefore = 0;
     for (auto& [offset, place] : places) {
@@ -147,8 +152,17 @@ std::vector<Place> jsonPlaces(const std::string& text, const std::vector<std::st
     std::vector<Place> result;
     result.reserve(pointers.size());
     for (const std::string& pointer : pointers)
-        result.push_back(places[offsetOf(top, pointer)]);
+        result.push_back(places[metBy(top, pointer).offset]);
     return result;
+}
+
+std::vector<ByteRange> jsonRanges(const std::string& text, const std::vector<std::string>& pointers) {
+    Wanted top = wantedOf(pointers);
+    Scanner(text).scan(top);
+    std::vector<ByteRange> ranges;
+    for (const std::string& pointer : pointers)
+        ranges.push_back(metBy(top, pointer).value);
+    return ranges;
 }
 
 } // namespace firecheck

@@ -2,6 +2,7 @@
 
 #include "explain/CheckReport.h"
 #include "report/plan/PlanShape.h"
+#include "suggest/Suggestion.h"
 
 namespace firecheck {
 
@@ -27,6 +28,8 @@ struct SiteReport : firestandard::CheckReport {
     FindingOrder order = FindingOrder::Rule; ///< in which the findings stand
     std::size_t leftOutRules = 0;            ///< of the rule file, by a selection
     std::vector<std::string> staleAcceptances; ///< accepted violations that are no longer there
+    /// What would remove the findings that are not accepted; nothing where nobody asked.
+    std::optional<std::vector<Suggestion>> suggestions;
 };
 
 } // namespace firecheck

@@ -3,6 +3,7 @@
 #include "report/judgement_text.h"
 #include "report/missing_share.h"
 #include "rules/rule_texts.h"
+#include "suggest/suggestion_json.h"
 
 namespace firecheck {
 
@@ -181,13 +182,16 @@ Json headJson(const SiteReport& report) {
 }
 
 Json tailJson(const SiteReport& report) {
-    return {{"elements", labelsJson(report.elements)},
-            {"judged", judgedJson(report)},
-            {"clauses", clausesJson(report)},
-            {"unjudged", unjudgedJson(report)},
-            {"notJudged", notJudgedJson(report)},
-            {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
-            {"staleAcceptances", report.staleAcceptances}};
+    Json tail{{"elements", labelsJson(report.elements)},
+              {"judged", judgedJson(report)},
+              {"clauses", clausesJson(report)},
+              {"unjudged", unjudgedJson(report)},
+              {"notJudged", notJudgedJson(report)},
+              {"judgedByNoRule", labelsJson(report.judgedByNoRule)},
+              {"staleAcceptances", report.staleAcceptances}};
+    if (report.suggestions)
+        tail["suggestions"] = suggestionsJson(*report.suggestions);
+    return tail;
 }
 
 std::string lineAt(int indent) {

@@ -5,6 +5,7 @@
 #include "report/judgement_text.h"
 #include "report/missing_share.h"
 #include "report/unjudged_text.h"
+#include "suggest/suggestion_text.h"
 #include "text/printable.h"
 #include "text/words.h"
 
@@ -159,6 +160,17 @@ private:
             places = filled(Words::tr("%1 and %2", "end of a list"), places, othersText(finding));
         if (!places.empty())
             write("    " + places + "\n");
+        writeSuggestion(report, finding);
+    }
+
+    void writeSuggestion(const SiteReport& report, const Finding& finding) const {
+        const auto number = static_cast<std::size_t>(&finding - report.findings.data());
+        if (!report.suggestions)
+            return;
+        for (const Suggestion& suggestion : *report.suggestions)
+            if (suggestion.finding == number)
+                for (const std::string& line : suggestionLines(suggestion))
+                    write("    " + printable(line) + "\n");
     }
 
     void writeStale(const SiteReport& report) const {

@@ -1,6 +1,7 @@
 #include "report/plan/plan_shapes.h"
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
+#include "site_lint/outline_overlap.h"
 #include "text/words.h"
 
 #include <QByteArray>
@@ -19,90 +20,11 @@ constexpr double kOverlapTolerance = 100.0;
 /// No site reaches this far from its middle.
 constexpr double kFarthest = 5000e3;
 
-/// An outline in plan, arcs as chords.
-struct Outline {
+/// The footprint of an object of the site.
+struct Footprint {
     std::size_t object = 0;
-    std::vector<Point> corners;
-    hrx::CBox2d box;
+    PlanOutline outline;
 };
-
-void appendChords(const hrx::Edge2d& edge, int halvings, std::vector<Point>& corners) {
-    if (halvings == 0 || !edge.isArc()) {
-        corners.push_back(edge.start);
-        return;
-    }
-    const auto [first, second] = edge.halves();
-    appendChords(first, halvings - 1, corners);
-    appendChords(second, halvings - 1, corners);
-}
-
-double signedDistance(const Point& start, const Point& end, const Point& point) {
-    const double length = std::hypot(end.x - start.x, end.y - start.y);
-    const double turn = (end.x - start.x) * (point.y - start.y) - (end.y - start.y) * (point.x - start.x);
-    return length > 0.0 ? turn / length : 0.0;
-}
-
-/// Whether two edges cross, each end beyond the tolerance on its own side of the other.
-bool crossDeeply(const Point& a, const Point& b, const Point& c, const Point& d) {
-    const auto apart = [](double first, double second) {
-        return std::min(std::abs(first), std::abs(second)) > kOverlapTolerance &&
-               (first < 0.0) != (second < 0.0);
-    };
-    return apart(signedDistance(c, d, a), signedDistance(c, d, b)) &&
-           apart(signedDistance(a, b, c), signedDistance(a, b, d));
-}
-
-double distanceTo(const Point& start, const Point& end, const Point& point) {
-    const double dx = end.x - start.x;
-    const double dy = end.y - start.y;
-    const double square = dx * dx + dy * dy;
-    double share = square > 0.0 ? ((point.x - start.x) * dx + (point.y - start.y) * dy) / square : 0.0;
-    share = std::clamp(share, 0.0, 1.0);
-    return std::hypot(start.x + dx * share - point.x, start.y + dy * share - point.y);
-}
-
-bool isDeepInside(const Point& point, const Outline& outline) {
-    bool isInside = false;
-    const auto& corners = outline.corners;
-    for (std::size_t i = 0, j = corners.size() - 1; i < corners.size(); j = i++) {
-        const Point& a = corners[i];
-        const Point& b = corners[j];
-        if (distanceTo(a, b, point) <= kOverlapTolerance)
-            return false;
-        if ((a.y > point.y) != (b.y > point.y) && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
-            isInside = !isInside;
-    }
-    return isInside;
-}
-
-/// Corners and the middles of edges, so that elements drawn twice at one place are found by their middle.
-std::vector<Point> probesOf(const Outline& outline) {
-    std::vector<Point> probes = outline.corners;
-    Point middle{0.0, 0.0};
-    for (std::size_t i = 0; i < outline.corners.size(); ++i) {
-        const Point& a = outline.corners[i];
-        const Point& b = outline.corners[(i + 1) % outline.corners.size()];
-        probes.push_back({(a.x + b.x) * 0.5, (a.y + b.y) * 0.5});
-        middle = {middle.x + a.x / double(outline.corners.size()),
-                  middle.y + a.y / double(outline.corners.size())};
-    }
-    if (isDeepInside(middle, outline))
-        probes.push_back(middle);
-    return probes;
-}
-
-bool overlap(const Outline& a, const Outline& b) {
-    for (const auto& [inner, outer] : {std::pair(&a, &b), std::pair(&b, &a)})
-        for (const Point& probe : probesOf(*inner))
-            if (isDeepInside(probe, *outer))
-                return true;
-    for (std::size_t i = 0; i < a.corners.size(); ++i)
-        for (std::size_t j = 0; j < b.corners.size(); ++j)
-            if (crossDeeply(a.corners[i], a.corners[(i + 1) % a.corners.size()], b.corners[j],
-                            b.corners[(j + 1) % b.corners.size()]))
-                return true;
-    return false;
-}
 
 /// Elements of which no two can have the same ground: not models, cranes, roads and what hangs above.
 bool standsAlone(const PlanShape& shape, const std::string& className) {
@@ -124,15 +46,13 @@ public:
     }
 
     void doubtOverlaps() {
-        std::sort(m_outlines.begin(), m_outlines.end(),
-                  [](const Outline& a, const Outline& b) { return a.box.low.x < b.box.low.x; });
-        for (std::size_t i = 0; i < m_outlines.size(); ++i)
-            for (std::size_t j = i + 1; j < m_outlines.size() && startsWithin(m_outlines[j], m_outlines[i]);
-                 ++j)
-                if (m_outlines[j].box.low.y < m_outlines[i].box.high.y &&
-                    m_outlines[i].box.low.y < m_outlines[j].box.high.y &&
-                    overlap(m_outlines[i], m_outlines[j]))
-                    addOverlap(m_outlines[i].object, m_outlines[j].object);
+        std::sort(m_footprints.begin(), m_footprints.end(), [](const Footprint& a, const Footprint& b) {
+            return a.outline.box.low.x < b.outline.box.low.x;
+        });
+        for (auto a = m_footprints.begin(); a != m_footprints.end(); ++a)
+            for (auto b = a + 1; b != m_footprints.end() && startsWithin(*b, *a); ++b)
+                if (standInEachOther(a->outline, b->outline, kOverlapTolerance))
+                    addOverlap(a->object, b->object);
     }
 
     void doubtRemote() {
@@ -159,18 +79,15 @@ private:
              {(shape.box.low.x + shape.box.high.x) * 0.5, (shape.box.low.y + shape.box.high.y) * 0.5}});
         if (!standsAlone(shape, m_site.objects()[index].at(kClassKey).get<std::string>()))
             return;
-        constexpr int halvings = 3;
         constexpr std::size_t longest = 1000;
-        Outline outline{index, {}, shape.box};
-        const PlanPath& footprint = shape.paths.back(); // a house's stairs are drawn below it
-        for (const hrx::Edge2d& edge : footprint.edges)
-            appendChords(edge, halvings, outline.corners);
+        // A house's stairs are drawn below its footprint.
+        PlanOutline outline = planOutlineOf(shape.paths.back());
         if (outline.corners.size() <= longest)
-            m_outlines.push_back(std::move(outline));
+            m_footprints.push_back({index, std::move(outline)});
     }
 
-    static bool startsWithin(const Outline& later, const Outline& earlier) {
-        return later.box.low.x < earlier.box.high.x;
+    static bool startsWithin(const Footprint& later, const Footprint& earlier) {
+        return later.outline.box.low.x < earlier.outline.box.high.x;
     }
 
     void addOverlap(std::size_t a, std::size_t b) {
@@ -192,7 +109,7 @@ private:
 
     const DoubtedSite& m_site;
     SiteDoubts& m_doubts;
-    std::vector<Outline> m_outlines;
+    std::vector<Footprint> m_footprints;
     std::vector<std::pair<std::size_t, Point>> m_middles;
 };
 

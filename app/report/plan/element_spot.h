@@ -4,8 +4,8 @@
 
 namespace firecheck {
 
-/// Where a pin or a name stands on an element, and how much of the element lies around it. Millimetres; a line
-/// has nothing around it.
+/// Where a pin or a name stands on an element, and how much of the element lies around it. Millimetres; a
+/// line has nothing around it.
 struct ElementSpot {
     hrx::CVec2<double> point;
     double halfWidth = 0.0;  ///< as far as the element reaches to both sides

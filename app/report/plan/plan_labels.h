@@ -26,8 +26,8 @@ struct PlanLabel {
     int level = -1; ///< the first magnification at which it is free of others; -1 when at none
 };
 
-/// Places the labels in their order, each as early as it finds room in the plan beside those placed before and
-/// beside the obstacles, whose rooms are given for each level.
+/// Places the labels in their order, each as early as it finds room in the plan beside those placed before
+/// and beside the obstacles, whose rooms are given for each level.
 void placeLabels(std::vector<PlanLabel>& labels, const std::vector<std::vector<PlanRoom>>& obstacles,
                  double planWidth, double planHeight);
 

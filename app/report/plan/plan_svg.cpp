@@ -53,9 +53,10 @@ public:
         const QString name = escaped(m_report.siteName.empty() ? m_report.fileName : m_report.siteName);
         return "<svg" + attributes + " viewBox=\"0 0 " + drawnNumber(m_frame.width()) + " " +
                drawnNumber(m_frame.height()) + "\" font-size=\"" +
-               drawnNumber(labelHeight(m_frame.width(), kLevelWithoutScripts)) + "\" role=\"group\" aria-label=\"" +
-               Words::tr("Plan of %1").arg(name) + "\">\n" + head + "<g class=\"ground\">\n" + elements() +
-               measures() + "</g>\n" + labels() + scaleBar() + north() + "</svg>\n";
+               drawnNumber(labelHeight(m_frame.width(), kLevelWithoutScripts)) +
+               "\" role=\"group\" aria-label=\"" + Words::tr("Plan of %1").arg(name) + "\">\n" + head +
+               "<g class=\"ground\">\n" + elements() + measures() + "</g>\n" + labels() + scaleBar() +
+               north() + "</svg>\n";
     }
 
     std::vector<PlanPin> takePins() { return std::move(m_pins); }
@@ -220,18 +221,19 @@ private:
     }
 
     void appendMeasureTexts(std::vector<PlanLabel>& labels) const {
-        everyMeasure([&](std::size_t i, const Measure& measure, const DrawnPoint& from, const DrawnPoint& to) {
-            if (isFar(from, to))
-                return;
-            PlanLabel label;
-            label.text = QString::fromStdString(firestandard::valueText(measure));
-            label.attributes = " class=\"value " + coloursOf(i) + (isAccepted(i) ? " excused" : "") +
-                               "\" data-finding=\"" + numberOf(i) + "\"";
-            label.middle = {0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
-            label.halfWidth = 0.5 * std::abs(from.x - to.x);
-            label.halfHeight = 0.5 * std::abs(from.y - to.y);
-            labels.push_back(label);
-        });
+        everyMeasure(
+            [&](std::size_t i, const Measure& measure, const DrawnPoint& from, const DrawnPoint& to) {
+                if (isFar(from, to))
+                    return;
+                PlanLabel label;
+                label.text = QString::fromStdString(firestandard::valueText(measure));
+                label.attributes = " class=\"value " + coloursOf(i) + (isAccepted(i) ? " excused" : "") +
+                                   "\" data-finding=\"" + numberOf(i) + "\"";
+                label.middle = {0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
+                label.halfWidth = 0.5 * std::abs(from.x - to.x);
+                label.halfHeight = 0.5 * std::abs(from.y - to.y);
+                labels.push_back(label);
+            });
     }
 
     /// Offending elements first, then the larger before the smaller.
@@ -288,9 +290,9 @@ private:
         const double tick = m_frame.margin() / 3.0;
         const double x = m_frame.margin();
         return "<g class=\"scale\"><path d=\"M" + drawnPair({x, y - tick}) + "V" + drawnNumber(y) + "H" +
-               drawnNumber(x + length) + "V" + drawnNumber(y - tick) + "\"/><text class=\"right\" dx=\".3em\" x=\"" +
-               drawnNumber(x + length) + "\" y=\"" + drawnNumber(y) + "\">" +
-               Words::tr("%1 m").arg(QString::number(length)) + "</text></g>\n";
+               drawnNumber(x + length) + "V" + drawnNumber(y - tick) +
+               "\"/><text class=\"right\" dx=\".3em\" x=\"" + drawnNumber(x + length) + "\" y=\"" +
+               drawnNumber(y) + "\">" + Words::tr("%1 m").arg(QString::number(length)) + "</text></g>\n";
     }
 
     /// In the strip of the scale bar.

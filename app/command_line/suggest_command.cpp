@@ -1,0 +1,140 @@
+#include "InputError.h"
+#include "check/check_site.h"
+#include "command_line/Options.h"
+#include "command_line/Output.h"
+#include "command_line/Progress.h"
+#include "command_line/commands.h"
+#include "rules/rule_file.h"
+#include "site_file/site_classes.h"
+#include "site_file/site_reader.h"
+#include "suggest/changed_text.h"
+#include "suggest/suggest_changes.h"
+#include "suggest/suggestion_json.h"
+#include "suggest/suggestion_text.h"
+
+#include <cmath>
+
+namespace firecheck {
+
+namespace {
+
+double reachOf(const Options& options) {
+    constexpr double longest = 1e3; // metres
+    const auto given = options.value("reach");
+    if (!given)
+        return SuggestOptions().reach;
+    bool isNumber = false;
+    const double metres = given->toDouble(&isNumber);
+    if (!isNumber || !(metres > 0.0) || metres > longest)
+        throw InputError("Option --reach: expected metres above 0 and up to 1000, found \"" +
+                         given->toStdString() + "\".");
+    return metres / firestandard::kMetresPerMillimetre;
+}
+
+std::set<std::string> movedClasses(const Options& options) {
+    std::vector<std::string> known;
+    for (const SiteClass& siteClass : siteClasses())
+        known.push_back(siteClass.name);
+    std::set<std::string> classes;
+    for (const QString& given : options.values("move")) {
+        const std::string name = given.toStdString();
+        if (std::find(known.begin(), known.end(), name) == known.end())
+            throw InputError("Option --move: no class is named \"" + name + "\". " +
+                             suggestionText(name, known) +
+                             "Try \"firecheck site-schema --format markdown\".");
+        classes.insert(name);
+    }
+    return classes;
+}
+
+std::set<long long> keptHandles(const Options& options, const Site& site) {
+    std::set<long long> handles;
+    for (const QString& given : options.values("keep")) {
+        bool isNumber = false;
+        const long long handle = given.toLongLong(&isNumber);
+        if (!isNumber || site.labels.count(handle) == 0)
+            throw InputError("Option --keep: the site has no object with the handle \"" +
+                             given.toStdString() + "\".");
+        handles.insert(handle);
+    }
+    return handles;
+}
+
+Json headJson(const SiteReport& report, const SuggestOptions& options) {
+    Json findings = Json::array();
+    for (const Finding& finding : report.findings) {
+        const NuxStandardCheckRule& record = report.record(finding);
+        Json related = Json::array();
+        for (const qint64 handle : record.relatedHandles)
+            related.push_back(std::to_string(handle));
+        findings.push_back({{"rule", record.name.toStdString()},
+                            {"handle", std::to_string(record.handle)},
+                            {"relatedHandles", std::move(related)},
+                            {"sentence", finding.sentence}});
+    }
+    return {{"file", report.fileName},
+            {"name", report.siteName},
+            {"reach", options.reach * firestandard::kMetresPerMillimetre},
+            {"findings", std::move(findings)}};
+}
+
+void writeFile(const QString& name, const std::string& text) {
+    Output output(name);
+    output.write(text);
+    output.commit();
+}
+
+std::string planResult(const Options& options, const SiteFile& file, const SiteReport& report,
+                       const SuggestOptions& suggestOptions, const RuleMap& rules,
+                       const SuggestProgress& progress) {
+    const SitePlan plan = planChanges(file.value, rules, suggestOptions, progress);
+    if (const auto target = options.value("apply"))
+        writeFile(*target, changedSiteText(file.text, file.value, plan.site));
+    if (options.format() == "text")
+        return planText(report, plan);
+    Json json = headJson(report, suggestOptions);
+    json["plan"] = planJson(plan);
+    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+std::string suggestionsResult(const Options& options, const SiteFile& file, SiteReport& report,
+                              const SuggestOptions& suggestOptions, const RuleMap& rules,
+                              const SuggestProgress& progress) {
+    report.suggestions = suggestChanges(file.value, report, rules, suggestOptions, progress);
+    if (options.format() == "text")
+        return suggestionsText(report);
+    Json json = headJson(report, suggestOptions);
+    json["suggestions"] = suggestionsJson(*report.suggestions);
+    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+} // namespace
+
+int suggestCommand(const Options& options) {
+    if (options.arguments().size() != 1)
+        throw InputError("Suggestions are made for one site file. Try \"firecheck help suggest\".");
+    options.format(); // refused before anything is read
+    SuggestOptions suggestOptions;
+    suggestOptions.reach = reachOf(options);
+    suggestOptions.movable = movedClasses(options);
+    const auto givenRules = options.value("rules");
+    const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
+    requireWellFormed(ruleFile);
+    const RuleMap& rules = useRules(ruleFile);
+    const std::string fileName = options.arguments().first().toStdString();
+    SiteFile file = loadSiteFile(fileName);
+    suggestOptions.kept = keptHandles(options, file.site);
+    SiteReport report = checkSite(std::move(file.site), fileName, rules);
+
+    Progress line(fileName);
+    const auto progress = [&line](std::size_t done, std::size_t all, const std::string& rule) {
+        line.tell(done, all, rule);
+    };
+    const bool isPlan = options.isSet("all") || options.value("apply");
+    writeFile(options.value("output").value_or(QString()),
+              isPlan ? planResult(options, file, report, suggestOptions, rules, progress)
+                     : suggestionsResult(options, file, report, suggestOptions, rules, progress));
+    return report.findings.empty() ? kNothingFound : kViolationsFound;
+}
+
+} // namespace firecheck

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "suggest/Workbench.h"
+
+#include <string>
+
+namespace firecheck {
+
+/// What a change is called in JSON: "move".
+const char* actionName(Action::Kind kind);
+
+/// What to do, and what the rule that it is for measures then, the smallest value of several: 'Move dormitory
+/// 413 "Dormitory 3" 0.50 m north: Distant_PrefabHouseToPrefabHouse then measures 4.00 m'. `site` is as it
+/// stands before.
+std::string proposalText(const TrialSite& site, const Proposal& proposal, const Targets& targets);
+
+/// Why nothing helps: what tries within the reach failed for most. `reach` in mm.
+std::string obstacleText(const TrialSite& site, const Obstacles& obstacles, double reach);
+
+} // namespace firecheck
