@@ -993,11 +993,6 @@
         <translation>位于 (%1, %2) m</translation>
     </message>
     <message>
-        <source>%1 accepted</source>
-        <comment>count</comment>
-        <translation>%1 处已接受</translation>
-    </message>
-    <message>
         <source>1 element not judged</source>
         <translation>1 个构件未判断</translation>
     </message>
@@ -1640,6 +1635,317 @@
     <message>
         <source>safety walkway</source>
         <translation>安全通道</translation>
+    </message>
+    <message>
+        <source>%1 by 1 element</source>
+        <comment>violations, such as &quot;2 violations&quot;</comment>
+        <translation>1 个构件有%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 by %n elements</source>
+        <comment>violations, such as &quot;2 violations&quot;</comment>
+        <translation>
+            <numerusform>%n 个构件有%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of 1 rule judged</source>
+        <translation>1 条规则中已判定 %1 条</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n rules judged</source>
+        <translation>
+            <numerusform>%n 条规则中已判定 %1 条</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, no violations</source>
+        <comment>rules judged</comment>
+        <translation>%1，无违规</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>rules judged, violations</comment>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3 accepted</source>
+        <comment>rules judged, violations, number</comment>
+        <translation>%1，%2，其中已接受 %3 处</translation>
+    </message>
+    <message>
+        <source>No clause is cited</source>
+        <translation>未引用条文</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accepted</source>
+        <translation>
+            <numerusform>已接受 %n 处</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>something and how many there are</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>All rules</source>
+        <translation>全部规则</translation>
+    </message>
+    <message>
+        <source>All elements</source>
+        <translation>全部构件</translation>
+    </message>
+    <message>
+        <source>by rule</source>
+        <translation>按规则</translation>
+    </message>
+    <message>
+        <source>by clause</source>
+        <translation>按条文</translation>
+    </message>
+    <message>
+        <source>by how much is missing</source>
+        <translation>按不足比例</translation>
+    </message>
+    <message>
+        <source>Showing %1 of %2 violations</source>
+        <comment>by a script</comment>
+        <translation>显示 %2 处违规中的 %1 处</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>构件</translation>
+    </message>
+    <message>
+        <source>Name or handle</source>
+        <translation>名称或句柄</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>Hide what is accepted</source>
+        <translation>隐藏已接受的违规</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部显示</translation>
+    </message>
+    <message>
+        <source>n and p choose the next and the previous one.</source>
+        <translation>按 n 键选下一处，按 p 键选上一处。</translation>
+    </message>
+    <message>
+        <source>Nothing breaks a rule.</source>
+        <translation>没有违反规则之处。</translation>
+    </message>
+    <message>
+        <source>Accepted: %1</source>
+        <translation>已接受：%1</translation>
+    </message>
+    <message>
+        <source>and 1 other</source>
+        <translation>以及另外 1 个</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n others</source>
+        <translation>
+            <numerusform>以及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 % missing</source>
+        <comment>of the distance asked for</comment>
+        <translation>不足 %1 %</translation>
+    </message>
+    <message>
+        <source>%1 % too much</source>
+        <comment>of the value measured</comment>
+        <translation>超出 %1 %</translation>
+    </message>
+    <message>
+        <source>Fire-safety check</source>
+        <translation>消防检查</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence and its full stop</comment>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>工地</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>不符合项</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>已接受</translation>
+    </message>
+    <message numerus="yes">
+        <source>Fire-safety check of %n sites</source>
+        <translation>
+            <numerusform>%n 个工地的消防检查</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north, by the arrow of a plan</comment>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全图</translation>
+    </message>
+    <message>
+        <source>Show the whole plan</source>
+        <translation>显示整张平面图</translation>
+    </message>
+    <message>
+        <source>offends, in the colour of its rule</source>
+        <translation>违规，颜色表示规则</translation>
+    </message>
+    <message>
+        <source>distance between the closest points</source>
+        <translation>最近点之间的距离</translation>
+    </message>
+    <message>
+        <source>accepted</source>
+        <translation>已接受</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>未判定</translation>
+    </message>
+    <message>
+        <source>%1 stands for %2</source>
+        <comment>a cluster of pins and their numbers</comment>
+        <translation>%1 表示 %2</translation>
+    </message>
+    <message>
+        <source>Nothing of this site can be drawn.</source>
+        <translation>该工地没有可绘制的内容。</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the list. Houses are drawn with their stairs.</source>
+        <translation>编号与列表一致。房屋连同楼梯一起绘制。</translation>
+    </message>
+    <message>
+        <source>Drag moves the plan; Ctrl and the wheel, or two fingers, zoom it; so do + and −.</source>
+        <translation>拖动可移动平面图；按住 Ctrl 并滚动滚轮、双指开合或按 + 与 − 可缩放。</translation>
+    </message>
+    <message>
+        <source>No violations</source>
+        <translation>无违规</translation>
+    </message>
+    <message numerus="yes">
+        <source>Not judged: %n</source>
+        <translation>
+            <numerusform>未判定：%n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Judged by no rule: %n</source>
+        <translation>
+            <numerusform>没有规则判定：%n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>By clause</source>
+        <translation>按条文</translation>
+    </message>
+    <message>
+        <source>Clause</source>
+        <translation>条文</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>What was judged: %1 of 1 rule</source>
+        <translation>判定情况：1 条规则中已判定 %1 条</translation>
+    </message>
+    <message numerus="yes">
+        <source>What was judged: %1 of %n rules</source>
+        <translation>
+            <numerusform>判定情况：%n 条规则中已判定 %1 条</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Finds</source>
+        <translation>查找内容</translation>
+    </message>
+    <message>
+        <source>yard</source>
+        <translation>堆场</translation>
+    </message>
+    <message>
+        <source>house</source>
+        <translation>房屋</translation>
+    </message>
+    <message>
+        <source>substation</source>
+        <translation>变配电设施</translation>
+    </message>
+    <message>
+        <source>other element</source>
+        <translation>其他构件</translation>
+    </message>
+    <message>
+        <source>equipment</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Plan of %1</source>
+        <translation>%1平面图</translation>
+    </message>
+    <message>
+        <source>%1, not judged</source>
+        <comment>an element</comment>
+        <translation>%1，未判定</translation>
+    </message>
+    <message>
+        <source>Violation %1</source>
+        <translation>违规 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n violations, from %1 on</source>
+        <translation>
+            <numerusform>从 %1 起的 %n 处违规</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rules, and what the rule file says of them</source>
+        <translation>规则及规则文件的说明</translation>
     </message>
     <message>
         <source>Move %1 %2 north</source>

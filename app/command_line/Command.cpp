@@ -53,6 +53,9 @@ const std::vector<Command>& commands() {
           format("text|json|csv|html|dxf"),
           kOutput,
           kLanguage,
+          {"order", "rule|clause|missing",
+           "By what violations are listed: the rule, the clause that it cites, or the share of what the rule asks "
+           "for that is missing."},
           {"select", "PATTERN",
            "Report only the rules whose name fits the pattern, with * and ?; may be repeated."},
           {"ignore", "PATTERN",

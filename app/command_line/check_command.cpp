@@ -10,6 +10,7 @@
 #include "lint/lint_report.h"
 #include "lint/lint_rule_file.h"
 #include "report/ReportWriter.h"
+#include "report/finding_order.h"
 #include "rules/rule_file.h"
 #include "site_file/RefusedSite.h"
 #include "site_lint/SiteDoubts.h"
@@ -131,6 +132,7 @@ public:
         m_selection.applyTo(report);
         m_accept.keep(report);
         report.tellFewOfEach();
+        orderFindings(report, orderNamed(m_options.choice("order")));
         if (m_options.isSet("suggest"))
             suggest(file.value, report);
         if (m_options.isSet("profile"))
@@ -172,6 +174,7 @@ int checkCommand(const Options& options) {
     if (options.format() == "dxf" && options.arguments().size() > 1)
         throw InputError(
             "Expected one site file for --format dxf: the findings of two would lie upon each other.");
+    options.choice("order");
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();
     mentionLint(ruleFile, options.isSet("quiet"));

@@ -1,4 +1,5 @@
 #include "report/ReportWriter.h"
+#include "report/missing_share.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
 #include "text/words.h"
@@ -77,8 +78,8 @@ QStringList measureCells(const Measure* measure) {
 const char* const kHead = "file,site,violation,rule,description,standard,sentence,accepted because,"
                           "handle,class,identifier,name,x (m),y (m),"
                           "related handle,related class,related identifier,related name,related x (m),"
-                          "related y (m),value,unit,at least,at most,further related";
-constexpr int kColumns = 25;
+                          "related y (m),value,unit,at least,at most,further related,missing or too much (%)";
+constexpr int kColumns = 26;
 constexpr int kSentence = 6; ///< the column; further lines of a violation do not repeat it
 
 class CsvReportWriter : public ReportWriter {
@@ -110,12 +111,15 @@ private:
         std::vector<long long> related = finding.related;
         if (related.empty())
             related.push_back(0);
+        const auto share = missingShare(finding);
+        const QString percent = share ? cell(std::optional(*share * 100.0)) : QString();
         const std::size_t others = finding.relatedCount - finding.related.size();
         for (const long long handle : related) {
             writeLine(head + elementCells(report, handle) + measureCells(measureOf(finding, handle)) +
                       QStringList{handle == related.back() && others > 0
                                       ? cell(static_cast<long long>(others))
-                                      : QString()});
+                                      : QString(),
+                                  percent});
             head[kSentence].clear();
         }
         if (finding.further > 0)

@@ -1,5 +1,7 @@
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
 #include "report/judgement_text.h"
+#include "report/missing_share.h"
 #include "rules/rule_texts.h"
 #include "suggest/suggestion_json.h"
 
@@ -86,6 +88,7 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
     Json related = Json::array();
     for (const long long handle : finding.related)
         related.push_back(decimal(handle));
+    const auto share = missingShare(finding);
     Json measures = Json::array();
     for (const Measure& measure : finding.measures)
         measures.push_back(measureJson(measure));
@@ -97,6 +100,7 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
               {"relatedCount", finding.relatedCount},
               {"sentence", finding.sentence},
               {"measures", std::move(measures)},
+              {"missingShare", share ? Json(*share) : Json()},
               {"accepted", finding.acceptedBecause ? Json(*finding.acceptedBecause) : Json()},
               {"outgrown", finding.outgrown ? Json{{"value", finding.outgrown->value},
                                                    {"reason", finding.outgrown->reason}}
@@ -135,6 +139,24 @@ Json judgedJson(const SiteReport& report) {
     return judged;
 }
 
+Json clausesJson(const SiteReport& report) {
+    Json clauses = Json::array();
+    for (const ClauseOutcome& clause : clauseTable(report)) {
+        Json rules = Json::array();
+        for (const JudgedRule* judged : clause.rules)
+            rules.push_back({{"rule", judged->rule.name.toStdString()},
+                             {"description", judged->rule.ruleDescription.toStdString()},
+                             {"detail", judged->rule.ruleDetailDescription.toStdString()}});
+        clauses.push_back({{"standard", clause.standard.toStdString()},
+                           {"rules", std::move(rules)},
+                           {"judgedRules", clause.judgedRules},
+                           {"offending", clause.offending},
+                           {"violations", clause.violations},
+                           {"accepted", clause.accepted}});
+    }
+    return clauses;
+}
+
 Json notJudgedJson(const SiteReport& report) {
     Json notJudged = Json::array();
     for (const PassedOver& passedOver : report.notJudged)
@@ -168,6 +190,7 @@ Json headJson(const SiteReport& report) {
 
 Json tailJson(const SiteReport& report) {
     Json tail{{"judged", judgedJson(report)},
+              {"clauses", clausesJson(report)},
               {"unjudged", unjudgedJson(report)},
               {"notJudged", notJudgedJson(report)},
               {"judgedByNoRule", labelsJson(report.judgedByNoRule)},

@@ -1,10 +1,16 @@
 #include "explain/sentence.h"
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
+#include "report/counts.h"
 #include "report/judgement_text.h"
+#include "report/missing_share.h"
 #include "report/unjudged_text.h"
 #include "suggest/suggestion_text.h"
 #include "text/printable.h"
 #include "text/words.h"
+
+#include <map>
+#include <optional>
 
 namespace firecheck {
 
@@ -12,19 +18,6 @@ namespace {
 
 std::string shown(const QString& text) {
     return printable(text.toStdString());
-}
-
-std::string objectsText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 object") : Words::tr("%n objects", "", static_cast<int>(count)));
-}
-
-std::string violationsText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 violation")
-                             : Words::tr("%n violations", "", static_cast<int>(count)));
-}
-
-std::string rulesText(std::size_t count) {
-    return filled(count == 1 ? Words::tr("1 rule") : Words::tr("%n rules", "", static_cast<int>(count)));
 }
 
 std::string coordinate(double metres) {
@@ -52,19 +45,14 @@ std::string othersText(const Finding& finding) {
 
 /// What the head tells beside the violations: ", 2 accepted, 1 element not judged".
 std::string otherCounts(const SiteReport& report) {
-    const auto accepted = report.acceptedCount();
-    const auto unjudged = static_cast<int>(report.unjudgedCount());
-    const auto leftOut = static_cast<int>(report.leftOutRules);
     const QString comma = Words::tr(", ");
     QString text;
-    if (accepted > 0)
-        text += comma + Words::tr("%1 accepted", "count").arg(accepted);
-    if (unjudged > 0)
-        text += comma + (unjudged == 1 ? Words::tr("1 element not judged")
-                                       : Words::tr("%n elements not judged", "", unjudged));
-    if (leftOut > 0)
-        text += comma +
-                (leftOut == 1 ? Words::tr("1 rule left out") : Words::tr("%n rules left out", "", leftOut));
+    if (report.acceptedCount() > 0)
+        text += comma + acceptedText(report.acceptedCount());
+    if (report.unjudgedCount() > 0)
+        text += comma + unjudgedElementsText(report.unjudgedCount());
+    if (report.leftOutRules > 0)
+        text += comma + leftOutRulesText(report.leftOutRules);
     return text.toStdString();
 }
 
@@ -79,6 +67,7 @@ public:
         writeFindings(report);
         writeStale(report);
         writeNotJudged(report);
+        writeClauses(report);
         writeJudged(report);
     }
 
@@ -90,11 +79,13 @@ private:
     void writeHead(const SiteReport& report) const {
         const std::string title =
             printable(report.fileName) + (report.siteName.empty() ? "" : ": " + printable(report.siteName));
-        write(emphasised(title, "1") + "\n" + objectsText(report.objectCount) + filled(Words::tr(", ")));
-        write((report.counts.empty() ? emphasised(filled(Words::tr("no violations")), "32")
-                                     : filled(Words::tr("%1 of %2", "violations, rules"),
-                                              emphasised(violationsText(report.violationCount()), "31"),
-                                              rulesText(report.counts.size()))) +
+        write(emphasised(title, "1") + "\n" + filled(objectsText(report.objectCount)) +
+              filled(Words::tr(", ")));
+        write((report.counts.empty()
+                   ? emphasised(filled(Words::tr("no violations")), "32")
+                   : filled(Words::tr("%1 of %2", "violations, rules"),
+                            emphasised(filled(violationsText(report.violationCount())), "31"),
+                            rulesText(report.counts.size()))) +
               otherCounts(report) + "\n");
         for (const RuleCount& count : report.counts) {
             const std::string number = std::to_string(count.violations);
@@ -104,28 +95,55 @@ private:
     }
 
     void writeFindings(const SiteReport& report) const {
-        auto count = report.counts.begin();
-        const NuxStandardCheckRule* previous = nullptr;
+        std::map<QString, std::size_t> sizes;
+        for (const Finding& finding : report.findings)
+            ++sizes[groupOf(report, finding)];
+        std::optional<QString> group;
         for (const Finding& finding : report.findings) {
             const NuxStandardCheckRule& record = report.record(finding);
-            if (!previous || previous->name != record.name)
-                writeRuleHead(record, (count++)->violations);
-            previous = &record;
+            if (const QString own = groupOf(report, finding); own != group) {
+                group = own;
+                writeGroupHead(report.order, record, sizes[own]);
+            }
             writeFinding(report, finding, record);
         }
     }
 
-    void writeRuleHead(const NuxStandardCheckRule& rule, std::size_t violations) const {
+    static QString groupOf(const SiteReport& report, const Finding& finding) {
+        switch (report.order) {
+        case FindingOrder::Rule:
+            return report.record(finding).name;
+        case FindingOrder::Clause:
+            return report.record(finding).standard;
+        case FindingOrder::Missing:
+            break;
+        }
+        return {};
+    }
+
+    void writeGroupHead(FindingOrder order, const NuxStandardCheckRule& rule, std::size_t violations) const {
+        write("\n");
+        const std::string count = " (" + std::to_string(violations) + ")";
+        if (order == FindingOrder::Rule)
+            write(emphasised(shown(rule.name), "1") + count + ruleTexts(rule) + "\n");
+        else if (order == FindingOrder::Clause)
+            write(emphasised(shown(clauseName(rule.standard)), "1") + count + "\n");
+    }
+
+    static std::string ruleTexts(const NuxStandardCheckRule& rule) {
         const std::string description =
             rule.ruleDescription.isEmpty() ? "" : ": " + shown(rule.ruleDescription);
         const std::string standard = rule.standard.isEmpty() ? "" : " [" + shown(rule.standard) + "]";
-        write("\n" + emphasised(shown(rule.name), "1") + " (" + std::to_string(violations) + ")" +
-              description + standard + "\n");
+        return description + standard;
     }
 
     void writeFinding(const SiteReport& report, const Finding& finding,
                       const NuxStandardCheckRule& record) const {
         write("  " + printable(finding.sentence) + "\n");
+        if (report.order == FindingOrder::Missing && missingShare(finding))
+            write("    " + filled(missingShareText(finding)) + "\n");
+        if (report.order != FindingOrder::Rule)
+            write("    " + shown(record.name) + ruleTexts(record) + "\n");
         if (finding.acceptedBecause)
             write("    " + printable(filled(Words::tr("accepted: %1", "reason"), *finding.acceptedBecause)) +
                   "\n");
@@ -176,6 +194,12 @@ private:
             write("\n" + filled(Words::tr("Judged by no rule")) + "\n");
         for (const ElementLabel& element : report.judgedByNoRule)
             write("  " + printable(firestandard::labelPhrase(element)) + "\n");
+    }
+
+    void writeClauses(const SiteReport& report) const {
+        write("\n" + filled(Words::tr("By clause")) + "\n");
+        for (const ClauseOutcome& clause : clauseTable(report))
+            write("  " + shown(clauseName(clause.standard)) + ": " + shown(clauseOutcomeText(clause)) + "\n");
     }
 
     void writeJudged(const SiteReport& report) const {

@@ -79,6 +79,10 @@ Not judged
   rule #comment: no evaluator is of type ""
   object #4: it does not open
 
+By clause
+  clause 1: 1 of 1 rule judged, 1 violation by 1 element
+  No clause is cited: 0 of 1 rule judged
+
 What was judged
   #comment: no evaluator knows this rule
   Self_RoadMinWidth: 1 found, 1 offends
@@ -89,6 +93,10 @@ const std::string kFineReport = R"(fine.json
 
 Not judged
   rule #comment: no evaluator is of type ""
+
+By clause
+  clause 1: 0 of 1 rule judged
+  No clause is cited: 0 of 1 rule judged
 
 What was judged
   #comment: no evaluator knows this rule

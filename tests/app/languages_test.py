@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """That every sentence is translated, and that the Chinese rule file judges like the English one."""
 
+import html.parser
 import json
 import pathlib
 import re
@@ -15,7 +16,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 TRANSLATION = ROOT / "data/firecheck_zh_CN.ts"
 # Latin letters that stand in a Chinese report: identifiers, rule names, keys, units, clauses and names of files.
 TECHNICAL = re.compile(
-    r"NUX_\w+|“\w+”|\([a-zA-Z]+\)|/objects/[\w/]+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
+    r"NUX_\w+|“\w+”|\([a-zA-Z]+\)|/objects/[\w/]+|(?:Self|Distant|Position|Without)_\w+|\S+\.(?:json|xml)|GB 50720|UTF-8|Ctrl|firecheck|lint-\w+|\b[a-z]+[A-Z]\w*|\bm\b|\bmm\b"
 )
 
 
@@ -30,6 +31,31 @@ WRONG_RULES = "<R><G>" + "".join(
 def run(*arguments):
     done = subprocess.run([FIRECHECK, *arguments], capture_output=True, text=True, check=False)
     return done.stdout + done.stderr
+
+
+class PageWords(html.parser.HTMLParser):
+    """What a page says: its texts, and the attributes that are read out or that its scripts say."""
+
+    def __init__(self):
+        super().__init__()
+        self.words, self.is_code = [], False
+
+    def handle_starttag(self, tag, attrs):
+        self.is_code = tag in ("style", "script")
+        self.words += [value for name, value in attrs
+                       if name in ("aria-label", "title", "placeholder", "alt") or name.startswith("data-")]
+
+    def handle_endtag(self, tag):
+        self.is_code = False
+
+    def handle_data(self, data):
+        self.words += [] if self.is_code else [data]
+
+
+def words_of_page(page):
+    parser = PageWords()
+    parser.feed(page)
+    return "\n".join(parser.words)
 
 
 def rules(name):
@@ -69,6 +95,13 @@ class Languages(unittest.TestCase):
             self.assertRegex(text, "[\u4e00-\u9fff]")
             self.assertIsNone(re.search("[A-Za-z]{3}", text), text)
 
+    def test_chinese_example_differs_in_texts_alone(self):
+        def objects(name):
+            site = json.loads((ROOT / "examples" / name).read_text())["objects"]
+            return [{key: value for key, value in thing.items() if key != "name"} for thing in site]
+
+        self.assertEqual(objects("small-yard.zh_CN.json"), objects("small-yard.json"))
+
     def test_no_english_in_chinese_reports(self):
         with tempfile.TemporaryDirectory() as directory:
             for example in ["tower-site", "every-rule-offends"]:
@@ -84,8 +117,10 @@ class Languages(unittest.TestCase):
                 path = pathlib.Path(directory) / f"{example}.json"
                 path.write_text(json.dumps(site))
                 reports = {form: run("check", path, "--lang", "zh_CN", "--format", form, "--unjudged")
-                           for form in ["text", "csv"]}
+                           for form in ["text", "csv", "html"]}
                 reports["csv"] = reports["csv"].split("\n", 1)[1]  # the columns keep their names
+                self.assertIn('<html lang="zh-CN">', reports["html"])
+                reports["html"] = words_of_page(reports["html"])
                 reports["lint"] = run("lint-site", path, "--lang", "zh_CN")
                 rules = pathlib.Path(directory) / "rules.xml"
                 rules.write_text(WRONG_RULES)

@@ -4,6 +4,8 @@
 #include "check/check_site.h"
 #include "drawing/load_site.h"
 #include "report/ReportWriter.h"
+#include "report/clause_table.h"
+#include "report/finding_order.h"
 #include "report/plan/plan_svg.h"
 #include "source_file.h"
 
@@ -90,7 +92,7 @@ Counts countsOfText(const QString& text) {
     Counts counts;
     int all = 0;
     const QString findings =
-        text.section(QRegularExpression("\\n(What was judged|Not judged|Judged by no rule)\\n"), 0, 0);
+        text.section(QRegularExpression("\\n(By clause|Not judged|Judged by no rule)\\n"), 0, 0);
     const QRegularExpression head("^(\\w+) \\((\\d+)\\)", QRegularExpression::MultilineOption);
     for (auto match = head.globalMatch(findings); match.hasNext();) {
         const auto group = match.next();
@@ -100,13 +102,17 @@ Counts countsOfText(const QString& text) {
     return counts;
 }
 
+/// Findings under several rules stand once, below the headings of all of them.
 Counts countsOfHtml(const QString& html) {
     Counts counts;
-    for (const QString& group : html.split("<section class=\"rule ").mid(1)) {
-        const QString name =
-            group.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
-        counts[name] = group.count("<li class=\"finding");
-        EXPECT_EQ(group.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), counts[name]);
+    for (const QString& group : html.split("<section class=\"rule\"").mid(1)) {
+        const int findings = group.count("<li class=\"finding");
+        for (const QString& head : group.split("<h2>").mid(1)) {
+            const QString name =
+                head.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
+            EXPECT_EQ(head.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), findings);
+            counts[name] += findings;
+        }
     }
     return counts;
 }
@@ -153,6 +159,37 @@ TEST_F(Renderers, AgreeOnEveryCase) {
             expectAgreement(check(readSite(single.site), name));
         }
     }
+}
+
+TEST_F(Renderers, ListTheSameInAnyOrder) {
+    SiteReport report = checkExample("tower-site.json");
+    const auto all = report.findings.size();
+    for (const FindingOrder order : {FindingOrder::Clause, FindingOrder::Missing}) {
+        orderFindings(report, order);
+        const Json site = Json::parse(rendered(report, jsonReportWriter).toStdString())["sites"][0];
+        const QString text = rendered(report, plainTextWriter);
+        const QString html = rendered(report, htmlReportWriter);
+        const auto rows = csvRows(rendered(report, csvReportWriter));
+        QStringList clauses;
+        std::vector<double> shares;
+        int textPlace = 0;
+        for (const Json& finding : site["findings"]) {
+            textPlace = text.indexOf("\n  " + QString::fromStdString(finding["sentence"]) + "\n", textPlace);
+            EXPECT_GE(textPlace, 0) << finding["sentence"];
+            shares.push_back(finding["missingShare"].is_null() ? 0.0 : finding["missingShare"].get<double>());
+        }
+        for (const QStringList& row : rows)
+            if (const QString standard = row.value(5);
+                row.value(2).toInt() > 0 && !clauses.endsWith(standard))
+                clauses << standard;
+        EXPECT_EQ(shares.size(), all);
+        EXPECT_EQ(order == FindingOrder::Missing, std::is_sorted(shares.rbegin(), shares.rend()));
+        EXPECT_EQ(order == FindingOrder::Clause, clauses.removeDuplicates() == 0);
+        EXPECT_EQ(html.count("<h2>GB 50720-2011, 3.2.2</h2>"), order == FindingOrder::Clause ? 1 : 0);
+        EXPECT_EQ(rows[1].last(), order == FindingOrder::Missing ? "28" : "");
+    }
+    EXPECT_TRUE(clausePrecedes("A 3.2.1", "A 3.10"));
+    EXPECT_FALSE(clausePrecedes("", "A 3.10"));
 }
 
 TEST_F(Renderers, SayWhatAPlannerWouldSay) {

@@ -1,6 +1,11 @@
+#include "explain/Words.h"
 #include "report/ReportWriter.h"
 #include "report/assets.h"
+#include "report/html/markup.h"
+#include "report/html/overview.h"
+#include "report/html/paper.h"
 #include "report/html/site_section.h"
+#include "text/language.h"
 
 #include <QCryptographicHash>
 
@@ -14,35 +19,50 @@ QString sourceHash(const QString& text) {
     return "'sha256-" + QString::fromLatin1(hash.toBase64()) + "'";
 }
 
-/// The page as it comes: head, one section for each site, foot. Its policy admits nothing but its own style
-/// and script, so that whatever a site file says stays text.
+QString pageScript() {
+    QString script = "\n\"use strict\";\n";
+    for (const char* part : {"PlanLabels.js", "Plan.js", "Pins.js", "FindingOrder.js", "Site.js", "page.js"})
+        script += "\n" + asset(part);
+    return script;
+}
+
+/// The page: head, overview of several sites, one section for each. Its policy admits nothing but its own
+/// style and script, so that whatever a site file says stays text. Written at the end, because policy and
+/// overview come first and depend on all sites.
 class HtmlReportWriter : public ReportWriter {
 public:
     explicit HtmlReportWriter(Sink sink)
-        : ReportWriter(std::move(sink)), m_style("\n" + asset("plan.css") + asset("report.css")),
-          m_script("\n" + asset("report.js")) {}
-
-    void begin() override {
-        const QString policy = "default-src 'none'; base-uri 'none'; form-action 'none'; style-src " +
-                               sourceHash(m_style) + "; script-src " + sourceHash(m_script);
-        const QString head = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-                             "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
-                             policy +
-                             "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-                             "<title>Fire-safety check</title>\n<style>" +
-                             m_style + "</style>\n</head>\n<body>\n";
-        write(head.toStdString());
-    }
+        : ReportWriter(std::move(sink)), m_style("\n" + asset("plan.css") + asset("report.css")) {}
 
     void add(const SiteReport& report) override {
-        writeSiteSection(report, ++m_sites, [this](const std::string& piece) { write(piece); });
+        ++m_sites;
+        m_sections.push_back(siteSection(report, m_sites).toStdString());
+        m_overviewRows += overviewRow(report, m_sites);
+        m_style +=
+            paperStyle(siteId(m_sites),
+                       QString::fromStdString(report.siteName.empty() ? report.fileName : report.siteName));
     }
 
-    void end() override { write(("<script>" + m_script + "</script>\n</body>\n</html>\n").toStdString()); }
+    void end() override {
+        const QString script = pageScript();
+        const QString policy = "default-src 'none'; base-uri 'none'; form-action 'none'; style-src " +
+                               sourceHash(m_style) + "; script-src " + sourceHash(script);
+        write(("<!DOCTYPE html>\n<html lang=\"" + currentLanguage().replace('_', '-') +
+               "\">\n<head>\n<meta charset=\"utf-8\">\n"
+               "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
+               policy + "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
+               element("title", {}, firestandard::Words::tr("Fire-safety check")) + "<style>" + m_style +
+               "</style>\n</head>\n<body>\n" + (m_sites > 1 ? overview(m_overviewRows, m_sites) : QString()))
+                  .toStdString());
+        for (const std::string& section : m_sections)
+            write(section);
+        write(("<script>" + script + "</script>\n</body>\n</html>\n").toStdString());
+    }
 
 private:
-    const QString m_style;
-    const QString m_script;
+    QString m_style;
+    std::vector<std::string> m_sections;
+    QString m_overviewRows;
     std::size_t m_sites = 0;
 };
 

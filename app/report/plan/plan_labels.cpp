@@ -1,119 +1,81 @@
 #include "report/plan/plan_labels.h"
 
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <map>
 
 namespace firecheck {
 
 namespace {
 
-constexpr double kLatinWidth = 0.58; ///< of a letter, in label heights
-constexpr double kHanWidth = 1.05;
-constexpr ushort kFirstWideCharacter = 0x2e80;
+using LabelPlace = PlanLabel::Place;
+
 constexpr double kPadding = 0.35;
+constexpr double kBesidePin = 1.65; ///< from the middle of a pin to that of a text next to it
 
-constexpr std::array<PlanLabel::Place, 5> kPlaces = {PlanLabel::Place::Centre, PlanLabel::Place::Below,
-                                                     PlanLabel::Place::Above, PlanLabel::Place::Right,
-                                                     PlanLabel::Place::Left};
+constexpr std::array<LabelPlace, 7> kPlaces = {LabelPlace::Centre, LabelPlace::Under, LabelPlace::Over,
+                                               LabelPlace::Below,  LabelPlace::Above, LabelPlace::Right,
+                                               LabelPlace::Left};
 
-struct Room {
-    double left, top, right, bottom;
-
-    bool overlaps(const Room& other) const {
-        return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
-    }
-    bool isWithin(const Room& other) const {
-        return left >= other.left && right <= other.right && top >= other.top && bottom <= other.bottom;
-    }
-};
-
-double textWidth(const QString& text) {
-    double width = 0.0;
-    for (const QChar character : text)
-        width += character.unicode() >= kFirstWideCharacter ? kHanWidth : kLatinWidth;
-    return width;
+bool isOnElement(LabelPlace place) {
+    return place == LabelPlace::Centre || place == LabelPlace::Under || place == LabelPlace::Over;
 }
 
-Room roomOf(const PlanLabel& label, double height) {
+PlanRoom roomOf(const PlanLabel& label, double height) {
     const double halfWidth = 0.5 * (textWidth(label.text) + kPadding) * height;
     const double halfHeight = 0.5 * (1.0 + kPadding) * height;
     DrawnPoint centre = labelAnchor(label);
-    switch (label.place) {
-    case PlanLabel::Place::Centre:
-        break;
-    case PlanLabel::Place::Above:
-        centre.y -= halfHeight;
-        break;
-    case PlanLabel::Place::Below:
-        centre.y += halfHeight;
-        break;
-    case PlanLabel::Place::Right:
+    centre.y += labelDrop(label.place) * height;
+    if (label.place == LabelPlace::Right)
         centre.x += halfWidth;
-        break;
-    case PlanLabel::Place::Left:
+    if (label.place == LabelPlace::Left)
         centre.x -= halfWidth;
-        break;
-    }
     return {centre.x - halfWidth, centre.y - halfHeight, centre.x + halfWidth, centre.y + halfHeight};
 }
 
-/// The rooms taken so far, by the cells of a grid that they reach into.
-class TakenRooms {
+bool fitsElement(const PlanLabel& label, double height) {
+    const double reach = std::abs(labelDrop(label.place)) > 0.0 ? kBesidePin + 0.5 : 0.0;
+    return textWidth(label.text) * height <= 2.0 * label.halfWidth && reach * height <= label.halfHeight;
+}
+
+/// Free of what stands in the plan at this level, and of the pins at this and each later one, because pins
+/// part as the plan grows.
+class FreeRoom {
 public:
-    TakenRooms(double planWidth, double height) : m_cell(std::max(planWidth / kColumns, height * 4.0)) {}
-
-    bool hasRoomFor(const Room& room) const {
-        return everyCell(room, [&](long cell) {
-            const auto found = m_rooms.find(cell);
-            return found == m_rooms.end() ||
-                   std::none_of(found->second.begin(), found->second.end(),
-                                [&](const Room& taken) { return taken.overlaps(room); });
-        });
+    FreeRoom(const std::vector<std::vector<PlanRoom>>& obstacles, double planWidth, double planHeight)
+        : m_planWidth(planWidth), m_plan{0.0, 0.0, planWidth, planHeight} {
+        for (int level = 0; level < kLabelLevels; ++level) {
+            m_obstacles.emplace_back(planWidth, labelHeight(planWidth, level));
+            for (const PlanRoom& obstacle : obstacles[static_cast<std::size_t>(level)])
+                m_obstacles.back().take(obstacle);
+        }
     }
 
-    void take(const Room& room) {
-        everyCell(room, [&](long cell) {
-            m_rooms[cell].push_back(room);
-            return true;
-        });
-    }
-
-private:
-    static constexpr int kColumns = 64;
-    static constexpr long kRowStride = 1 << 20;
-
-    template <class Visit> bool everyCell(const Room& room, Visit visit) const {
-        const long firstColumn = std::lround(std::floor(room.left / m_cell));
-        const long lastColumn = std::lround(std::floor(room.right / m_cell));
-        const long firstRow = std::lround(std::floor(room.top / m_cell));
-        const long lastRow = std::lround(std::floor(room.bottom / m_cell));
-        for (long row = firstRow; row <= lastRow; ++row)
-            for (long column = firstColumn; column <= lastColumn; ++column)
-                if (!visit(row * kRowStride + column))
-                    return false;
+    bool has(const PlanLabel& label, int level, const TakenRooms& taken) const {
+        const PlanRoom room = roomOf(label, labelHeight(m_planWidth, level));
+        if (!room.isWithin(m_plan) || !taken.hasRoomFor(room))
+            return false;
+        for (int later = level; later < kLabelLevels; ++later)
+            if (!m_obstacles[static_cast<std::size_t>(later)].hasRoomFor(
+                    roomOf(label, labelHeight(m_planWidth, later))))
+                return false;
         return true;
     }
 
-    double m_cell;
-    std::map<long, std::vector<Room>> m_rooms;
+private:
+    const double m_planWidth;
+    const PlanRoom m_plan;
+    std::vector<TakenRooms> m_obstacles;
 };
 
-bool fitsElement(const PlanLabel& label, double height) {
-    return textWidth(label.text) * height <= 2.0 * label.halfWidth;
-}
-
 /// True when the label found a place at this level.
-bool place(PlanLabel& label, int level, const Room& plan, double height, TakenRooms& taken) {
-    for (const PlanLabel::Place candidate : kPlaces) {
-        const bool isBeside = candidate != PlanLabel::Place::Centre;
-        if (isBeside ? level < label.firstLevelBeside : label.mustFitElement && !fitsElement(label, height))
-            continue;
+bool place(PlanLabel& label, int level, double height, const FreeRoom& free, TakenRooms& taken) {
+    for (const LabelPlace candidate : kPlaces) {
         label.place = candidate;
-        const Room room = roomOf(label, height);
-        if (room.isWithin(plan) && taken.hasRoomFor(room)) {
-            taken.take(room);
+        const bool isSmall = label.halfWidth == 0.0; // a line has no inside to fit
+        if (isOnElement(candidate) && !isSmall ? label.mustFitElement && !fitsElement(label, height)
+                                               : level < label.firstLevelBeside)
+            continue;
+        if (free.has(label, level, taken)) {
+            taken.take(roomOf(label, height));
             return true;
         }
     }
@@ -122,28 +84,45 @@ bool place(PlanLabel& label, int level, const Room& plan, double height, TakenRo
 
 } // namespace
 
-double labelHeight(double planWidth, int level) {
-    return planWidth * kLabelPixels / (kNarrowestPlan * std::pow(2.0, level));
+double labelDrop(LabelPlace place) {
+    switch (place) {
+    case LabelPlace::Under:
+        return kBesidePin;
+    case LabelPlace::Over:
+        return -kBesidePin;
+    case LabelPlace::Below:
+        return 0.67;
+    case LabelPlace::Above:
+        return -0.67;
+    case LabelPlace::Centre:
+    case LabelPlace::Right:
+    case LabelPlace::Left:
+        break;
+    }
+    return 0.0;
 }
 
 DrawnPoint labelAnchor(const PlanLabel& label) {
     switch (label.place) {
-    case PlanLabel::Place::Above:
+    case LabelPlace::Above:
         return {label.middle.x, label.middle.y - label.halfHeight};
-    case PlanLabel::Place::Below:
+    case LabelPlace::Below:
         return {label.middle.x, label.middle.y + label.halfHeight};
-    case PlanLabel::Place::Right:
+    case LabelPlace::Right:
         return {label.middle.x + label.halfWidth, label.middle.y};
-    case PlanLabel::Place::Left:
+    case LabelPlace::Left:
         return {label.middle.x - label.halfWidth, label.middle.y};
-    case PlanLabel::Place::Centre:
+    case LabelPlace::Centre:
+    case LabelPlace::Under:
+    case LabelPlace::Over:
         break;
     }
     return label.middle;
 }
 
-void placeLabels(std::vector<PlanLabel>& labels, double planWidth, double planHeight) {
-    const Room plan{0.0, 0.0, planWidth, planHeight};
+void placeLabels(std::vector<PlanLabel>& labels, const std::vector<std::vector<PlanRoom>>& obstacles,
+                 double planWidth, double planHeight) {
+    const FreeRoom free(obstacles, planWidth, planHeight);
     for (int level = 0; level < kLabelLevels; ++level) {
         const double height = labelHeight(planWidth, level);
         TakenRooms taken(planWidth, height);
@@ -151,7 +130,7 @@ void placeLabels(std::vector<PlanLabel>& labels, double planWidth, double planHe
             if (label.level >= 0)
                 taken.take(roomOf(label, height));
         for (PlanLabel& label : labels)
-            if (label.level < 0 && level >= label.firstLevel && place(label, level, plan, height, taken))
+            if (label.level < 0 && level >= label.firstLevel && place(label, level, height, free, taken))
                 label.level = level;
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report/plan/PlanFrame.h"
+#include "report/plan/plan_room.h"
 
 #include <QString>
 
@@ -11,7 +12,7 @@ namespace firecheck {
 /// A text of the plan and where it may stand.
 struct PlanLabel {
     QString text;
-    QString classes;
+    QString attributes;
     DrawnPoint middle; ///< of what it names
     double halfWidth = 0.0;
     double halfHeight = 0.0;
@@ -20,24 +21,20 @@ struct PlanLabel {
     bool mustFitElement = false; ///< on its element it must not reach beyond it
 
     // Where it stands, once placed.
-    enum class Place { Centre, Above, Below, Right, Left };
+    enum class Place { Centre, Under, Over, Below, Above, Right, Left };
     Place place = Place::Centre;
     int level = -1; ///< the first magnification at which it is free of others; -1 when at none
 };
 
-/// Magnifications at which labels are shown. At level n the plan is kNarrowestPlan * 2^n pixels wide or
-/// wider, and labels are kLabelPixels high whatever the level.
-constexpr int kLabelLevels = 7;
-constexpr double kNarrowestPlan = 340.0;
-constexpr double kLabelPixels = 11.0;
+/// Places the labels in their order, each as early as it finds room in the plan beside those placed before
+/// and beside the obstacles, whose rooms are given for each level.
+void placeLabels(std::vector<PlanLabel>& labels, const std::vector<std::vector<PlanRoom>>& obstacles,
+                 double planWidth, double planHeight);
 
-/// Height of a label in the plan's own metres.
-double labelHeight(double planWidth, int level);
-
-/// Places the labels in their order, each as early as it finds room in the plan beside those placed before.
-void placeLabels(std::vector<PlanLabel>& labels, double planWidth, double planHeight);
-
-/// The point that a placed label hangs on, its middle or the middle of the side that faces the element.
+/// The point that a placed label hangs on: of its element the middle or, beside it, the middle of a side.
 DrawnPoint labelAnchor(const PlanLabel& label);
+
+/// How far below its anchor the middle of the text stands, in label heights.
+double labelDrop(PlanLabel::Place place);
 
 } // namespace firecheck

@@ -1,11 +1,13 @@
 #include "report/plan/plan_svg.h"
 
+#include "explain/Words.h"
 #include "explain/measure_text.h"
 #include "report/assets.h"
 #include "report/escape.h"
+#include "report/plan/element_spot.h"
+#include "report/plan/plan_kinds.h"
 #include "report/plan/plan_labels.h"
-
-#include <QStringList>
+#include "report/plan/plan_path.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,117 +16,59 @@
 
 namespace firecheck {
 
+using firestandard::Words;
+
 namespace {
 
 constexpr std::size_t kColours = 10;
+constexpr std::size_t kPatterns = 8;
 constexpr int kLongestLabel = 26;
-constexpr int kLevelWithoutScripts = 1;
 constexpr int kFirstLevelOfMinor = 2;
+constexpr double kFarShare = 0.3; ///< of the plan's diagonal; longer lines step back
 
-const char* kindClass(PlanKind kind) {
-    switch (kind) {
-    case PlanKind::Road:
-        return "road";
-    case PlanKind::FireRoad:
-        return "fire-road";
-    case PlanKind::Yard:
-        return "yard";
-    case PlanKind::House:
-        return "house";
-    case PlanKind::Shed:
-        return "shed";
-    case PlanKind::Station:
-        return "station";
-    case PlanKind::Crane:
-        return "crane";
-    case PlanKind::Door:
-        return "door";
-    case PlanKind::Wall:
-        return "wall";
-    case PlanKind::Cable:
-        return "cable";
-    case PlanKind::Poster:
-        return "poster";
-    case PlanKind::Model:
-        return "model";
-    case PlanKind::Other:
-        break;
-    }
-    return "other";
-}
-
-QString drawnPair(const DrawnPoint& point) {
-    return drawnNumber(point.x) + " " + drawnNumber(point.y);
-}
-
-/// With y downwards a counter-clockwise arc sweeps the other way.
-QString edgeCommand(const hrx::Edge2d& edge, const PlanFrame& frame) {
-    const QString end = drawnPair(frame.drawn(edge.end));
-    if (!edge.isArc())
-        return "L" + end;
-    const QString radius = drawnNumber(edge.radius() * kMetresPerMillimetre);
-    const char* largeArc = std::abs(edge.bulge) > 1.0 ? " 1 " : " 0 ";
-    return "A" + radius + " " + radius + " 0" + largeArc + (edge.bulge > 0.0 ? "0 " : "1 ") + end;
-}
-
-QString pathData(const PlanShape& shape, const PlanFrame& frame) {
-    QString data;
-    for (const PlanPath& path : shape.paths) {
-        data += "M" + drawnPair(frame.drawn(path.edges.front().start));
-        for (const hrx::Edge2d& edge : path.edges)
-            data += edgeCommand(edge, frame);
-        data += path.isClosed ? "Z" : "";
-    }
-    return data;
-}
-
-/// Elements that there are many of, known by their handles.
-bool isMinor(PlanKind kind) {
-    return kind == PlanKind::Model || kind == PlanKind::Other;
-}
-
-bool isRoad(PlanKind kind) {
-    return kind == PlanKind::Road || kind == PlanKind::FireRoad;
-}
-
-QString numbersText(const std::vector<std::size_t>& numbers) {
-    constexpr std::size_t mostShown = 4;
-    QStringList shown;
-    for (std::size_t i = 0; i < numbers.size() && i < mostShown; ++i)
-        shown << QString::number(numbers[i]);
-    return shown.join(QStringLiteral("·")) + (numbers.size() > mostShown ? QStringLiteral("…") : QString());
-}
+/// The texts and pins of the plan, by the first and the last level at which they stand.
+using LabelGroups = std::map<std::pair<int, int>, QString>;
 
 /// Draws the plan of one site.
 class PlanDrawing {
 public:
-    /// With `hasList` elements that offend link to their findings.
-    PlanDrawing(const SiteReport& report, PlanIds ids, bool hasList)
-        : m_report(report), m_ids(std::move(ids)), m_hasList(hasList), m_frame(report.plan),
-          m_ruleIndices(ruleIndices(report)) {
+    /// With `hasList` pins link to their findings.
+    PlanDrawing(const SiteReport& report, const std::vector<MergedFinding>& merged, PlanIds ids, bool hasList)
+        : m_report(report), m_merged(merged), m_ids(std::move(ids)), m_hasList(hasList),
+          m_frame(report.plan) {
         for (const firestandard::UnjudgedElement& element : report.unjudged)
             m_unjudged.insert(element.handle);
-        for (std::size_t i = 0; i < report.findings.size(); ++i) {
-            const long long handle = report.record(report.findings[i]).handle;
+        for (std::size_t i = 0; i < merged.size(); ++i) {
+            const long long handle = report.record(finding(i)).handle;
             if (handle != 0)
-                m_numbersByHandle[handle].push_back(i + 1);
+                m_findingsByHandle[handle].push_back(i);
         }
+        if (!m_frame.isEmpty())
+            m_pins = placePins(pinnedElements(), merged, m_frame.width());
     }
 
     QString svg(const QString& attributes, const QString& head) const {
         if (m_frame.isEmpty())
             return {};
-        const QString title = QStringLiteral("Plan of ") +
-                              escaped(m_report.siteName.empty() ? m_report.fileName : m_report.siteName);
+        const QString name = escaped(m_report.siteName.empty() ? m_report.fileName : m_report.siteName);
         return "<svg" + attributes + " viewBox=\"0 0 " + drawnNumber(m_frame.width()) + " " +
                drawnNumber(m_frame.height()) + "\" font-size=\"" +
                drawnNumber(labelHeight(m_frame.width(), kLevelWithoutScripts)) +
-               "\" role=\"group\" aria-label=\"" + title + "\">\n" + head + elements() + measures() +
-               labels() + scaleBar() + "</svg>\n";
+               "\" role=\"group\" aria-label=\"" + Words::tr("Plan of %1").arg(name) + "\">\n" + head +
+               "<g class=\"ground\">\n" + elements() + measures() + "</g>\n" + labels() + scaleBar() +
+               north() + "</svg>\n";
     }
 
+    std::vector<PlanPin> takePins() { return std::move(m_pins); }
+
 private:
-    QString colourOf(std::size_t number) const { return colourClass(m_ruleIndices[number - 1]); }
+    const Finding& finding(std::size_t merged) const {
+        return m_report.findings[m_merged[merged].numbers.front() - 1];
+    }
+    QString numberOf(std::size_t merged) const { return QString::number(m_merged[merged].numbers.front()); }
+    QString coloursOf(std::size_t merged) const { return colourClasses(m_merged[merged].rules.front()); }
+    bool isAccepted(std::size_t merged) const { return finding(merged).acceptedBecause.has_value(); }
+    bool isNumbered(long long handle) const { return m_findingsByHandle.count(handle) != 0; }
 
     QString elements() const {
         std::vector<const PlanShape*> shapes;
@@ -138,110 +82,169 @@ private:
         return text + "</g>\n";
     }
 
+    /// The colour is that of the first finding that nobody has accepted.
     QString element(const PlanShape& shape) const {
-        const auto numbers = m_numbersByHandle.find(shape.handle);
-        const bool offends = numbers != m_numbersByHandle.end();
         QString classes = QStringLiteral("element ") + kindClass(shape.kind);
-        if (m_unjudged.count(shape.handle) != 0)
+        QString title = escaped(shape.title);
+        if (m_unjudged.count(shape.handle) != 0) {
             classes += " unjudged";
-        if (offends)
-            classes += " offends " + colourOf(numbers->second.front());
-        const QString handle = QString::number(shape.handle);
-        const QString drawing = "<g class=\"" + classes + "\" id=\"" + m_ids.element(shape.handle) +
-                                "\" data-handle=\"" + handle + "\"><title>" + escaped(shape.title) +
-                                (m_unjudged.count(shape.handle) != 0 ? ", not judged" : "") +
-                                "</title><path d=\"" + pathData(shape, m_frame) + "\"/></g>";
-        if (!offends || !m_hasList)
-            return drawing + "\n";
-        return "<a href=\"#" + m_ids.finding(numbers->second.front()) + "\" aria-label=\"" +
-               escaped(shape.title) + ", violation " + numbersText(numbers->second) + "\">" + drawing +
-               "</a>\n";
+            title = Words::tr("%1, not judged", "an element").arg(title);
+        }
+        const auto findings = m_findingsByHandle.find(shape.handle);
+        if (findings != m_findingsByHandle.end()) {
+            const auto open = std::find_if(findings->second.begin(), findings->second.end(),
+                                           [this](std::size_t merged) { return !isAccepted(merged); });
+            classes += open == findings->second.end() ? " excused" : " offends " + coloursOf(*open);
+        }
+        return "<path class=\"" + classes + "\" id=\"" + m_ids.element(shape.handle) + "\" d=\"" +
+               pathData(shape, m_frame) + "\"><title>" + title + "</title></path>\n";
     }
 
     /// Of a box that is too far only the nearest counts; of other distances each one does.
     template <class Visit> void everyMeasure(Visit visit) const {
-        for (std::size_t i = 0; i < m_report.findings.size(); ++i) {
-            const Finding& finding = m_report.findings[i];
-            const bool nearestOnly = m_report.record(finding).type == QLatin1String("position");
-            for (const Measure& measure : finding.measures) {
+        for (std::size_t i = 0; i < m_merged.size(); ++i) {
+            const bool nearestOnly = m_report.record(finding(i)).type == QLatin1String("position");
+            for (const Measure& measure : finding(i).measures) {
                 if (measure.points)
-                    visit(i + 1, measure);
+                    visit(i, measure, m_frame.drawn(measure.points->onElement),
+                          m_frame.drawn(measure.points->onOther));
                 if (nearestOnly)
                     break;
             }
         }
     }
 
+    bool isFar(const DrawnPoint& from, const DrawnPoint& to) const {
+        return std::hypot(from.x - to.x, from.y - to.y) >
+               kFarShare * std::hypot(m_frame.width(), m_frame.height());
+    }
+
     QString measures() const {
         QString text = "<g class=\"measures\">\n";
-        everyMeasure([&](std::size_t number, const Measure& measure) {
-            const DrawnPoint from = m_frame.drawn(measure.points->onElement);
-            const DrawnPoint to = m_frame.drawn(measure.points->onOther);
-            text += "<path class=\"measure " + colourOf(number) + "\" data-finding=\"" +
-                    QString::number(number) + "\" d=\"M" + drawnPair(from) + "L" + drawnPair(to) + "\"/>\n";
+        everyMeasure([&](std::size_t i, const Measure&, const DrawnPoint& from, const DrawnPoint& to) {
+            text += "<path class=\"measure " + coloursOf(i) + (isFar(from, to) ? " far" : "") +
+                    (isAccepted(i) ? " excused" : "") + "\" data-finding=\"" + numberOf(i) + "\" d=\"M" +
+                    drawnPair(from) + "L" + drawnPair(to) + "\"/>\n";
         });
         return text + "</g>\n";
     }
 
     QString labels() const {
-        std::vector<PlanLabel> labels = pins();
+        std::vector<PlanLabel> labels;
         appendMeasureTexts(labels);
         appendNames(labels);
-        placeLabels(labels, m_frame.width(), m_frame.height());
-        QString text = "<g class=\"labels\">\n";
+        placeLabels(labels, pinRooms(m_pins, m_merged, m_frame.width()), m_frame.width(), m_frame.height());
+        LabelGroups groups;
         for (const PlanLabel& label : labels)
-            text += labelText(label);
+            if (label.level >= 0)
+                groups[{label.level, kLabelLevels - 1}] += labelText(label);
+        for (const PlanPin& pin : m_pins)
+            groups[{pin.firstLevel, pin.lastLevel}] += pin.isCluster ? cluster(pin) : pinRow(pin);
+        QString text = "<g class=\"labels\">\n";
+        for (const auto& [levels, content] : groups)
+            text += "<g class=\"l" + QString::number(levels.first) + " u" + QString::number(levels.second) +
+                    "\">\n" + content + "</g>\n";
         return text + "</g>\n";
     }
 
     PlanLabel labelAt(const PlanShape& shape) const {
-        const DrawnPoint low = m_frame.drawn(hrx::CVec2<double>(shape.box.low.x, shape.box.high.y));
-        const DrawnPoint high = m_frame.drawn(hrx::CVec2<double>(shape.box.high.x, shape.box.low.y));
+        const ElementSpot spot = elementSpot(shape);
         PlanLabel label;
-        label.middle = {0.5 * (low.x + high.x), 0.5 * (low.y + high.y)};
-        label.halfWidth = 0.5 * (high.x - low.x);
-        label.halfHeight = 0.5 * (high.y - low.y);
+        label.middle = m_frame.drawn(spot.point);
+        label.halfWidth = spot.halfWidth * kMetresPerMillimetre;
+        label.halfHeight = spot.halfHeight * kMetresPerMillimetre;
         return label;
     }
 
-    /// The numbers of the findings, on the elements that offend.
-    std::vector<PlanLabel> pins() const {
-        std::vector<PlanLabel> result;
+    std::vector<PinnedElement> pinnedElements() const {
+        std::vector<PinnedElement> elements;
         for (const PlanShape& shape : m_report.plan) {
-            const auto numbers = m_numbersByHandle.find(shape.handle);
-            if (numbers == m_numbersByHandle.end())
-                continue;
-            PlanLabel pin = labelAt(shape);
-            pin.text = numbersText(numbers->second);
-            pin.classes = "pin " + colourOf(numbers->second.front());
-            result.push_back(pin);
+            const auto findings = m_findingsByHandle.find(shape.handle);
+            if (findings != m_findingsByHandle.end())
+                elements.push_back({m_frame.drawn(elementSpot(shape).point), findings->second});
         }
-        return result;
+        return elements;
+    }
+
+    QString pinRow(const PlanPin& row) const {
+        double width = -kPinGap;
+        for (const std::size_t merged : row.findings)
+            width += pinWidth(pinText(m_merged[merged])) + kPinGap;
+        double left = -0.5 * width;
+        QString text;
+        for (const std::size_t merged : row.findings) {
+            const QString number = pinText(m_merged[merged]);
+            const QString attributes = " class=\"pin " + coloursOf(merged) +
+                                       (isAccepted(merged) ? " excused" : "") + "\" data-finding=\"" +
+                                       numberOf(merged) + "\"";
+            const QString name = Words::tr("Violation %1").arg(numbersText(m_merged[merged].numbers));
+            text += badge(row, attributes, name, number, left);
+            left += pinWidth(number) + kPinGap;
+        }
+        return text;
+    }
+
+    QString cluster(const PlanPin& pin) const {
+        QStringList numbers;
+        for (const std::size_t merged : pin.findings)
+            numbers << numberOf(merged);
+        const QString text = clusterText(pin, m_merged);
+        const QString attributes =
+            QStringLiteral(" class=\"pin cluster\" data-findings=\"") + numbers.join(' ') + "\"";
+        const int count = static_cast<int>(pin.findings.size());
+        return badge(pin, attributes, Words::tr("%n violations, from %1 on", "", count).arg(numbers.front()),
+                     text, -0.5 * pinWidth(text));
+    }
+
+    QString badge(const PlanPin& pin, const QString& attributes, const QString& name, const QString& text,
+                  double left) const {
+        const double width = pinWidth(text);
+        const QString content = "<rect x=\"" + inLabelHeights(left) + "\" y=\"" +
+                                inLabelHeights(-0.5 * kPinHeight) + "\" width=\"" + inLabelHeights(width) +
+                                "\" height=\"" + inLabelHeights(kPinHeight) + "\" rx=\"" +
+                                inLabelHeights(0.5 * kPinHeight) + "\"/><text x=\"" +
+                                inLabelHeights(left + 0.5 * width) + "\">" + text + "</text>";
+        const QString place = placed(pin.spot);
+        if (!m_hasList)
+            return "<g" + attributes + place + ">" + content + "</g>\n";
+        return "<a" + attributes + place + " href=\"#" +
+               m_ids.finding(m_merged[pin.findings.front()].numbers.front()) + "\" aria-label=\"" + name +
+               "\">" + content + "</a>\n";
+    }
+
+    static QString placed(const DrawnPoint& point) {
+        return " transform=\"translate(" + drawnPair(point) + ")\"";
+    }
+
+    static QString inLabelHeights(double length) {
+        return QString::number(std::round(length * 100.0) / 100.0) + "em";
     }
 
     void appendMeasureTexts(std::vector<PlanLabel>& labels) const {
-        everyMeasure([&](std::size_t number, const Measure& measure) {
-            const DrawnPoint from = m_frame.drawn(measure.points->onElement);
-            const DrawnPoint to = m_frame.drawn(measure.points->onOther);
-            PlanLabel label;
-            label.text = QString::fromStdString(firestandard::valueText(measure));
-            label.classes = "value " + colourOf(number);
-            label.middle = {0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
-            label.halfWidth = 0.5 * std::abs(from.x - to.x);
-            label.halfHeight = 0.5 * std::abs(from.y - to.y);
-            labels.push_back(label);
-        });
+        everyMeasure(
+            [&](std::size_t i, const Measure& measure, const DrawnPoint& from, const DrawnPoint& to) {
+                if (isFar(from, to))
+                    return;
+                PlanLabel label;
+                label.text = QString::fromStdString(firestandard::valueText(measure));
+                label.attributes = " class=\"value " + coloursOf(i) + (isAccepted(i) ? " excused" : "") +
+                                   "\" data-finding=\"" + numberOf(i) + "\"";
+                label.middle = {0.5 * (from.x + to.x), 0.5 * (from.y + to.y)};
+                label.halfWidth = 0.5 * std::abs(from.x - to.x);
+                label.halfHeight = 0.5 * std::abs(from.y - to.y);
+                labels.push_back(label);
+            });
     }
 
     /// Offending elements first, then the larger before the smaller.
     void appendNames(std::vector<PlanLabel>& labels) const {
         std::vector<const PlanShape*> shapes;
         for (const PlanShape& shape : m_report.plan)
-            if (shape.kind != PlanKind::Wall || m_numbersByHandle.count(shape.handle) != 0)
+            if (shape.kind != PlanKind::Wall || isNumbered(shape.handle))
                 shapes.push_back(&shape);
         const auto rank = [&](const PlanShape* shape) {
             const hrx::CVec2<double> size = shape->box.high - shape->box.low;
-            return std::make_pair(m_numbersByHandle.count(shape->handle) == 0, -size.x * size.y);
+            return std::make_pair(!isNumbered(shape->handle), -size.x * size.y);
         };
         std::stable_sort(shapes.begin(), shapes.end(),
                          [&](const PlanShape* a, const PlanShape* b) { return rank(a) < rank(b); });
@@ -250,29 +253,32 @@ private:
             label.text = QString::fromStdString(shape->label);
             if (label.text.size() > kLongestLabel)
                 label.text = label.text.left(kLongestLabel - 1).trimmed() + QStringLiteral("…");
-            label.classes = "name";
+            label.attributes = " class=\"name\"";
             label.mustFitElement = true;
             label.firstLevel = isMinor(shape->kind) ? kFirstLevelOfMinor : 0;
-            const bool offends = m_numbersByHandle.count(shape->handle) != 0;
-            label.firstLevelBeside = isRoad(shape->kind) ? kLabelLevels
-                                     : offends           ? 0
-                                                         : std::max(label.firstLevel, 1);
+            label.firstLevelBeside = isRoad(shape->kind)         ? kLabelLevels
+                                     : isNumbered(shape->handle) ? 0
+                                                                 : std::max(label.firstLevel, 1);
             labels.push_back(label);
         }
     }
 
     static QString labelText(const PlanLabel& label) {
-        if (label.level < 0)
-            return {};
-        static const std::map<PlanLabel::Place, QString> placeClasses = {{PlanLabel::Place::Centre, "centre"},
-                                                                         {PlanLabel::Place::Above, "above"},
-                                                                         {PlanLabel::Place::Below, "below"},
-                                                                         {PlanLabel::Place::Right, "right"},
-                                                                         {PlanLabel::Place::Left, "left"}};
         const DrawnPoint anchor = labelAnchor(label);
-        return "<text class=\"" + label.classes + " " + placeClasses.at(label.place) + " l" +
-               QString::number(label.level) + "\" x=\"" + drawnNumber(anchor.x) + "\" y=\"" +
-               drawnNumber(anchor.y) + "\">" + escaped(label.text) + "</text>\n";
+        const double drop = labelDrop(label.place);
+        QString attributes = label.attributes;
+        if (label.place == PlanLabel::Place::Right)
+            attributes = beside(attributes, "right", 0.3);
+        if (label.place == PlanLabel::Place::Left)
+            attributes = beside(attributes, "left", -0.3);
+        if (drop != 0.0)
+            attributes += " dy=\"" + inLabelHeights(drop) + "\"";
+        return "<text" + attributes + placed(anchor) + ">" + escaped(label.text) + "</text>\n";
+    }
+
+    static QString beside(QString attributes, const QString& side, double shift) {
+        attributes.insert(attributes.indexOf('"') + 1, side + " ");
+        return attributes + " dx=\"" + inLabelHeights(shift) + "\"";
     }
 
     /// A round length of about a fifth of the plan.
@@ -284,47 +290,55 @@ private:
         const double tick = m_frame.margin() / 3.0;
         const double x = m_frame.margin();
         return "<g class=\"scale\"><path d=\"M" + drawnPair({x, y - tick}) + "V" + drawnNumber(y) + "H" +
-               drawnNumber(x + length) + "V" + drawnNumber(y - tick) + "\"/><text class=\"right\" x=\"" +
-               drawnNumber(x + length) + "\" y=\"" + drawnNumber(y) + "\">" + QString::number(length) +
-               " m</text></g>\n";
+               drawnNumber(x + length) + "V" + drawnNumber(y - tick) +
+               "\"/><text class=\"right\" dx=\".3em\" x=\"" + drawnNumber(x + length) + "\" y=\"" +
+               drawnNumber(y) + "\">" + Words::tr("%1 m").arg(QString::number(length)) + "</text></g>\n";
+    }
+
+    /// In the strip of the scale bar.
+    QString north() const {
+        const double half = m_frame.margin() * 0.75;
+        const double x = m_frame.width() - m_frame.margin() - half;
+        const double y = m_frame.height() - m_frame.margin() - 0.5 * half;
+        return "<g class=\"north\"><path d=\"M" + drawnPair({x, y - half}) + "L" +
+               drawnPair({x + 0.5 * half, y + half}) + "L" + drawnPair({x, y + 0.6 * half}) + "L" +
+               drawnPair({x - 0.5 * half, y + half}) + "Z\"/><text class=\"left\" dx=\"-.3em\" x=\"" +
+               drawnNumber(x - 0.5 * half) + "\" y=\"" + drawnNumber(y) + "\">" +
+               Words::tr("N", "north, by the arrow of a plan") + "</text></g>\n";
     }
 
     const SiteReport& m_report;
+    const std::vector<MergedFinding>& m_merged;
     const PlanIds m_ids;
     const bool m_hasList;
     const PlanFrame m_frame;
-    const std::vector<std::size_t> m_ruleIndices;
-    std::map<long long, std::vector<std::size_t>> m_numbersByHandle;
+    std::map<long long, std::vector<std::size_t>> m_findingsByHandle;
     std::set<long long> m_unjudged;
+    std::vector<PlanPin> m_pins;
 };
 
 } // namespace
 
-QString colourClass(std::size_t ruleIndex) {
-    return "c" + QString::number(ruleIndex % kColours);
+QString colourClasses(std::size_t ruleIndex) {
+    const std::size_t pattern = ruleIndex / kColours % kPatterns;
+    return "c" + QString::number(ruleIndex % kColours) +
+           (pattern == 0 ? QString() : " k" + QString::number(pattern));
 }
 
-std::vector<std::size_t> ruleIndices(const SiteReport& report) {
-    std::vector<std::size_t> indices;
-    std::size_t index = 0;
-    for (const Finding& finding : report.findings) {
-        while (report.counts[index].ruleName != report.record(finding).name)
-            ++index;
-        indices.push_back(index);
-    }
-    return indices;
-}
-
-QString planSvg(const SiteReport& report, const PlanIds& ids) {
-    const QString labelling = " data-label-pixels=\"" + drawnNumber(kLabelPixels) + "\" data-narrowest=\"" +
-                              drawnNumber(kNarrowestPlan) + "\" data-levels=\"" +
-                              QString::number(kLabelLevels) + "\"";
-    return PlanDrawing(report, ids, true).svg(" class=\"plan\"" + labelling, {});
+DrawnPlan drawPlan(const SiteReport& report, const std::vector<MergedFinding>& merged, const PlanIds& ids) {
+    const QString attributes = " class=\"plan\" data-label-pixels=\"" + drawnNumber(kLabelPixels) +
+                               "\" data-narrowest=\"" + drawnNumber(kNarrowestPlan) + "\" data-levels=\"" +
+                               QString::number(kLabelLevels) + "\"";
+    PlanDrawing drawing(report, merged, ids, true);
+    const QString svg = drawing.svg(attributes, {});
+    return {svg, drawing.takePins()};
 }
 
 QString planSvgFile(const SiteReport& report) {
+    const std::vector<MergedFinding> merged = mergedFindings(report);
     const QString style = "<style>\n" + asset("plan.css") + "</style>\n";
-    return PlanDrawing(report, {}, false).svg(" class=\"plan\" xmlns=\"http://www.w3.org/2000/svg\"", style);
+    return PlanDrawing(report, merged, {}, false)
+        .svg(" class=\"plan\" xmlns=\"http://www.w3.org/2000/svg\"", style);
 }
 
 } // namespace firecheck
