@@ -1019,7 +1019,7 @@
     <message>
         <source>%1 of %2</source>
         <comment>violations, rules</comment>
-        <translation>%1，涉及%2</translation>
+        <translation>%1，涉及 %2</translation>
     </message>
     <message>
         <source>accepted: %1</source>
@@ -2422,6 +2422,10 @@
     <message>
         <source>cannot be copied: %1</source>
         <translation>无法复制：%1</translation>
+    </message>
+    <message>
+        <source>where it would comply</source>
+        <translation>满足要求的位置</translation>
     </message>
 </context>
 </TS>

@@ -7,7 +7,9 @@
 #include "report/html/finding_filters.h"
 #include "report/html/markup.h"
 #include "report/missing_share.h"
+#include "report/plan/plan_ghosts.h"
 #include "report/unjudged_text.h"
+#include "suggest/suggestion_text.h"
 
 #include <QStringList>
 
@@ -139,7 +141,17 @@ private:
             content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
         if (finding.further > 0)
             content += element("p", ofClass("reason"), asSentence(furtherText(finding)));
-        return element("li", itemAttributes(merged, finding, handles), content + places(finding, handles));
+        return element("li", itemAttributes(merged, finding, handles),
+                       content + suggested(merged) + places(finding, handles));
+    }
+
+    QString suggested(const MergedFinding& merged) const {
+        const Suggestion* suggestion = suggestionFor(m_report, merged.numbers.front() - 1);
+        QString text;
+        if (suggestion)
+            for (const std::string& line : suggestionLines(*suggestion))
+                text += element("p", ofClass("suggestion"), asSentence(line));
+        return text;
     }
 
     QString itemAttributes(const MergedFinding& merged, const Finding& finding,

@@ -65,6 +65,9 @@ QString legend(const SiteReport& report) {
         items += legendItem(sample("element offends c0"), Words::tr("offends, in the colour of its rule"));
         items += legendItem(lineSample("measure c0"), Words::tr("distance between the closest points"));
     }
+    if (report.suggestions)
+        items += legendItem("<g class=\"ghost c0\"><path class=\"outline\" d=\"M2 2H24V12H2Z\"/></g>",
+                            Words::tr("where it would comply"));
     if (report.acceptedCount() > 0)
         items += legendItem("<path class=\"pin excused\" d=\"M3 2H23V12H3Z\"/>", Words::tr("accepted"));
     if (!report.unjudged.empty())

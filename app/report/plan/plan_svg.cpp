@@ -5,6 +5,7 @@
 #include "report/assets.h"
 #include "report/escape.h"
 #include "report/plan/element_spot.h"
+#include "report/plan/plan_ghosts.h"
 #include "report/plan/plan_kinds.h"
 #include "report/plan/plan_labels.h"
 #include "report/plan/plan_path.h"
@@ -55,8 +56,8 @@ public:
                drawnNumber(m_frame.height()) + "\" font-size=\"" +
                drawnNumber(labelHeight(m_frame.width(), kLevelWithoutScripts)) +
                "\" role=\"group\" aria-label=\"" + Words::tr("Plan of %1").arg(name) + "\">\n" + head +
-               "<g class=\"ground\">\n" + elements() + measures() + "</g>\n" + labels() + scaleBar() +
-               north() + "</svg>\n";
+               "<g class=\"ground\">\n" + elements() + ghosts() + measures() + "</g>\n" + labels() +
+               scaleBar() + north() + "</svg>\n";
     }
 
     std::vector<PlanPin> takePins() { return std::move(m_pins); }
@@ -129,9 +130,30 @@ private:
         return text + "</g>\n";
     }
 
+    /// What stands for a finding in the plan, and the number by which scripts find it.
+    QString marked(const QString& classes, std::size_t merged) const {
+        return " class=\"" + classes + " " + coloursOf(merged) + (isAccepted(merged) ? " excused" : "") +
+               "\" data-finding=\"" + numberOf(merged) + "\"";
+    }
+
+    const Suggestion* suggestion(std::size_t merged) const {
+        return suggestionFor(m_report, m_merged[merged].numbers.front() - 1);
+    }
+
+    QString ghosts() const {
+        if (!m_report.suggestions)
+            return {};
+        QString text = "<g class=\"ghosts\">\n";
+        for (std::size_t i = 0; i < m_merged.size(); ++i)
+            if (const Suggestion* change = suggestion(i))
+                text += "<g" + marked("ghost", i) + ">\n" + planGhosts(*change, m_frame) + "</g>\n";
+        return text + "</g>\n";
+    }
+
     QString labels() const {
         std::vector<PlanLabel> labels;
         appendMeasureTexts(labels);
+        appendMoveTexts(labels);
         appendNames(labels);
         placeLabels(labels, pinRooms(m_pins, m_merged, m_frame.width()), m_frame.width(), m_frame.height());
         LabelGroups groups;
@@ -234,6 +256,26 @@ private:
                 label.halfHeight = 0.5 * std::abs(from.y - to.y);
                 labels.push_back(label);
             });
+    }
+
+    /// How far an element would be moved, beside its arrow.
+    void appendMoveTexts(std::vector<PlanLabel>& labels) const {
+        for (std::size_t i = 0; i < m_merged.size(); ++i) {
+            const Suggestion* change = suggestion(i);
+            for (std::size_t step = 0; change && step < change->steps.size(); ++step) {
+                const SuggestedStep& suggested = change->steps[step];
+                const SuggestedObject& object = suggested.objects.front();
+                if (!suggested.move || !object.from || !object.to)
+                    continue;
+                PlanLabel label;
+                label.text =
+                    QStringLiteral("→ ") +
+                    Words::tr("%1 m").arg(std::hypot(suggested.move->x, suggested.move->y), 0, 'f', 2);
+                label.attributes = marked("value move", i);
+                label.middle = m_frame.drawn(*object.to);
+                labels.push_back(label);
+            }
+        }
     }
 
     /// Offending elements first, then the larger before the smaller.
