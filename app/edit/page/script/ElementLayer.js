@@ -1,0 +1,75 @@
+import { pathData } from "./plane.js";
+import { drawn } from "./svg.js";
+
+// Later kinds lie above earlier ones.
+const KINDS = ["road", "fire-road", "yard", "house", "shed", "station", "other", "crane", "door", "wall", "cable", "poster", "model"];
+
+/** The elements of the site in plan, by handle. */
+export class ElementLayer {
+  constructor(root, view) {
+    this.view = view;
+    this.nodes = new Map();
+    this.layers = new Map(KINDS.map((kind) => [kind, drawn(root, "g")]));
+    this.selected = null;
+  }
+
+  clear() {
+    for (const handle of [...this.nodes.keys()]) this.remove(handle);
+  }
+
+  /** `entry` is an object with its shape; one that has nothing to draw is left out. */
+  show(entry) {
+    this.remove(entry.handle);
+    const data = pathData(entry.shape, this.view.origin);
+    if (data === "") return;
+    const { kind } = entry.shape;
+    const layer = this.layers.get(kind) ?? this.layers.get("other");
+    const node = drawn(layer, "g", { class: "thing", "data-handle": entry.handle, role: "img", "aria-label": entry.title });
+    drawn(node, "path", { class: "grasp", d: data });
+    drawn(node, "path", { class: `element ${kind}`, d: data });
+    drawn(node, "title", {}, entry.title);
+    node.id = `e${entry.handle}`;
+    this.nodes.set(entry.handle, node);
+    this.#markSelected(entry.handle);
+  }
+
+  remove(handle) {
+    this.nodes.get(handle)?.remove();
+    this.nodes.delete(handle);
+  }
+
+  /** As it would be drawn, while it is dragged. */
+  preview(handle, shape) {
+    const data = pathData(shape, this.view.origin);
+    const node = this.nodes.get(handle);
+    if (!node) return;
+    for (const path of node.querySelectorAll("path")) path.setAttribute("d", data);
+  }
+
+  select(handle) {
+    const before = this.selected;
+    this.selected = handle;
+    if (before) this.#markSelected(before);
+    if (handle) this.#markSelected(handle);
+  }
+
+  #markSelected(handle) {
+    this.nodes.get(handle)?.classList.toggle("selected", handle === this.selected);
+  }
+
+  /** Colours of what offends: class names by handle. */
+  markOffending(colours) {
+    for (const [handle, node] of this.nodes) {
+      const marks = colours.get(handle) ?? "";
+      if ((node.lastMarks ?? "") === marks) continue;
+      node.lastMarks = marks;
+      const path = node.querySelector(".element");
+      const kind = path.getAttribute("class").split(" ")[1];
+      path.setAttribute("class", `element ${kind} ${marks}`.trim());
+    }
+  }
+
+  handleAt(target) {
+    return target.closest(".thing")?.dataset.handle ?? null;
+  }
+}
