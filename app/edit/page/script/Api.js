@@ -2,16 +2,14 @@
 export class Refusal extends Error {
   constructor(status, body) {
     super(body.error ?? "");
-    this.status = status; // 0: it does not answer
-    this.key = body.key ?? null;
+    this.status = status;
+    this.isGone = status === 0 || status === 404; // it has ended, or another one has its port
+    this.revision = body.revision;
   }
 
-  get isGone() {
-    return this.status === 0;
-  }
-
-  get isStale() {
-    return this.status === 409;
+  /** What was asked for was about a site that has changed since. */
+  isStaleAfter(revision) {
+    return this.status === 409 && this.revision !== revision;
   }
 }
 

@@ -22,7 +22,10 @@ export class Dragging {
     svg.addEventListener("pointercancel", () => this.cancel(), { capture: true });
     this.view.addEventListener("view", () => this.showGrips());
     this.selection.addEventListener("select", () => this.showGrips());
-    this.site.addEventListener("objects", () => this.showGrips());
+    this.site.addEventListener("objects", ({ detail }) => {
+      if (detail === null) this.cancel();
+      this.showGrips();
+    });
   }
 
   get isActive() {
@@ -60,7 +63,8 @@ export class Dragging {
       this.cancel(); // a second finger zooms
       return;
     }
-    if (event.button !== 0 || this.view.pointers.size > 0) return;
+    const isAlone = [...this.view.pointers.keys()].every((pointer) => pointer === event.pointerId);
+    if (event.button !== 0 || !isAlone) return;
     const grip = event.target.closest(".grip")?.dataset.grip;
     const handle = grip ? this.selection.handle : this.elements.handleAt(event.target);
     const isOwn = handle !== null && handle === this.selection.handle;

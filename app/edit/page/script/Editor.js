@@ -29,7 +29,7 @@ export class Editor {
   tellRefusal(refusal) {
     const { words, messages } = this;
     if (refusal.status === undefined) throw refusal; // a fault of the page
-    if (refusal.isGone || refusal.status === 404) {
+    if (refusal.isGone) {
       this.isGone = true;
       messages.warn(words.say("The process that holds the site does not answer any more. Changes that were not saved are lost with it when it has ended; the page still has a copy of them."), [
         { text: words.say("Try again"), act: () => this.attempt(() => this.site.load()) },
@@ -80,8 +80,7 @@ export class Editor {
 
   async save() {
     await this.finishNudge();
-    const answer = await this.attempt(() => this.site.save());
-    if (answer) this.messages.tell(this.words.say("Saved."));
+    if (await this.attempt(() => this.site.save().then(() => true))) this.messages.tell(this.words.say("Saved."));
   }
 
   async add(name) {
@@ -99,10 +98,10 @@ export class Editor {
   }
 
   #selectNew(answer) {
-    const added = answer?.objects[0];
-    if (!added) return;
-    this.selection.select(added.handle);
-    this.view.reveal([added.shape]);
+    if (!answer) return;
+    const [{ handle }] = answer.objects;
+    this.selection.select(handle);
+    this.view.reveal([this.site.objects.get(handle).shape]);
   }
 
   async remove() {

@@ -58,15 +58,15 @@ export class ElementForm {
 
   #row(shape, object) {
     const row = document.createElement("div");
-    row.className = `row ${shape.kind}`;
-    const field = fieldFor(shape, object[shape.key], (code) => this.#name(code));
+    row.className = `row of-${shape.kind}`;
+    const field = fieldFor(shape, object[shape.key], (code) => this.words.name(code));
     const input = field.input.matches("input, select, textarea") ? field.input : field.input.querySelector("input");
     input.id = `field-${shape.key}`;
     input.name = shape.key;
     const label = document.createElement("label");
     label.htmlFor = input.id;
-    label.textContent = this.#name(shape.key);
-    if (shape.doc) label.title = shape.doc;
+    label.textContent = this.words.name(shape.key);
+    if (this.words.language === "en") label.title = shape.doc; // these are for readers of the file, and not translated
     const unit = document.createElement("span");
     unit.className = "unit";
     unit.textContent = unitOf(shape);
@@ -78,11 +78,6 @@ export class ElementForm {
     row.append(label, field.input, unit, problem);
     row.addEventListener("change", () => this.#change(shape, field, input, problem));
     return row;
-  }
-
-  /** "frontJibLength" is told as "front jib length". */
-  #name(name) {
-    return this.words.say(String(name).replace(/Metres$/, "").replace(/[A-Z]/g, (letter) => ` ${letter.toLowerCase()}`));
   }
 
   async #change(shape, field, input, problem) {
@@ -104,8 +99,8 @@ export class ElementForm {
     if (JSON.stringify(object) === JSON.stringify(this.selection.object)) return;
     await this.editor.finishNudge();
     await this.editor.change([{ handle: this.selection.handle, object }], (refusal) => {
-      if (refusal.isGone || refusal.isStale || refusal.status === 404) this.editor.tellRefusal(refusal);
-      else refuse(refusal.message);
+      if (refusal.status === 422) refuse(refusal.message);
+      else this.editor.tellRefusal(refusal);
     });
   }
 }

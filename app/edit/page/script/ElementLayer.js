@@ -26,7 +26,7 @@ export class ElementLayer {
     const layer = this.layers.get(kind) ?? this.layers.get("other");
     const node = drawn(layer, "g", { class: "thing", "data-handle": entry.handle, role: "img", "aria-label": entry.title });
     drawn(node, "path", { class: "grasp", d: data });
-    drawn(node, "path", { class: `element ${kind}`, d: data });
+    drawn(drawn(node, "g", { class: `element ${kind}` }), "path", { d: data });
     drawn(node, "title", {}, entry.title);
     node.id = `e${entry.handle}`;
     this.nodes.set(entry.handle, node);
@@ -51,21 +51,23 @@ export class ElementLayer {
     this.selected = handle;
     if (before) this.#markSelected(before);
     if (handle) this.#markSelected(handle);
+    const node = this.nodes.get(handle);
+    node?.parentNode.append(node); // above others of its kind
   }
 
   #markSelected(handle) {
     this.nodes.get(handle)?.classList.toggle("selected", handle === this.selected);
   }
 
-  /** Colours of what offends: class names by handle. */
-  markOffending(colours) {
+  /** Class names of what offends, by handle. */
+  markOffending(marks) {
     for (const [handle, node] of this.nodes) {
-      const marks = colours.get(handle) ?? "";
-      if ((node.lastMarks ?? "") === marks) continue;
-      node.lastMarks = marks;
-      const path = node.querySelector(".element");
-      const kind = path.getAttribute("class").split(" ")[1];
-      path.setAttribute("class", `element ${kind} ${marks}`.trim());
+      const wanted = marks.get(handle) ?? "";
+      if ((node.lastMarks ?? "") === wanted) continue;
+      node.lastMarks = wanted;
+      const element = node.querySelector(".element");
+      const [base, kind] = element.classList;
+      element.setAttribute("class", `${base} ${kind} ${wanted}`.trim());
     }
   }
 

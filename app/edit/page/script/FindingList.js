@@ -118,7 +118,7 @@ export class FindingList extends EventTarget {
     this.selection.select(finding.handles[0] ?? null);
     const shapes = finding.handles.map((handle) => this.site.objects.get(handle)?.shape).filter(Boolean);
     const lines = linesOf(finding).map((points) => ({ paths: [{ points, closed: false }] }));
-    this.view.fit(lines.length > 0 ? lines : shapes);
+    this.view.fit(shapes.length > 2 && lines.length > 0 ? lines : [...shapes, ...lines]);
     this.dispatchEvent(new Event("choose"));
   }
 

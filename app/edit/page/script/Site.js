@@ -5,9 +5,10 @@ const NO_SHAPE = { paths: [], label: "", kind: "other" };
  * "objects" (detail: handles that are new, changed or gone; null for all), "verdict" and "state".
  */
 export class Site extends EventTarget {
-  constructor(api) {
+  constructor(api, words) {
     super();
     this.api = api;
+    this.words = words;
     this.objects = new Map(); // by handle, in the order of the file
     this.classes = new Map(); // by name
     this.last = Promise.resolve();
@@ -33,7 +34,7 @@ export class Site extends EventTarget {
 
   /** A change that is kept, as one step to undo. */
   change(changes) {
-    return this.#next("api/change", () => ({ changes }));
+    return this.#next("api/change", { changes });
   }
 
   undo() {
@@ -47,12 +48,12 @@ export class Site extends EventTarget {
   /** What the process says of changes that are not kept. */
   async tried(changes) {
     await this.last;
-    return this.api.post("api/try", { revision: this.revision, changes });
+    return this.#sent("api/try", { changes });
   }
 
   async suggestions(finding) {
     await this.last;
-    return this.api.post("api/suggest", { revision: this.revision, finding });
+    return this.#sent("api/suggest", { finding });
   }
 
   async zones(handle) {
@@ -68,10 +69,9 @@ export class Site extends EventTarget {
 
   async save() {
     await this.last;
-    const answer = await this.api.post("api/save", { revision: this.revision });
+    await this.#sent("api/save", {});
     this.isChanged = false;
     this.#tell("state");
-    return answer;
   }
 
   /** Shows the verdict on a try in place of that on the site as it is kept. */
@@ -85,7 +85,7 @@ export class Site extends EventTarget {
   }
 
   /** Changes are sent in their order, each on the revision that the one before it made. */
-  #next(path, body = () => ({})) {
+  #next(path, body = {}) {
     const next = this.last.then(async () => {
       const answer = await this.#sent(path, body);
       this.#take(answer);
@@ -96,10 +96,11 @@ export class Site extends EventTarget {
   }
 
   async #sent(path, body) {
+    const { revision } = this;
     try {
-      return await this.api.post(path, { revision: this.revision, ...body() });
+      return await this.api.post(path, { revision, ...body });
     } catch (refusal) {
-      if (refusal.isStale) await this.load(); // another window changed the site
+      if (refusal.isStaleAfter?.(revision)) await this.load(); // another window changed the site
       throw refusal;
     }
   }
@@ -115,7 +116,7 @@ export class Site extends EventTarget {
 
   /** What cannot be drawn has a shape without paths. */
   #complete({ handle, object, shape }) {
-    const title = shape?.title ?? [this.classes.get(object.class)?.doc ?? object.class, handle, object.name].filter(Boolean).join(" ");
+    const title = shape?.title ?? [this.words.name(object.class), handle, object.name].filter(Boolean).join(" ");
     return { handle, object, title, shape: shape ?? NO_SHAPE };
   }
 

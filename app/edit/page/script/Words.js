@@ -1,3 +1,5 @@
+const NAMES = { floors: "number of floors" };
+
 /** The sentences of the page in the language of the process, by their English. */
 export class Words {
   constructor({ language, sentences }) {
@@ -8,6 +10,11 @@ export class Words {
   /** All places are filled at once, since a name may hold a "%1" of its own. */
   say(sentence, ...values) {
     return (this.sentences[sentence] ?? sentence).replace(/%(\d)/g, (place, number) => values[number - 1] ?? place);
+  }
+
+  /** What people call a class, a key or a code of site files: "frontJibLength" is the front jib length. */
+  name(identifier) {
+    return this.say(NAMES[identifier] ?? String(identifier).replace(/Metres$/, "").replace(/[A-Z]/g, (letter) => ` ${letter.toLowerCase()}`));
   }
 
   /** Fills what the markup asks for: texts, names for screen readers, and hints. */

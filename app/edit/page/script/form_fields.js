@@ -51,6 +51,7 @@ function point(shape, value) {
   node.className = "point";
   const coordinates = ["x", "y"].map((name, index) => {
     const part = input("number", { step: "any", inputmode: "decimal", "aria-label": name });
+    if (index > 0) part.name = `${shape.key}-${name}`; // the first has the name of the key
     part.value = value?.[index] ?? "";
     node.append(part);
     return part;

@@ -116,10 +116,10 @@ function listenToTools({ site, editor, snapping, zones, toggles, selection, word
   });
 }
 
-function showTitles({ site }) {
+function showTitles({ site, words }) {
   one("#site-name").textContent = site.name || site.file;
   one("#file").textContent = site.name ? site.file : "";
-  one("#add").elements.class.replaceChildren(...[...site.classes.values()].map(({ name, doc }) => new Option(doc, name)));
+  one("#add").elements.class.replaceChildren(...[...site.classes.values()].map(({ name }) => new Option(words.name(name), name)));
 }
 
 async function start() {
@@ -128,7 +128,7 @@ async function start() {
   document.documentElement.lang = words.language.replace("_", "-");
   words.fill(document);
   const svg = one("svg.plan");
-  const page = { words, site: new Site(api), snapping: new Snapping(), colours: ruleColours() };
+  const page = { words, site: new Site(api, words), snapping: new Snapping(), colours: ruleColours() };
   page.messages = new Messages(one("#message"), one("#live"));
   page.view = new PlanView(svg, one(".gauge"));
   page.selection = new Selection(page.site);
