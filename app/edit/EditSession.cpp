@@ -7,7 +7,7 @@
 #include "evaluators/CheckObserver.h"
 #include "site_file/RefusedSite.h"
 #include "site_file/site_keys.h"
-#include "suggest/changed_text.h"
+#include "site_file/changed_text.h"
 #include "suggest/suggest_changes.h"
 #include "text/advice.h"
 
