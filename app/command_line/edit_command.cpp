@@ -8,6 +8,8 @@
 #include "site_file/site_reader.h"
 #include "text/words.h"
 
+#include <atomic>
+#include <chrono>
 #include <csignal>
 #include <thread>
 
@@ -26,6 +28,16 @@ int portOf(const Options& options) {
         throw InputError("Option --port: expected a number from 0 to 65535, found \"" + given->toStdString() +
                          "\".");
     return port;
+}
+
+SiteFileOnDisk targetOf(const Options& options, const SiteFile& file) {
+    if (const auto output = options.value("output"))
+        return SiteFileOnDisk(*output);
+    try {
+        return SiteFileOnDisk(options.arguments().first(), file.text);
+    } catch (const InputError& error) {
+        throw InputError(std::string(error.what()) + "; name one after --output");
+    }
 }
 
 /// The signals that end the server: the user's, those of other programs, and the terminal's end.
@@ -55,13 +67,16 @@ void print(const std::string& line) {
 }
 
 void serveUntilEnd(EditServer& server, const EndSignals& endSignals) {
+    std::atomic<bool> isOver = false;
     std::thread waiting([&] {
         endSignals.waitForOne();
-        server.stop();
+        constexpr std::chrono::milliseconds moment(20);
+        for (; !isOver; std::this_thread::sleep_for(moment))
+            server.stop(); // in vain as long as it has not begun
     });
     server.serve();
-    // Ended by the page, perhaps: then nobody has signalled yet.
-    pthread_kill(waiting.native_handle(), SIGTERM);
+    isOver = true;
+    pthread_kill(waiting.native_handle(), SIGTERM); // where the page has ended it
     waiting.join();
 }
 
@@ -76,8 +91,7 @@ int editCommand(const Options& options) {
     const RuleMap& rules = loadRules(ruleFile);
     const QString fileName = options.arguments().first();
     SiteFile file = loadSiteFile(fileName.toStdString());
-    const auto output = options.value("output");
-    SiteFileOnDisk target = output ? SiteFileOnDisk(*output) : SiteFileOnDisk(fileName, file.text);
+    SiteFileOnDisk target = targetOf(options, file);
 
     const EndSignals endSignals; // before any thread is started
     EditSession session(std::move(file), fileName.toStdString(), std::move(target), rules);

@@ -1,10 +1,8 @@
 #include "edit/EditServer.h"
 
+#include "edit/HttpServer.h"
 #include "edit/edit_requests.h"
 #include "edit/page_files.h"
-#include "edit/request_guard.h"
-
-#include <httplib.h>
 
 #include <mutex>
 
@@ -13,16 +11,7 @@ namespace firecheck {
 namespace {
 
 const std::string kApi = "api/";
-
-httplib::Headers securityHeaders() {
-    return {{"Content-Security-Policy",
-             "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data:; "
-             "connect-src 'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'"},
-            {"X-Content-Type-Options", "nosniff"},
-            {"Referrer-Policy", "no-referrer"},
-            {"Cross-Origin-Resource-Policy", "same-origin"},
-            {"Cache-Control", "no-store"}};
-}
+const std::string kJsonType = "application/json";
 
 int statusOf(EditAnswer::Outcome outcome) {
     switch (outcome) {
@@ -42,87 +31,40 @@ int statusOf(EditAnswer::Outcome outcome) {
     return 500;
 }
 
-RequestHead headOf(const httplib::Request& request) {
-    return {request.method,
-            request.path,
-            request.get_header_value("Host"),
-            request.get_header_value("Origin"),
-            request.get_header_value("Content-Type"),
-            request.get_header_value("Content-Encoding"),
-            request.get_header_value("Transfer-Encoding"),
-            request.get_header_value("Content-Length")};
-}
-
-void refuse(httplib::Response& response, int status) {
-    response.status = status;
-    response.set_content(R"({"error": "refused"})", "application/json");
-}
-
 } // namespace
 
 class EditServer::Implementation {
 public:
-    Implementation(EditSession& session, int port) : m_session(session), m_guard(bound(port)) {
-        m_server.set_default_headers(securityHeaders());
-        m_server.set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
-            const int refusal = m_guard.refusalOf(headOf(request));
-            if (refusal == 0)
-                return httplib::Server::HandlerResponse::Unhandled;
-            refuse(response, refusal);
-            return httplib::Server::HandlerResponse::Handled;
-        });
-        const auto answer = [this](const httplib::Request& request, httplib::Response& response) {
-            this->answer(request, response);
-        };
-        m_server.Get(".*", answer);
-        m_server.Post(".*", answer);
+    Implementation(EditSession& session, int port)
+        : m_session(session), m_server(port, [this](const HttpRequest& request) { return answer(request); }) {
     }
 
-    std::string address() const { return m_guard.address(); }
-    void serve() { m_server.listen_after_bind(); }
-    void stop() { m_server.stop(); }
+    HttpServer& server() { return m_server; }
 
 private:
-    int bound(int port) {
-        const std::string host = "127.0.0.1";
-        m_server.set_address_family(AF_INET);
-        if (port == 0)
-            port = m_server.bind_to_any_port(host);
-        else if (!m_server.bind_to_port(host, port))
-            port = -1;
-        if (port <= 0)
-            throw InputError("Option --port: the port cannot be had. Another program may use it.");
-        return port;
+    HttpAnswer answer(const HttpRequest& request) {
+        if (request.wanted.compare(0, kApi.size(), kApi) == 0)
+            return answerApi(request, request.wanted.substr(kApi.size()));
+        const auto file = request.isRead ? pageFile(request.wanted) : std::nullopt;
+        return file ? HttpAnswer{200, file->content, file->mediaType}
+                    : HttpAnswer{404, R"({"error": "there is no such file"})", kJsonType};
     }
 
-    void answer(const httplib::Request& request, httplib::Response& response) {
-        const std::string wanted = m_guard.below(request.path);
-        if (wanted.compare(0, kApi.size(), kApi) == 0)
-            answerApi(request, wanted.substr(kApi.size()), response);
-        else if (const auto file = request.method == "GET" ? pageFile(wanted) : std::nullopt)
-            response.set_content(file->content, file->mediaType);
-        else
-            refuse(response, 404);
-    }
-
-    void answerApi(const httplib::Request& request, const std::string& name, httplib::Response& response) {
-        if (name == "quit" && request.method == "POST") {
-            response.set_content("{}", "application/json");
-            stop();
-            return;
+    HttpAnswer answerApi(const HttpRequest& request, const std::string& name) {
+        if (name == "quit" && !request.isRead) {
+            m_server.end();
+            return {200, "{}", kJsonType};
         }
         const std::lock_guard<std::mutex> turn(m_turn);
-        const EditAnswer answer = answerRequest(m_session, request.method == "GET", name,
-                                                request.get_param_value("handle"), request.body);
-        response.status = statusOf(answer.outcome);
-        response.set_content(answer.json.dump(-1, ' ', false, Json::error_handler_t::replace),
-                             "application/json");
+        const EditAnswer answer =
+            answerRequest(m_session, request.isRead, name, request.handle, request.body);
+        return {statusOf(answer.outcome), answer.json.dump(-1, ' ', false, Json::error_handler_t::replace),
+                kJsonType};
     }
 
     EditSession& m_session;
     std::mutex m_turn; ///< the session's
-    httplib::Server m_server;
-    const RequestGuard m_guard;
+    HttpServer m_server;
 };
 
 EditServer::EditServer(EditSession& session, int port)
@@ -131,15 +73,15 @@ EditServer::EditServer(EditSession& session, int port)
 EditServer::~EditServer() = default;
 
 std::string EditServer::address() const {
-    return m_implementation->address();
+    return m_implementation->server().address();
 }
 
 void EditServer::serve() {
-    m_implementation->serve();
+    m_implementation->server().serve();
 }
 
 void EditServer::stop() {
-    m_implementation->stop();
+    m_implementation->server().end();
 }
 
 } // namespace firecheck

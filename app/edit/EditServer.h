@@ -22,7 +22,7 @@ public:
     /// Answers requests until the page asks to end, or `stop` is called.
     void serve();
 
-    /// From any thread.
+    /// From any thread; without effect before `serve` has begun.
     void stop();
 
 private:

@@ -10,20 +10,27 @@ namespace firecheck {
 
 namespace {
 
-std::optional<std::string> contentOf(const QString& name) {
-    const QFileInfo info(name);
-    if (!info.exists())
-        return std::nullopt;
-    if (!info.isFile())
+void requireFile(const QString& name) {
+    if (name == "-" || !QFileInfo(name).isFile())
         throw InputError(name.toStdString() + ": " +
-                         filled(Words::tr("expected a file to save the site to")));
+                         filled(Words::tr("expected a file that a site can be saved to")));
+}
+
+std::optional<std::string> contentOf(const QString& name) {
+    if (!QFileInfo::exists(name))
+        return std::nullopt;
+    requireFile(name);
     return inputText(name.toStdString(), filled(Words::tr("a site file")));
 }
 
 } // namespace
 
-SiteFileOnDisk::SiteFileOnDisk(const QString& fileName, std::optional<std::string> known)
-    : m_name(fileName), m_known(known ? std::move(known) : contentOf(fileName)) {}
+SiteFileOnDisk::SiteFileOnDisk(const QString& fileName) : m_name(fileName), m_known(contentOf(fileName)) {}
+
+SiteFileOnDisk::SiteFileOnDisk(const QString& fileName, const std::string& known)
+    : m_name(fileName), m_known(known) {
+    requireFile(fileName);
+}
 
 void SiteFileOnDisk::save(const std::string& text) {
     const auto now = contentOf(m_name);

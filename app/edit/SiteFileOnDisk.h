@@ -18,8 +18,10 @@ public:
 /// The file that a site is saved to, whose content nobody else may have changed meanwhile.
 class SiteFileOnDisk {
 public:
-    /// `known` is what was read from it. Without it the file is looked at now; it may be missing.
-    explicit SiteFileOnDisk(const QString& fileName, std::optional<std::string> known = std::nullopt);
+    /// A file of which nothing was read; it may be missing. Throws InputError for what is no file.
+    explicit SiteFileOnDisk(const QString& fileName);
+    /// A file from which `known` was read.
+    SiteFileOnDisk(const QString& fileName, const std::string& known);
 
     const QString& name() const { return m_name; }
 
