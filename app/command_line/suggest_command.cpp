@@ -7,7 +7,7 @@
 #include "rules/rule_file.h"
 #include "site_file/site_classes.h"
 #include "site_file/site_reader.h"
-#include "suggest/changed_text.h"
+#include "site_file/changed_text.h"
 #include "suggest/suggest_changes.h"
 #include "suggest/suggestion_json.h"
 #include "suggest/suggestion_text.h"

@@ -1,6 +1,7 @@
 #include "json/JsonPlace.h"
 
 #include "json/Json.h"
+#include "text/advice.h"
 #include "text/words.h"
 
 namespace firecheck {
@@ -17,9 +18,8 @@ std::string message(const std::vector<Refusal>& refusals) {
 } // namespace
 
 std::string Refusal::text() const {
-    const std::string place = pointer.empty() ? filled(Words::tr("top level")) : pointer;
-    return place + ": " +
-           (suggestion.empty() ? reason : filled(Words::tr("%1; did you mean \"%2\"?"), reason, suggestion));
+    return (pointer.empty() ? filled(Words::tr("top level")) : pointer) + ": " +
+           reasonAndAdvice(reason, suggestion);
 }
 
 RefusedJson::RefusedJson(std::vector<Refusal> refusals)

@@ -3,6 +3,7 @@
 #include "explain/measure_text.h"
 #include "report/assets.h"
 #include "report/escape.h"
+#include "report/plan/plan_kind_name.h"
 #include "report/plan/plan_labels.h"
 
 #include <QStringList>
@@ -20,38 +21,6 @@ constexpr std::size_t kColours = 10;
 constexpr int kLongestLabel = 26;
 constexpr int kLevelWithoutScripts = 1;
 constexpr int kFirstLevelOfMinor = 2;
-
-const char* kindClass(PlanKind kind) {
-    switch (kind) {
-    case PlanKind::Road:
-        return "road";
-    case PlanKind::FireRoad:
-        return "fire-road";
-    case PlanKind::Yard:
-        return "yard";
-    case PlanKind::House:
-        return "house";
-    case PlanKind::Shed:
-        return "shed";
-    case PlanKind::Station:
-        return "station";
-    case PlanKind::Crane:
-        return "crane";
-    case PlanKind::Door:
-        return "door";
-    case PlanKind::Wall:
-        return "wall";
-    case PlanKind::Cable:
-        return "cable";
-    case PlanKind::Poster:
-        return "poster";
-    case PlanKind::Model:
-        return "model";
-    case PlanKind::Other:
-        break;
-    }
-    return "other";
-}
 
 QString drawnPair(const DrawnPoint& point) {
     return drawnNumber(point.x) + " " + drawnNumber(point.y);
@@ -141,7 +110,7 @@ private:
     QString element(const PlanShape& shape) const {
         const auto numbers = m_numbersByHandle.find(shape.handle);
         const bool offends = numbers != m_numbersByHandle.end();
-        QString classes = QStringLiteral("element ") + kindClass(shape.kind);
+        QString classes = QStringLiteral("element ") + planKindName(shape.kind);
         if (m_unjudged.count(shape.handle) != 0)
             classes += " unjudged";
         if (offends)
