@@ -5,9 +5,9 @@ const AROUND = 25000; // mm: zones farther away than this are not drawn
 
 /** The distances that rules require of the selected element, and where they reach around the others. */
 export class Zones {
-  constructor(ground, { site, selection, view, colour }) {
+  constructor(ground, { site, selection, view, colours }) {
     this.root = drawn(ground, "g", { class: "zones" });
-    Object.assign(this, { site, selection, view, colour });
+    Object.assign(this, { site, selection, view, colours });
     this.isShown = false;
     this.list = [];
     selection.addEventListener("select", () => this.fetch());
@@ -40,7 +40,7 @@ export class Zones {
       const shape = this.site.objects.get(other)?.shape;
       const box = shape && boundsOf([shape]);
       if (!box || boxGap(own, box) > distance + AROUND) continue;
-      drawn(this.root, "path", { class: this.colour(rule), d: pathData(shape, this.view.origin), "stroke-width": 2 * distance });
+      drawn(this.root, "path", { class: this.colours(rule), d: pathData(shape, this.view.origin), "stroke-width": 2 * distance });
     }
   }
 }
