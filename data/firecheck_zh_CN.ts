@@ -559,7 +559,7 @@
     </message>
     <message>
         <source>a text</source>
-        <translation>一个文本</translation>
+        <translation>文字</translation>
     </message>
     <message>
         <source>a point [x, y]</source>
@@ -1796,7 +1796,7 @@
     <message numerus="yes">
         <source>this removes %n other offences as well</source>
         <translation>
-            <numerusform>同时消除另外 %n 处违规</numerusform>
+            <numerusform>同时消除另外 %n 处不符合</numerusform>
         </translation>
     </message>
     <message>

@@ -33,6 +33,9 @@ int portOf(const Options& options) {
 SiteFileOnDisk targetOf(const Options& options, const SiteFile& file) {
     if (const auto output = options.value("output"))
         return SiteFileOnDisk(*output);
+    if (file.text.empty())
+        throw InputError(options.arguments().first().toStdString() +
+                         ": expected JSON to save the site to; name a file after --output");
     try {
         return SiteFileOnDisk(options.arguments().first(), file.text);
     } catch (const InputError& error) {

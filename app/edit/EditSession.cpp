@@ -11,6 +11,7 @@
 #include "suggest/suggest_changes.h"
 #include "text/advice.h"
 
+#include <algorithm>
 #include <map>
 
 namespace firecheck {
@@ -112,6 +113,11 @@ EditSession::Tried EditSession::attempt(const std::vector<RequestedChange>& chan
 
 ObjectEdits EditSession::change(const std::vector<RequestedChange>& changes) {
     Tried tried = attempt(changes);
+    const bool changesNothing =
+        std::all_of(tried.edits.begin(), tried.edits.end(),
+                    [](const ObjectEdit& edit) { return edit.before == edit.after; });
+    if (changesNothing)
+        return std::move(tried.edits);
     m_draft.keep(tried.edits);
     setJudgement(std::move(tried.judgement));
     return std::move(tried.edits);
@@ -168,7 +174,8 @@ std::vector<RequiredDistance> EditSession::requiredDistances(long long handle) c
 }
 
 void EditSession::save() {
-    std::string text = changedSiteText(m_savedText, m_savedSite, m_draft.site());
+    std::string text = m_savedText.empty() ? siteText(m_draft.site())
+                                           : changedSiteText(m_savedText, m_savedSite, m_draft.site());
     m_target.save(text);
     m_savedText = std::move(text);
     m_savedSite = m_draft.site();

@@ -158,4 +158,20 @@ std::string changedSiteText(const std::string& text, const Json& before, const J
     return result;
 }
 
+std::string siteText(const Json& site) {
+    std::string text;
+    for (const auto& [key, value] : site.items()) {
+        text += (text.empty() ? "{\n  " : ",\n  ") + Json(key).dump() + ": ";
+        if (key != kObjectsKey) {
+            text += inlineText(value);
+            continue;
+        }
+        std::string list;
+        for (const Json& object : value)
+            list += (list.empty() ? "\n    " : ",\n    ") + inlineText(object);
+        text += "[" + list + (list.empty() ? "]" : "\n  ]");
+    }
+    return text + "\n}\n";
+}
+
 } // namespace firecheck

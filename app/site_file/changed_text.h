@@ -11,4 +11,7 @@ namespace firecheck {
 /// of them. All else keeps its bytes.
 std::string changedSiteText(const std::string& text, const Json& before, const Json& after);
 
+/// The text of a site that no text was read of: each object on a line of its own.
+std::string siteText(const Json& site);
+
 } // namespace firecheck
