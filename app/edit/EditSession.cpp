@@ -82,7 +82,7 @@ private:
 EditSession::EditSession(SiteFile file, std::string fileName, SiteFileOnDisk target,
                          const RuleMap& rulesInUse)
     : m_draft(file.value), m_fileName(std::move(fileName)), m_target(std::move(target)), m_rules(rulesInUse),
-      m_savedText(std::move(file.text)), m_savedSite(std::move(file.value)), m_judgement(judge()) {}
+      m_readText(std::move(file.text)), m_readSite(std::move(file.value)), m_judgement(judge()) {}
 
 Judgement EditSession::judge() const {
     const auto begin = std::chrono::steady_clock::now();
@@ -174,11 +174,8 @@ std::vector<RequiredDistance> EditSession::requiredDistances(long long handle) c
 }
 
 void EditSession::save() {
-    std::string text = m_savedText.empty() ? siteText(m_draft.site())
-                                           : changedSiteText(m_savedText, m_savedSite, m_draft.site());
-    m_target.save(text);
-    m_savedText = std::move(text);
-    m_savedSite = m_draft.site();
+    m_target.save(m_readText.empty() ? siteText(m_draft.site())
+                                     : changedSiteText(m_readText, m_readSite, m_draft.site()));
     m_draft.setSaved();
 }
 

@@ -86,8 +86,8 @@ private:
     std::string m_fileName;
     SiteFileOnDisk m_target;
     const RuleMap& m_rules;
-    std::string m_savedText; ///< as it was read or last saved; empty for what is no JSON
-    Json m_savedSite;        ///< which was parsed from it
+    std::string m_readText; ///< which each save changes anew; empty for what is no JSON
+    Json m_readSite;        ///< which was parsed from it
     Judgement m_judgement;
     long long m_revision = 1;
 };
