@@ -6,8 +6,8 @@
 #include "engine/NuxFireStandardCheck.h"
 #include "evaluators/CheckObserver.h"
 #include "site_file/RefusedSite.h"
-#include "site_file/site_keys.h"
 #include "site_file/changed_text.h"
+#include "site_file/site_keys.h"
 #include "suggest/suggest_changes.h"
 #include "text/advice.h"
 
@@ -113,9 +113,8 @@ EditSession::Tried EditSession::attempt(const std::vector<RequestedChange>& chan
 
 ObjectEdits EditSession::change(const std::vector<RequestedChange>& changes) {
     Tried tried = attempt(changes);
-    const bool changesNothing =
-        std::all_of(tried.edits.begin(), tried.edits.end(),
-                    [](const ObjectEdit& edit) { return edit.before == edit.after; });
+    const bool changesNothing = std::all_of(tried.edits.begin(), tried.edits.end(),
+                                            [](const ObjectEdit& edit) { return edit.before == edit.after; });
     if (changesNothing)
         return std::move(tried.edits);
     m_draft.keep(tried.edits);

@@ -62,8 +62,8 @@ public:
     Tried attempt(const std::vector<RequestedChange>& changes);
 
     // Each answers the edits that led to the draft as it stands.
-    /// Keeps the changes as one step, unless they change nothing, or throws RefusedChange and leaves all as it
-    /// was.
+    /// Keeps the changes as one step, unless they change nothing, or throws RefusedChange and leaves all as
+    /// it was.
     ObjectEdits change(const std::vector<RequestedChange>& changes);
     /// Does nothing when there is nothing to undo.
     ObjectEdits undo();
