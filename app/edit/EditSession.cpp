@@ -6,8 +6,8 @@
 #include "engine/NuxFireStandardCheck.h"
 #include "evaluators/CheckObserver.h"
 #include "site_file/RefusedSite.h"
-#include "site_file/site_keys.h"
 #include "site_file/changed_text.h"
+#include "site_file/site_keys.h"
 #include "suggest/suggest_changes.h"
 #include "text/advice.h"
 
@@ -82,7 +82,7 @@ private:
 EditSession::EditSession(SiteFile file, std::string fileName, SiteFileOnDisk target,
                          const RuleMap& rulesInUse)
     : m_draft(file.value), m_fileName(std::move(fileName)), m_target(std::move(target)), m_rules(rulesInUse),
-      m_savedText(std::move(file.text)), m_savedSite(std::move(file.value)), m_judgement(judge()) {}
+      m_readText(std::move(file.text)), m_readSite(std::move(file.value)), m_judgement(judge()) {}
 
 Judgement EditSession::judge() const {
     const auto begin = std::chrono::steady_clock::now();
@@ -113,9 +113,8 @@ EditSession::Tried EditSession::attempt(const std::vector<RequestedChange>& chan
 
 ObjectEdits EditSession::change(const std::vector<RequestedChange>& changes) {
     Tried tried = attempt(changes);
-    const bool changesNothing =
-        std::all_of(tried.edits.begin(), tried.edits.end(),
-                    [](const ObjectEdit& edit) { return edit.before == edit.after; });
+    const bool changesNothing = std::all_of(tried.edits.begin(), tried.edits.end(),
+                                            [](const ObjectEdit& edit) { return edit.before == edit.after; });
     if (changesNothing)
         return std::move(tried.edits);
     m_draft.keep(tried.edits);
@@ -174,11 +173,8 @@ std::vector<RequiredDistance> EditSession::requiredDistances(long long handle) c
 }
 
 void EditSession::save() {
-    std::string text = m_savedText.empty() ? siteText(m_draft.site())
-                                           : changedSiteText(m_savedText, m_savedSite, m_draft.site());
-    m_target.save(text);
-    m_savedText = std::move(text);
-    m_savedSite = m_draft.site();
+    m_target.save(m_readText.empty() ? siteText(m_draft.site())
+                                     : changedSiteText(m_readText, m_readSite, m_draft.site()));
     m_draft.setSaved();
 }
 

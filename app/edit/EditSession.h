@@ -62,8 +62,8 @@ public:
     Tried attempt(const std::vector<RequestedChange>& changes);
 
     // Each answers the edits that led to the draft as it stands.
-    /// Keeps the changes as one step, unless they change nothing, or throws RefusedChange and leaves all as it
-    /// was.
+    /// Keeps the changes as one step, unless they change nothing, or throws RefusedChange and leaves all as
+    /// it was.
     ObjectEdits change(const std::vector<RequestedChange>& changes);
     /// Does nothing when there is nothing to undo.
     ObjectEdits undo();
@@ -86,8 +86,8 @@ private:
     std::string m_fileName;
     SiteFileOnDisk m_target;
     const RuleMap& m_rules;
-    std::string m_savedText; ///< as it was read or last saved; empty for what is no JSON
-    Json m_savedSite;        ///< which was parsed from it
+    std::string m_readText; ///< which each save changes anew; empty for what is no JSON
+    Json m_readSite;        ///< which was parsed from it
     Judgement m_judgement;
     long long m_revision = 1;
 };

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <httplib.h>
-
 #include <array>
 #include <chrono>
+#include <httplib.h>
 
 namespace firecheck {
 

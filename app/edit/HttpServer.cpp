@@ -118,15 +118,14 @@ bool HttpServer::process_and_close_socket(socket_t socket) {
         connection.allow(kLargestHead + kLargestRequestBody, kTimeOfRequest);
         // Whoever is refused, or sends what is no request, has sent a body perhaps that nobody reads.
         bool isLetIn = false;
-        const bool isAnswered =
-            process_request(connection, false, isClosed, [&](httplib::Request& request) {
-                isLetIn = m_guard.refusalOf(headOf(request)) == 0;
-                request.headers.erase("Accept-Encoding"); // to press an answer takes longer than to send it
-                if (isLetIn)
-                    return waitForTurn();
-                request.headers.erase("Connection");
-                request.set_header("Connection", "close");
-            });
+        const bool isAnswered = process_request(connection, false, isClosed, [&](httplib::Request& request) {
+            isLetIn = m_guard.refusalOf(headOf(request)) == 0;
+            request.headers.erase("Accept-Encoding"); // to press an answer takes longer than to send it
+            if (isLetIn)
+                return waitForTurn();
+            request.headers.erase("Connection");
+            request.set_header("Connection", "close");
+        });
         isClosed = isClosed || !isAnswered || !isLetIn;
     }
     return true;

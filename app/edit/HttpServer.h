@@ -2,9 +2,8 @@
 
 #include "edit/request_guard.h"
 
-#include <httplib.h>
-
 #include <functional>
+#include <httplib.h>
 #include <mutex>
 
 namespace firecheck {

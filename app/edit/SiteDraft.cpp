@@ -80,8 +80,8 @@ const Json& SiteDraft::objects() const {
 
 std::optional<std::size_t> SiteDraft::indexOf(long long handle) const {
     const Json& all = objects();
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](const Json& object) { return handleOf(object) == handle; });
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const Json& object) { return handleOf(object) == handle; });
     if (found == all.end())
         return std::nullopt;
     return static_cast<std::size_t>(found - all.begin());
@@ -118,7 +118,7 @@ ObjectEdits SiteDraft::editsFor(const std::vector<RequestedChange>& changes) con
             continue;
         }
         const auto place = std::find_if(places.begin(), places.end(),
-                                       [&](const Placed& one) { return one.handle == *change.handle; });
+                                        [&](const Placed& one) { return one.handle == *change.handle; });
         if (place == places.end())
             throw RefusedChange(filled(Words::tr("no object has the handle %1"), *change.handle),
                                 change.handle, {});
@@ -126,9 +126,9 @@ ObjectEdits SiteDraft::editsFor(const std::vector<RequestedChange>& changes) con
         if (!change.object.is_null()) {
             edit.after = keptWhereSame(edit.before, change.object);
             if (!edit.after.contains(kHandleKey) || edit.after.at(kHandleKey) != edit.before.at(kHandleKey))
-                throw RefusedChange(filled(Words::tr("expected the handle %1, which no change takes away"),
-                                           *change.handle),
-                                    change.handle, kHandleKey);
+                throw RefusedChange(
+                    filled(Words::tr("expected the handle %1, which no change takes away"), *change.handle),
+                    change.handle, kHandleKey);
         }
         edits.push_back(std::move(edit));
         if (change.object.is_null())

@@ -38,8 +38,8 @@ public:
 
     /// What the changes come to, one after another. A changed object keeps the order of its keys and every
     /// value that is only written otherwise; a new one gets the next free handle unless it gives its own, and
-    /// stands before the last of the list, which a rule looks at alone. Throws RefusedChange for a handle that
-    /// no object has and for a value that is no object.
+    /// stands before the last of the list, which a rule looks at alone. Throws RefusedChange for a handle
+    /// that no object has and for a value that is no object.
     ObjectEdits editsFor(const std::vector<RequestedChange>& changes) const;
 
     /// Makes the edits for as long as it lives.

@@ -183,8 +183,8 @@ EditAnswer answer(EditSession& session, bool isRead, const std::string& name,
     else if (name == "site")
         json = siteJson(session);
     else if (name == "zones")
-        json = {{"zones", requiredDistancesJson(
-                              session.requiredDistances(handleFrom(handleAskedFor, JsonPlace())))}};
+        json = {{"zones",
+                 requiredDistancesJson(session.requiredDistances(handleFrom(handleAskedFor, JsonPlace())))}};
     if (json.is_null())
         return {Outcome::NoSuchRequest, {{"error", filled(Words::tr("there is no such request"))}}};
     return {Outcome::Done, std::move(json)};

@@ -48,8 +48,8 @@ bool RequestGuard::isOwnHost(const std::string& host) const {
 
 bool RequestGuard::hasToken(const std::string& path) const {
     const std::size_t end = path.find('/', 1);
-    return areEqual(m_token, path.substr(std::min<std::size_t>(1, path.size()),
-                                         end == std::string::npos ? 0 : end - 1));
+    return areEqual(
+        m_token, path.substr(std::min<std::size_t>(1, path.size()), end == std::string::npos ? 0 : end - 1));
 }
 
 std::string RequestGuard::below(const std::string& path) const {

@@ -138,7 +138,8 @@ Json verdictJson(const Judgement& judgement, const Json& site) {
             {"rules", rulesJson(report)},
             {"notJudged", notJudgedJson(report)},
             {"doubts", doubtsJson(judgement.doubts, site)},
-            {"judgedMs", std::round(std::chrono::duration<double, std::milli>(judgement.time).count() * 10.0) * 0.1}};
+            {"judgedMs",
+             std::round(std::chrono::duration<double, std::milli>(judgement.time).count() * 10.0) * 0.1}};
 }
 
 ShapesJson::ShapesJson(const SiteReport& report) {
@@ -158,7 +159,9 @@ Json ShapesJson::of(long long handle) const {
     return {{"kind", planKindName(shape.kind)},
             {"title", shape.title},
             {"label", shape.label},
-            {"box", {rounded(shape.box.low.x), rounded(shape.box.low.y), rounded(shape.box.high.x), rounded(shape.box.high.y)}},
+            {"box",
+             {rounded(shape.box.low.x), rounded(shape.box.low.y), rounded(shape.box.high.x),
+              rounded(shape.box.high.y)}},
             {"paths", std::move(paths)}};
 }
 

@@ -54,8 +54,8 @@ bool keepsOrder(const Json& before, const Json& after) {
     return std::equal(expected.begin(), expected.end(), keys.begin());
 }
 
-/// An object as text with other values, fewer keys, and further ones. Each of its members is what leads to its
-/// value, which ends with the key and a colon, and the value.
+/// An object as text with other values, fewer keys, and further ones. Each of its members is what leads to
+/// its value, which ends with the key and a colon, and the value.
 std::string changedObject(const std::string& text, const Json& before, const Json& after) {
     std::vector<std::string> pointers;
     for (const std::string& key : keysOf(before))
@@ -97,12 +97,20 @@ public:
         m_objects.erase(m_objects.begin());
     }
 
-    std::string head() const { return m_text.substr(0, m_objects.empty() ? m_list.begin + 1 : m_objects.front().begin); }
-    std::string tail() const { return m_text.substr(m_objects.empty() ? m_list.end - 1 : m_objects.back().end); }
+    std::string head() const {
+        return m_text.substr(0, m_objects.empty() ? m_list.begin + 1 : m_objects.front().begin);
+    }
+    std::string tail() const {
+        return m_text.substr(m_objects.empty() ? m_list.end - 1 : m_objects.back().end);
+    }
 
     /// What stands before an object of the list that is not the first: a comma and mostly a line break.
-    std::string separatorBefore(std::size_t index) const { return between(m_objects[index - 1].end, m_objects[index].begin); }
-    std::string usualSeparator() const { return m_objects.size() < 2 ? ", " : separatorBefore(m_objects.size() - 1); }
+    std::string separatorBefore(std::size_t index) const {
+        return between(m_objects[index - 1].end, m_objects[index].begin);
+    }
+    std::string usualSeparator() const {
+        return m_objects.size() < 2 ? ", " : separatorBefore(m_objects.size() - 1);
+    }
 
     std::string object(std::size_t index, const Json& after) const {
         const std::string text = between(m_objects[index].begin, m_objects[index].end);

@@ -14,7 +14,7 @@ namespace firecheck {
 
 /// What may be changed, and how far.
 struct SuggestOptions {
-    double reach = 10e3;       ///< longest move, mm
+    double reach = 10e3;           ///< longest move, mm
     std::set<long long> kept;      ///< elements that stay as they are
     std::set<std::string> movable; ///< classes of which objects may be moved beside those that mostly are
 };

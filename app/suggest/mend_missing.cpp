@@ -51,7 +51,7 @@ std::optional<Facility> facilityOf(const RuleRow& row) {
     }
 }
 
-constexpr double kGrid = 1e3;      ///< mm, between places that are tried
+constexpr double kGrid = 1e3;          ///< mm, between places that are tried
 constexpr double kMostPerSide = 300.0; ///< of them; a larger site has a wider grid
 constexpr std::size_t kMostTried = 400;
 constexpr std::size_t kMostVerified = 6;

@@ -5,7 +5,6 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
-
 #include <benchmark/benchmark.h>
 
 #include <map>
@@ -27,7 +26,8 @@ const std::string& siteFile(long long objects) {
     std::string& file = files[objects];
     if (file.empty()) {
         const QString place = directory.filePath(QString::number(objects));
-        if (QProcess::execute(SOURCE_DIRECTORY "/scripts/make-sites", {place, "1", QString::number(objects)}) != 0)
+        if (QProcess::execute(SOURCE_DIRECTORY "/scripts/make-sites",
+                              {place, "1", QString::number(objects)}) != 0)
             throw std::runtime_error("no site could be made");
         file = (place + "/site0001.json").toStdString();
     }
