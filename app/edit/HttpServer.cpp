@@ -105,7 +105,8 @@ void HttpServer::waitForTurn() {
 
 bool HttpServer::awaitsRequest(const HttpConnection& connection) const {
     const auto end = steady_clock::now() + kTimeBetweenRequests;
-    while (is_running() && steady_clock::now() < end)
+    // It counts as running until every connection has ended.
+    while (svr_sock_ != INVALID_SOCKET && steady_clock::now() < end)
         if (connection.awaitsReading(kTimeToNoticeTheEnd))
             return true;
     return false;

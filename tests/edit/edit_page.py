@@ -16,7 +16,8 @@ class Process:
     """`firecheck edit` with a site. Use it in a with statement."""
 
     def __init__(self, firecheck, *arguments):
-        self.process = subprocess.Popen([firecheck, "edit", *map(str, arguments)], stdout=subprocess.PIPE, text=True)
+        self.process = subprocess.Popen([firecheck, "edit", *map(str, arguments)], stdout=subprocess.PIPE,
+                                        stderr=subprocess.DEVNULL, text=True)
         self.address = None
         while self.address is None:
             line = self.process.stdout.readline()
