@@ -44,7 +44,6 @@ RequestHead headOf(const httplib::Request& request) {
 } // namespace
 
 HttpServer::HttpServer(int port, Respond respond) : m_guard(bound(port)), m_respond(std::move(respond)) {
-    set_tcp_nodelay(true);
     set_default_headers(securityHeaders());
     new_task_queue = [] { return new httplib::ThreadPool(kConnections); };
     set_expect_100_continue_handler([this](const httplib::Request& request, httplib::Response& response) {
@@ -66,6 +65,7 @@ HttpServer::HttpServer(int port, Respond respond) : m_guard(bound(port)), m_resp
 int HttpServer::bound(int port) {
     const std::string host = "127.0.0.1";
     set_address_family(AF_INET);
+    set_tcp_nodelay(true); // else the second piece of an answer waits for the browser's word on the first
     set_socket_options([](socket_t socket) { // no port that another program serves
         const int yes = 1;
         setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
