@@ -65,15 +65,18 @@ def drag(page, handle):
 
 
 def row(objects, times):
-    spans = {name: [entry[to] - entry[since] for entry in times] for name, since, to in (
-        ("total", "pointed", "shown"), ("answer", "asked", "answered"))}
-    total = sorted(spans["total"])
-    return (f"| {objects} | {statistics.median(entry['judged'] for entry in times):.0f} | {statistics.median(spans['answer']):.0f} "
-            f"| {statistics.median(total):.0f} | {total[len(total) * 9 // 10]:.0f} | {len(times)} |")
+    def middle(since, to):
+        return statistics.median(entry[to] - entry[since] for entry in times)
+
+    total = sorted(entry["shown"] - entry["pointed"] for entry in times)
+    return (f"| {objects} | {middle('pointed', 'asked'):.0f} | {middle('asked', 'answered'):.0f} "
+            f"| {statistics.median(entry['judged'] for entry in times):.0f} | {middle('answered', 'shown'):.0f} "
+            f"| {statistics.median(total):.0f} | {total[len(total) * 9 // 10]:.0f} |")
 
 
 def main(firecheck, sizes):
-    print("| objects | judging | question and answer | pointer to finding | nine in ten below | answers |\n|---|---:|---:|---:|---:|---:|")
+    print("| objects | until asked | until answered | of which judging | until shown | pointer to finding | nine in ten below |\n"
+          "|---|---:|---:|---:|---:|---:|---:|")
     for objects in sizes:
         with tempfile.TemporaryDirectory() as directory:
             subprocess.run([ROOT / "scripts/make-sites", directory, "1", str(objects)], check=True)

@@ -9,7 +9,9 @@ export class ElementLayer {
   constructor(root, view) {
     this.view = view;
     this.nodes = new Map();
-    this.layers = new Map(KINDS.map((kind) => [kind, drawn(root, "g")]));
+    const resting = drawn(root, "g");
+    this.layers = new Map(KINDS.map((kind) => [kind, drawn(resting, "g")]));
+    this.top = drawn(root, "g"); // what is dragged changes alone, and lies above all
     this.selected = null;
   }
 
@@ -23,12 +25,12 @@ export class ElementLayer {
     const data = pathData(entry.shape, this.view.origin);
     if (data === "") return;
     const { kind } = entry.shape;
-    const layer = this.layers.get(kind) ?? this.layers.get("other");
-    const node = drawn(layer, "g", { class: "thing", "data-handle": entry.handle, role: "img", "aria-label": entry.title });
+    const node = drawn(this.#layerOf(entry.handle, kind), "g", { class: "thing", "data-handle": entry.handle, role: "img", "aria-label": entry.title });
     drawn(node, "path", { class: "grasp", d: data });
     drawn(drawn(node, "g", { class: `element ${kind}` }), "path", { d: data });
     drawn(node, "title", {}, entry.title);
     node.id = `e${entry.handle}`;
+    node.kind = kind;
     this.nodes.set(entry.handle, node);
     this.#markSelected(entry.handle);
   }
@@ -51,12 +53,18 @@ export class ElementLayer {
     this.selected = handle;
     if (before) this.#markSelected(before);
     if (handle) this.#markSelected(handle);
-    const node = this.nodes.get(handle);
-    node?.parentNode.append(node); // above others of its kind
+  }
+
+  #layerOf(handle, kind) {
+    return handle === this.selected ? this.top : this.layers.get(kind) ?? this.layers.get("other");
   }
 
   #markSelected(handle) {
-    this.nodes.get(handle)?.classList.toggle("selected", handle === this.selected);
+    const node = this.nodes.get(handle);
+    if (!node) return;
+    node.classList.toggle("selected", handle === this.selected);
+    const layer = this.#layerOf(handle, node.kind);
+    if (node.parentNode !== layer) layer.append(node);
   }
 
   /** Class names of what offends, by handle. */
