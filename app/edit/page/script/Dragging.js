@@ -6,6 +6,7 @@ import { drawn } from "./svg.js";
 
 const SLIP = 4; // pixels that a click may move
 const CATCH = 10; // pixels within which a required distance holds what is dragged
+const FARTHEST_CATCH = 1000; // mm, where a pixel stands for much
 const TURN_ARM = 34; // pixels from the element to its turning handle
 const TURN_STEP = 5; // degrees
 
@@ -118,7 +119,7 @@ export class Dragging {
     if (!place) return;
     const onGrid = snapping.moveToGrid(place, free);
     const limits = this.#limits();
-    const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, CATCH / view.scale) : onGrid;
+    const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, Math.min(CATCH / view.scale, FARTHEST_CATCH)) : onGrid;
     this.elements.preview(drag.handle, movedShape(drag.shape, dx, dy));
     this.marks.showLimits(limits.lines([dx, dy]));
     this.#try(moved(drag.before, dx, dy), ({ verdict }) => {

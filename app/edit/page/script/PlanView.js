@@ -19,7 +19,12 @@ export class PlanView extends EventTarget {
     this.centre = [0, 0]; // of what is seen, in the site
     this.pointers = new Map();
     this.#listen();
-    new ResizeObserver(() => this.#show()).observe(svg);
+    new ResizeObserver(() => {
+      this.rim = null;
+      this.#show();
+    }).observe(svg);
+    window.addEventListener("scroll", () => { this.rim = null; }, { capture: true, passive: true });
+    window.addEventListener("resize", () => { this.rim = null; });
   }
 
   setSite(shapes) {
@@ -80,10 +85,9 @@ export class PlanView extends EventTarget {
   }
 
   toSite(clientX, clientY) {
-    const rim = this.svg.getBoundingClientRect();
-    const { width, height } = this.#size();
-    return [this.centre[0] + (clientX - rim.left - width / 2) / this.scale,
-      this.centre[1] - (clientY - rim.top - height / 2) / this.scale];
+    const { left, top, width, height } = this.#size();
+    return [this.centre[0] + (clientX - left - width / 2) / this.scale,
+      this.centre[1] - (clientY - top - height / 2) / this.scale];
   }
 
   /** In pixels of the plan. */
@@ -101,8 +105,13 @@ export class PlanView extends EventTarget {
       bottom: this.centre[1] - along, top: this.centre[1] + along };
   }
 
+  /** Kept, since to ask for it has the whole page laid out. */
   #size() {
-    return { width: this.svg.clientWidth || 1, height: this.svg.clientHeight || 1 };
+    if (!this.rim) {
+      const { left, top, width, height } = this.svg.getBoundingClientRect();
+      this.rim = { left, top, width: width || 1, height: height || 1 };
+    }
+    return this.rim;
   }
 
   #show() {

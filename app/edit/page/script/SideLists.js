@@ -1,22 +1,25 @@
 /** What is doubtful about the site and what no rule has judged; entries lead to their elements. */
 export class SideLists {
   constructor(root, { site, selection, view }) {
-    Object.assign(this, { root, site, selection, view });
+    Object.assign(this, { site, selection, view });
+    this.doubts = root.querySelector(".doubts");
+    this.notJudged = root.querySelector(".not-judged");
+    for (const details of [this.doubts, this.notJudged]) details.addEventListener("toggle", () => this.#update());
     site.addEventListener("verdict", () => this.#update());
   }
 
   #update() {
-    this.#fill("doubts", this.site.verdict.doubts);
-    this.#fill("not-judged", this.site.verdict.notJudged);
+    this.#show(this.doubts, this.site.verdict.doubts);
+    this.#show(this.notJudged, this.site.verdict.notJudged);
   }
 
-  #fill(name, entries) {
-    const details = this.root.querySelector(`.${name}`);
-    const text = JSON.stringify(entries);
-    if (details.lastText === text) return;
-    details.lastText = text;
+  /** Entries are made while they can be seen: there may be thousands. */
+  #show(details, entries) {
     details.hidden = entries.length === 0;
-    details.querySelector(".count").textContent = entries.length;
+    const count = details.querySelector(".count");
+    if (count.textContent !== String(entries.length)) count.textContent = entries.length;
+    if (!details.open || details.shown === entries) return;
+    details.shown = entries;
     details.querySelector("ul").replaceChildren(...entries.map((entry) => this.#item(entry)));
   }
 
