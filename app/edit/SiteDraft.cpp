@@ -60,11 +60,75 @@ Json withHandle(const Json& object, long long handle) {
     if (object.contains(kClassKey))
         result[kClassKey] = object.at(kClassKey);
     result[kHandleKey] = handle;
-    for (const auto& [key, value] : object.items())
-        if (key != kHandleKey)
-            result[key] = value;
+    result.update(object);
     return result;
 }
+
+/// Edits of a list of objects, and where the objects stand once those so far are made.
+class EditsInTheMaking {
+public:
+    EditsInTheMaking(const Json& objects, std::size_t count) {
+        m_edits.reserve(count); // places point into it
+        for (const Json& object : objects) {
+            m_places.push_back({handleOf(object).value_or(0), &object});
+            m_taken.insert(m_places.back().handle);
+        }
+    }
+
+    void add(const Json& object) {
+        if (!object.is_object())
+            throw RefusedChange(filled(Words::tr("expected an object")), std::nullopt, {});
+        const std::size_t index = m_places.empty() ? 0 : m_places.size() - 1;
+        m_edits.push_back(
+            {index, Json(), object.contains(kHandleKey) ? object : withHandle(object, freeHandle(m_taken))});
+        const Json& added = m_edits.back().after;
+        const long long handle = handleOf(added).value_or(0);
+        m_taken.insert(handle);
+        m_places.insert(m_places.begin() + static_cast<std::ptrdiff_t>(index), {handle, &added});
+    }
+
+    void change(long long handle, const Json& object) {
+        if (!object.is_object())
+            throw RefusedChange(filled(Words::tr("expected an object")), handle, {});
+        const auto place = placeOf(handle);
+        const Json& before = *place->object;
+        Json after = keptWhereSame(before, object);
+        if (!after.contains(kHandleKey) || after.at(kHandleKey) != before.at(kHandleKey))
+            throw RefusedChange(
+                filled(Words::tr("expected the handle %1, which no change takes away"), handle), handle,
+                kHandleKey);
+        m_edits.push_back({indexOf(place), before, std::move(after)});
+        place->object = &m_edits.back().after;
+    }
+
+    void remove(long long handle) {
+        const auto place = placeOf(handle);
+        m_edits.push_back({indexOf(place), *place->object, Json()});
+        m_places.erase(place);
+    }
+
+    ObjectEdits take() { return std::move(m_edits); }
+
+private:
+    struct Place {
+        long long handle;
+        const Json* object;
+    };
+    using Places = std::vector<Place>;
+
+    Places::iterator placeOf(long long handle) {
+        const auto place = std::find_if(m_places.begin(), m_places.end(),
+                                        [&](const Place& one) { return one.handle == handle; });
+        if (place == m_places.end())
+            throw RefusedChange(filled(Words::tr("no object has the handle %1"), handle), handle, {});
+        return place;
+    }
+    std::size_t indexOf(Places::iterator place) { return static_cast<std::size_t>(place - m_places.begin()); }
+
+    Places m_places;
+    std::set<long long> m_taken;
+    ObjectEdits m_edits;
+};
 
 } // namespace
 
@@ -93,50 +157,16 @@ const Json* SiteDraft::object(long long handle) const {
 }
 
 ObjectEdits SiteDraft::editsFor(const std::vector<RequestedChange>& changes) const {
-    // Where the objects stand once the edits so far are made: the list's own indices, and those of new ones.
-    struct Placed {
-        long long handle;
-        const Json* object;
-    };
-    std::vector<Placed> places;
-    std::set<long long> taken;
-    for (const Json& object : objects()) {
-        places.push_back({handleOf(object).value_or(0), &object});
-        taken.insert(places.back().handle);
-    }
-    ObjectEdits edits;
-    edits.reserve(changes.size()); // places point into it
+    EditsInTheMaking edits(objects(), changes.size());
     for (const RequestedChange& change : changes) {
-        if (!change.object.is_null() && !change.object.is_object())
-            throw RefusedChange(filled(Words::tr("expected an object")), change.handle, {});
-        if (!change.handle) {
-            const auto index = places.empty() ? 0 : places.size() - 1;
-            const long long handle = handleOf(change.object).value_or(freeHandle(taken));
-            taken.insert(handle);
-            edits.push_back({index, Json(), withHandle(change.object, handle)});
-            places.insert(places.begin() + static_cast<std::ptrdiff_t>(index), {handle, &edits.back().after});
-            continue;
-        }
-        const auto place = std::find_if(places.begin(), places.end(),
-                                        [&](const Placed& one) { return one.handle == *change.handle; });
-        if (place == places.end())
-            throw RefusedChange(filled(Words::tr("no object has the handle %1"), *change.handle),
-                                change.handle, {});
-        ObjectEdit edit{static_cast<std::size_t>(place - places.begin()), *place->object, Json()};
-        if (!change.object.is_null()) {
-            edit.after = keptWhereSame(edit.before, change.object);
-            if (!edit.after.contains(kHandleKey) || edit.after.at(kHandleKey) != edit.before.at(kHandleKey))
-                throw RefusedChange(
-                    filled(Words::tr("expected the handle %1, which no change takes away"), *change.handle),
-                    change.handle, kHandleKey);
-        }
-        edits.push_back(std::move(edit));
-        if (change.object.is_null())
-            places.erase(place);
+        if (!change.handle)
+            edits.add(change.object);
+        else if (change.object.is_null())
+            edits.remove(*change.handle);
         else
-            place->object = &edits.back().after;
+            edits.change(*change.handle, change.object);
     }
-    return edits;
+    return edits.take();
 }
 
 SiteDraft::Trial::Trial(SiteDraft& draft, const ObjectEdits& edits) : m_draft(draft), m_edits(edits) {

@@ -216,6 +216,7 @@ class EditServerTest(unittest.TestCase):
                              ([{"handle": "999", "object": None}], ""),
                              ([{"object": {"class": "woodYard", "handle": 413, "center": [0, 0], "length": 1, "depth": 1}}], "handle"),
                              ([{"object": {"class": "house"}}], "class"),
+                             ([{"object": {"class": "drawing", "handle": "x"}}], "handle"),
                              ([{"handle": "111", "object": None}], "doors")]:
             for request in ("try", "change"):
                 with self.subTest(key=key, request=request):

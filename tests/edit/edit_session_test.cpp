@@ -116,7 +116,7 @@ TEST_F(EditSessionTest, SavesJustWhatWasAskedFor) {
              "  {\"class\": \"drawing\", \"handle\": 3}",
              "  {\"class\": \"drawing\", \"handle\": 9007199254740994},\r\n\n  {\"class\": \"drawing\", \"handle\": 3}")},
         {"a handle taken over",
-         {R"({"handle": 1, "object": null})", R"({"object": {"handle": 1, "class": "drawing"}})"},
+         {R"({"handle": 1, "object": null})", R"({"object": {"class": "drawing", "handle": 1}})"},
          with(text.substr(text.find("  {\"class\": \"wood"),
                           text.find("  {\"class\": \"drawing\", \"handle\": 3}") -
                               text.find("  {\"class\": \"wood")),
