@@ -2427,5 +2427,585 @@
         <source>where it would comply</source>
         <translation>满足要求的位置</translation>
     </message>
+    <message>
+        <source>expected a handle, a number as a text</source>
+        <translation>此处应为句柄，即以文本写出的数字</translation>
+    </message>
+    <message>
+        <source>an object with &quot;object&quot;</source>
+        <translation>含有“object”的对象</translation>
+    </message>
+    <message>
+        <source>the site has been changed elsewhere since</source>
+        <translation>场地已在别处更改</translation>
+    </message>
+    <message>
+        <source>there is no such finding any more</source>
+        <translation>该不符合项已不存在</translation>
+    </message>
+    <message>
+        <source>there is no such request</source>
+        <translation>没有这样的请求</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Class of the new element</source>
+        <translation>新构件的类别</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Step of the grid</source>
+        <translation>网格间距</translation>
+    </message>
+    <message>
+        <source>Just far enough</source>
+        <translation>贴合所需间距</translation>
+    </message>
+    <message>
+        <source>Required distances</source>
+        <translation>所需间距</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>平面图</translation>
+    </message>
+    <message>
+        <source>Plan of the site</source>
+        <translation>场地平面图</translation>
+    </message>
+    <message>
+        <source>Drag moves an element or the plan; Ctrl and the wheel, or two fingers, zoom.</source>
+        <translation>拖动可移动构件或平面图；按住 Ctrl 滚动滚轮或用双指可缩放。</translation>
+    </message>
+    <message>
+        <source>no element</source>
+        <translation>未选构件</translation>
+    </message>
+    <message>
+        <source>Nothing selected</source>
+        <translation>未选中任何构件</translation>
+    </message>
+    <message>
+        <source>Selected: %1. Violations: %2.</source>
+        <translation>已选中：%1。不符合：%2 处。</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>左转</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>右转</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>This is no value that can be read.</source>
+        <translation>无法识别这个值。</translation>
+    </message>
+    <message>
+        <source>%1 violations</source>
+        <translation>%1 处不符合</translation>
+    </message>
+    <message>
+        <source>all rules</source>
+        <translation>所有规则</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Of the selected element</source>
+        <translation>仅选中的构件</translation>
+    </message>
+    <message>
+        <source>Showing %1 of %2</source>
+        <translation>显示 %1 / %2 处</translation>
+    </message>
+    <message>
+        <source>Suggest</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>Look for a change that would remove this</source>
+        <translation>寻找可消除此处不符合的更改</translation>
+    </message>
+    <message>
+        <source>Take it</source>
+        <translation>采纳</translation>
+    </message>
+    <message>
+        <source>Nothing was found that would help.</source>
+        <translation>没有找到可行的更改。</translation>
+    </message>
+    <message>
+        <source>Doubts about the site</source>
+        <translation>场地疑点</translation>
+    </message>
+    <message>
+        <source>Undone.</source>
+        <translation>已撤销。</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>已重做。</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>已完成：%1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>已删除：%1</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>已保存。</translation>
+    </message>
+    <message>
+        <source>Gone: %1.</source>
+        <translation>消除：%1 处。</translation>
+    </message>
+    <message>
+        <source>New: %1.</source>
+        <translation>新增：%1 处。</translation>
+    </message>
+    <message>
+        <source>This could not be done (%1)</source>
+        <translation>操作未能完成（%1）</translation>
+    </message>
+    <message>
+        <source>The process that holds the site does not answer any more. Changes that were not saved are lost with it when it has ended; the page still has a copy of them.</source>
+        <translation>保存场地数据的进程不再响应。如果它已经结束，未保存的更改将随之丢失；本页面仍有一份副本。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Download a copy</source>
+        <translation>下载副本</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭提示</translation>
+    </message>
+    <message>
+        <source>Keys and pointer</source>
+        <translation>键盘与指针</translation>
+    </message>
+    <message>
+        <source>to the plan; there Enter selects an element, Tab and Shift+Tab go on to others</source>
+        <translation>进入平面图；按 Enter 选中构件，再按 Tab 和 Shift+Tab 选择其他构件</translation>
+    </message>
+    <message>
+        <source>from the selected element to its parameters</source>
+        <translation>从选中的构件转到其参数</translation>
+    </message>
+    <message>
+        <source>move the selected element by a step of the grid, with Shift by 0.01 m; without one they move the plan</source>
+        <translation>将选中的构件移动一个网格间距，按住 Shift 移动 0.01 m；未选中构件时移动平面图</translation>
+    </message>
+    <message>
+        <source>turn by 15 degrees; the round handle turns by 5, with Shift by 1</source>
+        <translation>旋转 15 度；圆形手柄每次旋转 5 度，按住 Shift 为 1 度</translation>
+    </message>
+    <message>
+        <source>remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>undo and redo</source>
+        <translation>撤销和重做</translation>
+    </message>
+    <message>
+        <source>save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>next and previous violation</source>
+        <translation>下一处和上一处不符合</translation>
+    </message>
+    <message>
+        <source>grid on and off</source>
+        <translation>打开或关闭网格</translation>
+    </message>
+    <message>
+        <source>hold what is dragged just as far from others as the rules require, on and off</source>
+        <translation>使拖动的构件恰好保持规则所需的间距，打开或关闭</translation>
+    </message>
+    <message>
+        <source>show the required distances around the selected element, on and off</source>
+        <translation>显示选中构件周围所需的间距，打开或关闭</translation>
+    </message>
+    <message>
+        <source>zoom, and show the whole plan</source>
+        <translation>缩放，以及显示整张平面图</translation>
+    </message>
+    <message>
+        <source>end a drag as if it had not been, or select nothing</source>
+        <translation>取消拖动，或取消选中</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <translation>标识符</translation>
+    </message>
+    <message>
+        <source>extents</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>refuses to open</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>second view</source>
+        <translation>第二视图</translation>
+    </message>
+    <message>
+        <source>use</source>
+        <translation>用途</translation>
+    </message>
+    <message>
+        <source>number of floors</source>
+        <translation>层数</translation>
+    </message>
+    <message>
+        <source>stairs</source>
+        <translation>楼梯</translation>
+    </message>
+    <message>
+        <source>gallery side</source>
+        <translation>走廊侧</translation>
+    </message>
+    <message>
+        <source>floor depth</source>
+        <translation>楼层进深</translation>
+    </message>
+    <message>
+        <source>partitions</source>
+        <translation>隔墙位置</translation>
+    </message>
+    <message>
+        <source>center</source>
+        <translation>中心</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>进深</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>circle</source>
+        <translation>圆</translation>
+    </message>
+    <message>
+        <source>polyline</source>
+        <translation>多段线</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>标高</translation>
+    </message>
+    <message>
+        <source>shape kind</source>
+        <translation>形状类型</translation>
+    </message>
+    <message>
+        <source>footprint</source>
+        <translation>占地轮廓</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>end</source>
+        <translation>终点</translation>
+    </message>
+    <message>
+        <source>through</source>
+        <translation>经过点</translation>
+    </message>
+    <message>
+        <source>outline</source>
+        <translation>轮廓</translation>
+    </message>
+    <message>
+        <source>start elevation</source>
+        <translation>起点标高</translation>
+    </message>
+    <message>
+        <source>end elevation</source>
+        <translation>终点标高</translation>
+    </message>
+    <message>
+        <source>radius</source>
+        <translation>半径</translation>
+    </message>
+    <message>
+        <source>straight</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>jib height</source>
+        <translation>起重臂高度</translation>
+    </message>
+    <message>
+        <source>front jib length</source>
+        <translation>起重臂长度</translation>
+    </message>
+    <message>
+        <source>counter jib length</source>
+        <translation>平衡臂长度</translation>
+    </message>
+    <message>
+        <source>jib inclination</source>
+        <translation>起重臂倾角</translation>
+    </message>
+    <message>
+        <source>mast width</source>
+        <translation>塔身宽度</translation>
+    </message>
+    <message>
+        <source>jib width</source>
+        <translation>起重臂宽度</translation>
+    </message>
+    <message>
+        <source>jib depth</source>
+        <translation>起重臂截面高度</translation>
+    </message>
+    <message>
+        <source>draw type</source>
+        <translation>绘制方式</translation>
+    </message>
+    <message>
+        <source>leaf width</source>
+        <translation>门扇宽度</translation>
+    </message>
+    <message>
+        <source>post width</source>
+        <translation>门柱宽度</translation>
+    </message>
+    <message>
+        <source>post depth</source>
+        <translation>门柱进深</translation>
+    </message>
+    <message>
+        <source>doors</source>
+        <translation>门</translation>
+    </message>
+    <message>
+        <source>parameters known</source>
+        <translation>参数已知</translation>
+    </message>
+    <message>
+        <source>future house</source>
+        <translation>在建工程</translation>
+    </message>
+    <message>
+        <source>total step down substation</source>
+        <translation>总降压变电站</translation>
+    </message>
+    <message>
+        <source>template yard</source>
+        <translation>模板堆场</translation>
+    </message>
+    <message>
+        <source>electrical mechanical yard</source>
+        <translation>机电材料堆场</translation>
+    </message>
+    <message>
+        <source>yard mesh</source>
+        <translation>网格堆场</translation>
+    </message>
+    <message>
+        <source>service cable</source>
+        <translation>架空线路</translation>
+    </message>
+    <message>
+        <source>door</source>
+        <translation>门</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>三维模型</translation>
+    </message>
+    <message>
+        <source>sizeless model</source>
+        <translation>无尺寸三维模型</translation>
+    </message>
+    <message>
+        <source>drawing</source>
+        <translation>图形对象</translation>
+    </message>
+    <message>
+        <source>left end</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>right end</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>both ends</source>
+        <translation>两端</translation>
+    </message>
+    <message>
+        <source>along side</source>
+        <translation>沿长边</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>front</source>
+        <translation>前侧</translation>
+    </message>
+    <message>
+        <source>rear</source>
+        <translation>后侧</translation>
+    </message>
+    <message>
+        <source>general</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>hot work</source>
+        <translation>动火作业</translation>
+    </message>
+    <message>
+        <source>formwork</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>woodworking</source>
+        <translation>木工</translation>
+    </message>
+    <message>
+        <source>mechanical</source>
+        <translation>机电</translation>
+    </message>
+    <message>
+        <source>building</source>
+        <translation>建筑</translation>
+    </message>
+    <message>
+        <source>household</source>
+        <translation>生活</translation>
+    </message>
+    <message>
+        <source>plate</source>
+        <translation>立板</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>薄片</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>arc</source>
+        <translation>圆弧</translation>
+    </message>
+    <message>
+        <source>expected an object</source>
+        <translation>此处应为对象</translation>
+    </message>
+    <message>
+        <source>expected the handle %1, which no change takes away</source>
+        <translation>句柄应为 %1，任何更改都不能去掉它</translation>
+    </message>
+    <message>
+        <source>no object has the handle %1</source>
+        <translation>没有句柄为 %1 的对象</translation>
+    </message>
+    <message>
+        <source>expected a file that a site can be saved to</source>
+        <translation>此处应为可以保存场地的文件</translation>
+    </message>
+    <message>
+        <source>somebody else has changed the file since it was read</source>
+        <translation>文件在读取之后已被他人更改</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
+    </message>
 </context>
 </TS>

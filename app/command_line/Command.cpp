@@ -107,6 +107,19 @@ const std::vector<Command>& commands() {
          "posters, cranes and models are moved, in steps of 10 mm; buildings under construction, roads, walls and "
          "doors are not.",
          suggestCommand},
+        {"edit",
+         "SITE",
+         {kRules,
+          kLayers,
+          kEncoding,
+          {"port", "N", "Serve the page at this port; at any free one unless given."},
+          {"output", "FILE", "Save the site to this file instead of the one it was read from.", 'o'},
+          kLanguage},
+         "Serves a page on which the site is laid out while the rules are checked, to this computer alone.",
+         "Prints the address of the page. Nothing is written until the page is asked to save; a file that somebody "
+         "else has changed meanwhile stays as it is. Ends when the page says so, when interrupted, or with the "
+         "terminal; the exit status is 1 when changes were not saved.",
+         editCommand},
         {"plan",
          "SITE",
          {kRules, kLayers, kEncoding, kOutput, kLanguage},

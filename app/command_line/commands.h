@@ -16,6 +16,7 @@ enum ExitStatus { kNothingFound = 0, kViolationsFound = 1, kWrongInput = 2 };
 int checkCommand(const Options& options);
 int compareCommand(const Options& options);
 int completionCommand(const Options& options);
+int editCommand(const Options& options);
 int exportCommand(const Options& options);
 int helpCommand(const Options& options);
 int importCommand(const Options& options);

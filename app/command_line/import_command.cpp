@@ -3,7 +3,7 @@
 #include "command_line/Output.h"
 #include "command_line/commands.h"
 #include "command_line/drawing_options.h"
-#include "site_file/site_text.h"
+#include "site_file/changed_text.h"
 
 namespace firecheck {
 

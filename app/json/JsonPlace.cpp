@@ -1,6 +1,7 @@
 #include "json/JsonPlace.h"
 
 #include "json/Json.h"
+#include "text/advice.h"
 #include "text/shortened.h"
 #include "text/words.h"
 
@@ -19,8 +20,7 @@ std::string message(const std::vector<Refusal>& refusals) {
 
 std::string Refusal::text() const {
     const std::string place = pointer.empty() ? filled(Words::tr("top level")) : shortened(pointer);
-    return place + ": " +
-           (suggestion.empty() ? reason : filled(Words::tr("%1; did you mean \"%2\"?"), reason, suggestion));
+    return place + ": " + reasonAndAdvice(reason, suggestion);
 }
 
 RefusedJson::RefusedJson(std::vector<Refusal> refusals)

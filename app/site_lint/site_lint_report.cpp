@@ -1,5 +1,6 @@
 #include "site_lint/site_lint_report.h"
 
+#include "text/advice.h"
 #include "text/printable.h"
 #include "text/words.h"
 
@@ -27,11 +28,9 @@ std::string placeOf(const SiteFinding& finding) {
 }
 
 std::string messageOf(const SiteFinding& finding) {
-    if (finding.suggestion.empty())
-        return finding.message;
     const bool isSentence = finding.kind == SiteFinding::Kind::Doubt && !finding.isOfDrawing;
-    return filled(isSentence ? Words::tr("%1 Did you mean \"%2\"?") : Words::tr("%1; did you mean \"%2\"?"),
-                  finding.message, finding.suggestion);
+    return isSentence ? sentenceAndAdvice(finding.message, finding.suggestion)
+                      : reasonAndAdvice(finding.message, finding.suggestion);
 }
 
 std::string lineOf(const SiteFinding& finding) {

@@ -9,7 +9,6 @@ namespace firecheck {
 namespace {
 
 constexpr std::size_t kMostBoxes = 3; ///< that are tried to be moved
-constexpr double kBoxLength = 600.0;  ///< mm; what the class has unless an object says otherwise
 constexpr double kBoxDepth = 250.0;
 constexpr double kClearOfElement = 500.0; ///< mm, between a new box and the element it is for
 constexpr std::size_t kMostPlaces = 64;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "check/check_site.h"
+#include "site_file/changed_text.h"
 #include "site_file/site_keys.h"
 #include "site_file/site_reader.h"
 #include "source_file.h"
-#include "suggest/changed_text.h"
 #include "suggest/suggest_changes.h"
 
 #include <gtest/gtest.h>

@@ -17,6 +17,7 @@
 
 namespace firecheck {
 
+using firestandard::PlanPoint;
 using firestandard::Words;
 
 namespace {
@@ -29,6 +30,14 @@ constexpr double kFarShare = 0.3; ///< of the plan's diagonal; longer lines step
 
 /// The texts and pins of the plan, by the first and the last level at which they stand.
 using LabelGroups = std::map<std::pair<int, int>, QString>;
+
+/// The arrow that points where a move goes, of eight.
+QString directionSign(const PlanPoint& move) {
+    static const QString kSigns = QStringLiteral("→↗↑↖←↙↓↘");
+    constexpr int count = 8;
+    const int eighths = int(std::lround(std::atan2(move.y, move.x) * count / (2.0 * M_PI)));
+    return kSigns.mid((eighths + count) % count, 1);
+}
 
 /// Draws the plan of one site.
 class PlanDrawing {
@@ -269,7 +278,7 @@ private:
                     continue;
                 PlanLabel label;
                 label.text =
-                    QStringLiteral("→ ") +
+                    directionSign(*suggested.move) + " " +
                     Words::tr("%1 m").arg(std::hypot(suggested.move->x, suggested.move->y), 0, 'f', 2);
                 label.attributes = marked("value move", i);
                 label.middle = m_frame.drawn(*object.to);
