@@ -13,7 +13,7 @@ const TURN_STEP = 5; // degrees
 /** Moves, turns and resizes the selected element with the pointer, and has it judged on the way. */
 export class Dragging {
   constructor(svg, page) {
-    Object.assign(this, page); // site, view, elements, selection, trial, snapping, zones, marks, editor
+    Object.assign(this, page); // site, view, elements, labels, selection, trial, snapping, zones, marks, editor
     this.svg = svg;
     this.root = drawn(svg, "g", { class: "grips" });
     this.drag = null;
@@ -120,7 +120,7 @@ export class Dragging {
     const onGrid = snapping.moveToGrid(place, free);
     const limits = this.#limits();
     const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, Math.min(CATCH / view.scale, FARTHEST_CATCH)) : onGrid;
-    this.elements.preview(drag.handle, movedShape(drag.shape, dx, dy));
+    this.#draw(movedShape(drag.shape, dx, dy));
     this.marks.showLimits(limits.lines([dx, dy]));
     this.#try(moved(drag.before, dx, dy), ({ verdict }) => {
       if (snapping.usesDistances && limits.learn(verdict.findings, drag.handle, [dx, dy])) this.#shift(drag.point);
@@ -143,7 +143,12 @@ export class Dragging {
   }
 
   #preview({ shapes }) {
-    for (const { handle, shape } of shapes) if (shape) this.elements.preview(handle, shape);
+    for (const { shape } of shapes) if (shape) this.#draw(shape);
+  }
+
+  #draw(shape) {
+    this.elements.preview(this.drag.handle, shape);
+    this.labels.set({ handle: this.drag.handle, shape });
   }
 
   #try(object, answered) {
@@ -176,10 +181,10 @@ export class Dragging {
   cancel() {
     const { drag } = this;
     if (!drag) return;
+    if (drag.hasMoved) this.#draw(drag.shape);
     this.#leave();
     this.view.hasMoved = true;
     if (!drag.hasMoved) return;
-    this.elements.preview(drag.handle, drag.shape);
     this.site.endTrial();
   }
 }
