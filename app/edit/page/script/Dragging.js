@@ -60,8 +60,10 @@ export class Dragging {
   }
 
   #begin(event) {
-    if (this.drag) {
-      this.cancel(); // a second finger zooms
+    if (this.drag) { // a second finger zooms
+      const { pointer, last } = this.drag;
+      this.cancel();
+      this.view.pointers.set(pointer, last);
       return;
     }
     const isAlone = [...this.view.pointers.keys()].every((pointer) => pointer === event.pointerId);
@@ -72,7 +74,7 @@ export class Dragging {
     if (!handle || (event.pointerType === "touch" && !isOwn)) return; // fingers move what is selected, and else the plan
     event.stopPropagation();
     this.view.hasMoved = false;
-    this.drag = { handle, grip, pointer: event.pointerId, from: [event.clientX, event.clientY], hasMoved: false };
+    this.drag = { handle, grip, pointer: event.pointerId, last: event, from: [event.clientX, event.clientY], hasMoved: false };
   }
 
   #start() {
@@ -101,6 +103,7 @@ export class Dragging {
     const { drag } = this;
     if (!drag || event.pointerId !== drag.pointer) return;
     event.stopPropagation();
+    drag.last = event;
     const slip = Math.hypot(event.clientX - drag.from[0], event.clientY - drag.from[1]);
     if (!drag.hasMoved && slip < SLIP) return;
     if (!drag.hasMoved) this.#start();
