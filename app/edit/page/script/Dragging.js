@@ -151,7 +151,7 @@ export class Dragging {
 
   #draw(shape) {
     this.elements.preview(this.drag.handle, shape);
-    this.labels.set({ handle: this.drag.handle, shape });
+    this.labels.move(this.drag.handle, shape);
   }
 
   #try(object, answered) {
