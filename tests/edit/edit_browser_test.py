@@ -11,6 +11,7 @@ import sys
 import tempfile
 import threading
 import unittest
+import urllib.request
 
 from edit_page import Page, Process, checked
 from selenium.webdriver.common.keys import Keys
@@ -169,6 +170,23 @@ class EditTest(unittest.TestCase):
         added = [entry["object"]["class"] for entry in site["objects"] if entry["handle"] not in known]
         self.assertCountEqual(added, [entry["name"] for entry in site["classes"]])
 
+    def test_the_list_is_filtered_and_leads_to_the_elements(self):
+        page = self.open()
+        rule = TOO_NARROW.split("/")[0]
+        page.one(f".filters option[value='{rule}']").click()
+        shown = [item.get_dom_attribute("data-id") for item in page.all(".finding") if item.is_displayed()]
+        self.assertEqual(shown, [TOO_NARROW])
+        page.one(".filters option[value='']").click()
+        page.one(".filters [name=own]").click()
+        page.execute_script("document.querySelector('svg.plan').focus();")
+        page.press("n")
+        handle = page.one(".choose select").get_property("value")
+        self.assertTrue(all(item.is_displayed() == ("own" in item.get_dom_attribute("class")) for item in page.all(".finding")))
+        self.assertIn(handle, page.one(".finding.current").get_dom_attribute("data-id"))
+        page.one(".not-judged summary").click()
+        page.one(".not-judged li:first-child .sentence").click()
+        self.assertNotEqual(page.one(".choose select").get_property("value"), handle)
+
     def test_a_wrong_value_is_told_at_its_field(self):
         page = self.open()
         self.choose(412)
@@ -258,8 +276,9 @@ class EditTest(unittest.TestCase):
         self.assertEqual(untranslated, [])
 
     def test_has_every_sentence_in_its_table(self):
-        page = self.open()
-        _, words = page.asked("words.json")
+        process = self.enterContext(Process(FIRECHECK, self.file))
+        with urllib.request.urlopen(process.address + "words.json") as answer:
+            words = json.load(answer)
         used = re.findall(r'data-(?:text|label)="(.+?)"', (SOURCES / "index.html").read_text())
         for script in (SOURCES / "script").glob("*.js"):
             used += re.findall(r'words\.say\("(.+?)"', script.read_text())

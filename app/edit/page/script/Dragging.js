@@ -13,7 +13,7 @@ const TURN_STEP = 5; // degrees
 /** Moves, turns and resizes the selected element with the pointer, and has it judged on the way. */
 export class Dragging {
   constructor(svg, page) {
-    Object.assign(this, page); // site, view, elements, selection, trial, snapping, zones, marks, editor
+    Object.assign(this, page); // site, view, elements, labels, selection, trial, snapping, zones, marks, editor
     this.svg = svg;
     this.root = drawn(svg, "g", { class: "grips" });
     this.drag = null;
@@ -60,8 +60,10 @@ export class Dragging {
   }
 
   #begin(event) {
-    if (this.drag) {
-      this.cancel(); // a second finger zooms
+    if (this.drag) { // a second finger zooms
+      const { pointer, last } = this.drag;
+      this.cancel();
+      this.view.pointers.set(pointer, last);
       return;
     }
     const isAlone = [...this.view.pointers.keys()].every((pointer) => pointer === event.pointerId);
@@ -72,7 +74,7 @@ export class Dragging {
     if (!handle || (event.pointerType === "touch" && !isOwn)) return; // fingers move what is selected, and else the plan
     event.stopPropagation();
     this.view.hasMoved = false;
-    this.drag = { handle, grip, pointer: event.pointerId, from: [event.clientX, event.clientY], hasMoved: false };
+    this.drag = { handle, grip, pointer: event.pointerId, last: event, from: [event.clientX, event.clientY], hasMoved: false };
   }
 
   #start() {
@@ -101,6 +103,7 @@ export class Dragging {
     const { drag } = this;
     if (!drag || event.pointerId !== drag.pointer) return;
     event.stopPropagation();
+    drag.last = event;
     const slip = Math.hypot(event.clientX - drag.from[0], event.clientY - drag.from[1]);
     if (!drag.hasMoved && slip < SLIP) return;
     if (!drag.hasMoved) this.#start();
@@ -120,7 +123,7 @@ export class Dragging {
     const onGrid = snapping.moveToGrid(place, free);
     const limits = this.#limits();
     const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, Math.min(CATCH / view.scale, FARTHEST_CATCH)) : onGrid;
-    this.elements.preview(drag.handle, movedShape(drag.shape, dx, dy));
+    this.#draw(movedShape(drag.shape, dx, dy));
     this.marks.showLimits(limits.lines([dx, dy]));
     this.#try(moved(drag.before, dx, dy), ({ verdict }) => {
       if (snapping.usesDistances && limits.learn(verdict.findings, drag.handle, [dx, dy])) this.#shift(drag.point);
@@ -143,7 +146,12 @@ export class Dragging {
   }
 
   #preview({ shapes }) {
-    for (const { handle, shape } of shapes) if (shape) this.elements.preview(handle, shape);
+    for (const { shape } of shapes) if (shape) this.#draw(shape);
+  }
+
+  #draw(shape) {
+    this.elements.preview(this.drag.handle, shape);
+    this.labels.move(this.drag.handle, shape);
   }
 
   #try(object, answered) {
@@ -176,10 +184,10 @@ export class Dragging {
   cancel() {
     const { drag } = this;
     if (!drag) return;
+    if (drag.hasMoved) this.#draw(drag.shape);
     this.#leave();
     this.view.hasMoved = true;
     if (!drag.hasMoved) return;
-    this.elements.preview(drag.handle, drag.shape);
     this.site.endTrial();
   }
 }

@@ -21,7 +21,7 @@ export class FindingList extends EventTarget {
     this.items = new Map(); // finding to its entry
     this.current = null;
     this.suggestions = new Suggestions(page);
-    this.form.addEventListener("input", () => this.filter());
+    for (const type of ["input", "change"]) this.form.addEventListener(type, () => this.filter());
     this.form.addEventListener("submit", (event) => event.preventDefault());
     this.selection.addEventListener("select", () => this.filter());
     this.site.addEventListener("verdict", () => this.update());

@@ -34,6 +34,15 @@ export class LabelLayer {
     this.#askForShow();
   }
 
+  /** With an element that is dragged, whatever it then hides. */
+  move(handle, shape) {
+    const label = this.labels.get(handle);
+    const bounds = boundsOf([shape]);
+    if (!label || !bounds) return;
+    label.at = [(bounds.left + bounds.right) / 2, (bounds.bottom + bounds.top) / 2];
+    if (label.node) this.#put(label, true, ...this.view.toScreen(label.at));
+  }
+
   remove(handle) {
     this.labels.get(handle)?.node?.remove();
     this.labels.delete(handle);

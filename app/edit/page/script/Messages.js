@@ -29,7 +29,6 @@ export class Messages {
   clear() {
     clearTimeout(this.timer);
     this.root.hidden = true;
-    this.isWarning = false;
   }
 
   /** To screen readers alone. */
@@ -43,6 +42,5 @@ export class Messages {
     this.text.textContent = text;
     this.root.className = kind;
     this.root.hidden = false;
-    this.isWarning = kind === "warning";
   }
 }

@@ -47,6 +47,7 @@ export class Suggestions {
     const panel = document.createElement("div");
     panel.className = "steps";
     panel.setAttribute("role", "group");
+    panel.setAttribute("aria-label", button.textContent);
     node.append(panel);
     const sentences = answer.steps.map((step) => step.sentence);
     if (sentences.length === 0) sentences.push(answer.obstacle || this.words.say("Nothing was found that would help."));
