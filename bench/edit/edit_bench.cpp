@@ -1,6 +1,7 @@
 // What the process behind the page takes for one step of a drag, and the parts of it, by objects of the site.
 
 #include "check/check_site.h"
+#include "drawing/load_site.h"
 #include "edit/edit_requests.h"
 
 #include <QProcess>

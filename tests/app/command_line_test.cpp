@@ -212,7 +212,7 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          "yard.dxf: 1 doubt\n",
          "", 1},
         {"firecheck import yard.dxf -o yard.json && cat yard.json; firecheck check yard.dxf --rules rules.xml -q",
-         "{\n  \"objects\": [\n    {\"class\":\"woodYard\",\"handle\":31,\"circle\":{\"center\":[0,0],\"radius\":900}}\n  ]\n}\n",
+         "{\n  \"objects\": [\n    {\"class\": \"woodYard\", \"handle\": 31, \"circle\": {\"center\": [0, 0], \"radius\": 900}}\n  ]\n}\n",
          "firecheck: yard.dxf:18: 1 HATCH on layer \"LAWN\" not taken up: such entities are not read\n", 0},
         {"firecheck check yard.dxf -q --rules rules.xml --layers map.json", "",
          "firecheck: map.json:1:31: /rows/0/class: unknown class \"rod\"; did you mean \"road\"?\n", 2},
