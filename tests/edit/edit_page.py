@@ -1,13 +1,18 @@
 """The page of `firecheck edit` in a headless browser."""
 
 import json
+import pathlib
 import re
 import signal
 import subprocess
+import sys
 
 from selenium import webdriver
-from selenium.webdriver.common.by import By
 from selenium.webdriver.support.ui import WebDriverWait
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
+
+from browser_window import BrowserWindow  # noqa: E402 pylint: disable=wrong-import-position
 
 PATIENCE = 10  # s, far more than anything takes
 
@@ -37,36 +42,17 @@ class Process:
         self.process.stdout.close()
 
 
-class Page(webdriver.Chrome):
+class Page(BrowserWindow):
     """A window with the page."""
 
-    def __init__(self):
-        options = webdriver.ChromeOptions()
-        for argument in ("headless=new", "no-sandbox", "disable-dev-shm-usage", "disable-background-networking"):
-            options.add_argument("--" + argument)
-        options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
-        super().__init__(options=options)
-
     def open(self, address, width=1280, height=800):
-        self.execute_cdp_cmd("Emulation.setDeviceMetricsOverride",
-                             {"width": width, "height": height, "deviceScaleFactor": 1, "mobile": False})
+        self.resize(width, height)
         self.get(address)
         self.wait(lambda: self.execute_script("return document.documentElement.classList.contains('ready')"))
 
     def wait(self, condition):
         """Until the condition holds; answers what it answers."""
         return WebDriverWait(self, PATIENCE, poll_frequency=0.02).until(lambda _: condition())
-
-    def all(self, selector):
-        return self.find_elements(By.CSS_SELECTOR, selector)
-
-    def one(self, selector):
-        found = self.all(selector)
-        assert len(found) == 1, f"{len(found)} elements match {selector}"
-        return found[0]
-
-    def press(self, *keys):
-        webdriver.ActionChains(self, duration=0).send_keys(*keys).perform()
 
     def press_together(self, held, key):
         webdriver.ActionChains(self, duration=0).key_down(held).send_keys(key).key_up(held).perform()

@@ -11,8 +11,11 @@ import tempfile
 import unittest
 
 from selenium import webdriver
-from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
+
+from browser_window import BrowserWindow  # noqa: E402 pylint: disable=wrong-import-position
 
 FIRECHECK, SITE, MAKE_SITES = sys.argv[1:4]
 
@@ -22,36 +25,15 @@ def checked(form, *arguments):
     return run.stdout.decode()
 
 
-class Browser(webdriver.Chrome):
-    """A headless window. Scripts of pages run unless told otherwise."""
-
-    def __init__(self, scripts=True):
-        self.runs_scripts = scripts
-        options = webdriver.ChromeOptions()
-        for argument in ("headless=new", "no-sandbox", "disable-dev-shm-usage", "disable-background-networking"):
-            options.add_argument("--" + argument)
-        if not scripts:
-            options.add_experimental_option("prefs", {"profile.managed_default_content_settings.javascript": 2})
-        super().__init__(options=options)
+class Browser(BrowserWindow):
+    """A window with a report."""
 
     def open(self, url, width, height):
-        self.execute_cdp_cmd("Emulation.setDeviceMetricsOverride",
-                             {"width": width, "height": height, "deviceScaleFactor": 1, "mobile": False})
+        self.resize(width, height)
         self.get("about:blank")  # else another part of the same page would be gone to
         self.get(url)
         if self.runs_scripts:
             self.execute_async_script("requestAnimationFrame(() => requestAnimationFrame(arguments[0]));")
-
-    def all(self, selector):
-        return self.find_elements(By.CSS_SELECTOR, selector)
-
-    def one(self, selector):
-        found = self.all(selector)
-        assert len(found) == 1, f"{len(found)} elements match {selector}"
-        return found[0]
-
-    def press(self, *keys):
-        webdriver.ActionChains(self, duration=0).send_keys(*keys).perform()
 
     def view(self):
         return self.one(".ground").get_dom_attribute("transform")

@@ -19,9 +19,11 @@ QString sourceHash(const QString& text) {
     return "'sha256-" + QString::fromLatin1(hash.toBase64()) + "'";
 }
 
+/// One module, since a file opened from a disk may import none.
 QString pageScript() {
-    QString script = "\n\"use strict\";\n";
-    for (const char* part : {"PlanLabels.js", "Plan.js", "Pins.js", "FindingOrder.js", "Site.js", "page.js"})
+    QString script = "\n";
+    for (const char* part :
+         {"PlanLabels.js", "PlanGestures.js", "Plan.js", "Pins.js", "FindingOrder.js", "Site.js", "page.js"})
         script += "\n" + asset(part);
     return script;
 }
@@ -56,7 +58,7 @@ public:
                   .toStdString());
         for (const std::string& section : m_sections)
             write(section);
-        write(("<script>" + script + "</script>\n</body>\n</html>\n").toStdString());
+        write(("<script type=\"module\">" + script + "</script>\n</body>\n</html>\n").toStdString());
     }
 
 private:

@@ -1,10 +1,10 @@
 import { anchor, middleOf, moved, turned } from "./edits.js";
 import { gripsOf } from "./grips.js";
+import { SLIP } from "./PlanGestures.js";
 import { movedShape } from "./plane.js";
 import { Limits } from "./Snapping.js";
 import { drawn } from "./svg.js";
 
-const SLIP = 4; // pixels that a click may move
 const CATCH = 10; // pixels within which a required distance holds what is dragged
 const FARTHEST_CATCH = 1000; // mm, where a pixel stands for much
 const TURN_ARM = 34; // pixels from the element to its turning handle
@@ -63,17 +63,17 @@ export class Dragging {
     if (this.drag) { // a second finger zooms
       const { pointer, last } = this.drag;
       this.cancel();
-      this.view.pointers.set(pointer, last);
+      this.view.gestures.pointers.set(pointer, last);
       return;
     }
-    const isAlone = [...this.view.pointers.keys()].every((pointer) => pointer === event.pointerId);
+    const isAlone = [...this.view.gestures.pointers.keys()].every((pointer) => pointer === event.pointerId);
     if (event.button !== 0 || !isAlone) return;
     const grip = event.target.closest(".grip")?.dataset.grip;
     const handle = grip ? this.selection.handle : this.elements.handleAt(event.target);
     const isOwn = handle !== null && handle === this.selection.handle;
     if (!handle || (event.pointerType === "touch" && !isOwn)) return; // fingers move what is selected, and else the plan
     event.stopPropagation();
-    this.view.hasMoved = false;
+    this.view.gestures.hasMoved = false;
     this.drag = { handle, grip, pointer: event.pointerId, last: event, from: [event.clientX, event.clientY], hasMoved: false };
   }
 
@@ -168,7 +168,7 @@ export class Dragging {
     event.stopPropagation();
     this.#leave();
     if (!drag.hasMoved) return; // a click
-    this.view.hasMoved = true; // and no click
+    this.view.gestures.hasMoved = true; // and no click
     this.editor.change([{ handle: drag.handle, object: drag.object }]);
   }
 
@@ -186,7 +186,7 @@ export class Dragging {
     if (!drag) return;
     if (drag.hasMoved) this.#draw(drag.shape);
     this.#leave();
-    this.view.hasMoved = true;
+    this.view.gestures.hasMoved = true;
     if (!drag.hasMoved) return;
     this.site.endTrial();
   }

@@ -1,10 +1,10 @@
+import { PlanGestures } from "./PlanGestures.js";
 import { boundsOf } from "./plane.js";
 
 const SMALLEST_VIEW = 2000; // mm
 const LARGEST_VIEW = 3; // sites
 const LEAST_FITTED = 12000; // mm
 const EMPTY = { left: 0, bottom: 0, right: 50000, top: 40000 };
-const SLIP = 4; // pixels that a click may move
 
 /** Which part of the site is seen, and how large. Dispatches "view" when that changes. */
 export class PlanView extends EventTarget {
@@ -17,8 +17,7 @@ export class PlanView extends EventTarget {
     this.origin = [0, 0]; // where the drawing has its zero, in the site
     this.scale = 0.01; // pixels for a millimetre
     this.centre = [0, 0]; // of what is seen, in the site
-    this.pointers = new Map();
-    this.#listen();
+    this.gestures = new PlanGestures(this);
     new ResizeObserver(() => {
       this.rim = null;
       this.#show();
@@ -129,48 +128,5 @@ export class PlanView extends EventTarget {
     const length = power * [5, 2, 1].find((factor) => factor * power <= most);
     this.bar.style.width = `${length * this.scale * 1000}px`;
     this.length.textContent = `${Number(length.toPrecision(1))} m`;
-  }
-
-  #listen() {
-    const { svg } = this;
-    svg.addEventListener("wheel", (event) => this.#wheel(event), { passive: false });
-    svg.addEventListener("pointerdown", (event) => {
-      this.pointers.set(event.pointerId, event);
-      this.hasMoved = false;
-    });
-    svg.addEventListener("pointermove", (event) => this.#drag(event));
-    for (const end of ["pointerup", "pointercancel"]) {
-      svg.addEventListener(end, (event) => {
-        this.pointers.delete(event.pointerId);
-        svg.classList.remove("moving");
-      });
-    }
-  }
-
-  /** By the size of the step; a pinch on a touch pad comes as small steps with Ctrl. Else the page scrolls. */
-  #wheel(event) {
-    if (!event.ctrlKey && !event.metaKey) return;
-    event.preventDefault();
-    const pixels = event.deltaY * [1, 20, 400][event.deltaMode];
-    this.zoom(Math.exp(-Math.min(Math.max(pixels, -60), 60) * 0.006), event.clientX, event.clientY);
-  }
-
-  #drag(event) {
-    const before = this.pointers.get(event.pointerId);
-    if (!before) return;
-    const movedBy = Math.hypot(event.clientX - before.clientX, event.clientY - before.clientY);
-    if (!this.hasMoved && movedBy < SLIP) return;
-    if (!this.hasMoved) this.svg.setPointerCapture(event.pointerId);
-    this.hasMoved = true;
-    this.svg.classList.add("moving");
-    const other = [...this.pointers.values()].find((pointer) => pointer.pointerId !== event.pointerId);
-    if (other) {
-      const spread = (pointer) => Math.hypot(pointer.clientX - other.clientX, pointer.clientY - other.clientY);
-      this.zoom(spread(event) / Math.max(spread(before), 1), (event.clientX + other.clientX) / 2,
-        (event.clientY + other.clientY) / 2);
-    } else {
-      this.move(event.clientX - before.clientX, event.clientY - before.clientY);
-    }
-    this.pointers.set(event.pointerId, event);
   }
 }

@@ -85,7 +85,7 @@ function listenToSelection({ selection, elements, site, messages, words }) {
 
 function listenToPlan({ view, elements, selection, editor }) {
   view.svg.addEventListener("click", (event) => {
-    if (view.hasMoved || event.target.closest(".grip")) return;
+    if (view.gestures.hasMoved || event.target.closest(".grip")) return;
     editor.finishNudge();
     selection.select(elements.handleAt(event.target));
   });

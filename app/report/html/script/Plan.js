@@ -14,8 +14,7 @@ class Plan {
     this.seen = { ...this.whole };
     this.labels = new PlanLabels(this.svg);
     this.svg.removeAttribute("viewBox");
-    this.pointers = new Map();
-    this.listen();
+    this.gestures = new PlanGestures(this);
     new ResizeObserver(() => this.show(this.seen)).observe(this.svg);
   }
 
@@ -103,51 +102,6 @@ class Plan {
     const width = Math.max((right - left) * 1.4, LEAST_FITTED);
     const height = Math.max((bottom - top) * 1.4, LEAST_FITTED);
     this.show({ x: (left + right - width) / 2, y: (top + bottom - height) / 2, width, height });
-  }
-
-  listen() {
-    const { svg } = this;
-    svg.addEventListener("wheel", (event) => this.wheel(event), { passive: false });
-    svg.addEventListener("pointerdown", (event) => {
-      this.pointers.set(event.pointerId, event);
-      this.hasMoved = false;
-    });
-    svg.addEventListener("pointermove", (event) => this.drag(event));
-    for (const end of ["pointerup", "pointercancel"]) {
-      svg.addEventListener(end, (event) => {
-        this.pointers.delete(event.pointerId);
-        svg.classList.remove("moving");
-      });
-    }
-    svg.addEventListener("dragstart", (event) => event.preventDefault());
-  }
-
-  /** By the size of the step; a pinch on a touch pad comes as small steps with Ctrl. Else the page scrolls. */
-  wheel(event) {
-    if (!event.ctrlKey && !event.metaKey) return;
-    event.preventDefault();
-    const pixels = event.deltaY * [1, 20, 400][event.deltaMode];
-    const step = Math.min(Math.max(pixels, -60), 60);
-    this.zoom(Math.exp(-step * 0.006), event.clientX, event.clientY);
-  }
-
-  drag(event) {
-    const before = this.pointers.get(event.pointerId);
-    if (!before) return;
-    const movedBy = Math.hypot(event.clientX - before.clientX, event.clientY - before.clientY);
-    if (!this.hasMoved && movedBy < 4) return;
-    if (!this.hasMoved) this.svg.setPointerCapture(event.pointerId);
-    this.hasMoved = true;
-    this.svg.classList.add("moving");
-    const other = [...this.pointers.values()].find((pointer) => pointer.pointerId !== event.pointerId);
-    if (other) {
-      const spread = (pointer) => Math.hypot(pointer.clientX - other.clientX, pointer.clientY - other.clientY);
-      this.zoom(spread(event) / Math.max(spread(before), 1), (event.clientX + other.clientX) / 2,
-        (event.clientY + other.clientY) / 2);
-    } else {
-      this.move(event.clientX - before.clientX, event.clientY - before.clientY);
-    }
-    this.pointers.set(event.pointerId, event);
   }
 
   /** True when the key moved the plan. */

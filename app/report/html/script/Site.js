@@ -98,7 +98,7 @@ class Site {
     this.plan = plan;
     plan.svg.addEventListener("click", (event) => {
       if (event.target.closest("a")) event.preventDefault();
-      if (plan.hasMoved || pins.click(event)) return;
+      if (plan.gestures.hasMoved || pins.click(event)) return;
       const element = event.target.closest(".element");
       if (element) this.chooseElement(element.id.slice(this.section.id.length + 2));
     });
