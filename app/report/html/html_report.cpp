@@ -22,8 +22,8 @@ QString sourceHash(const QString& text) {
 /// One module, since a file opened from a disk may import none.
 QString pageScript() {
     QString script = "\n";
-    for (const char* part :
-         {"PlanLabels.js", "PlanGestures.js", "Plan.js", "Pins.js", "FindingOrder.js", "Site.js", "page.js"})
+    for (const char* part : {"PlanLabels.js", "PlanGestures.js", "plan_scale.js", "Plan.js", "Pins.js",
+                             "FindingOrder.js", "Site.js", "page.js"})
         script += "\n" + asset(part);
     return script;
 }

@@ -1,4 +1,5 @@
 import { PlanGestures } from "./PlanGestures.js";
+import { roundLength } from "./plan_scale.js";
 import { boundsOf } from "./plane.js";
 
 const SMALLEST_VIEW = 2000; // mm
@@ -121,12 +122,9 @@ export class PlanView extends EventTarget {
     this.dispatchEvent(new Event("view"));
   }
 
-  /** A round length of at most 120 pixels. */
   #showScale() {
-    const most = 120 / (this.scale * 1000);
-    const power = 10 ** Math.floor(Math.log10(most));
-    const length = power * [5, 2, 1].find((factor) => factor * power <= most);
+    const length = roundLength(this.scale * 1000);
     this.bar.style.width = `${length * this.scale * 1000}px`;
-    this.length.textContent = `${Number(length.toPrecision(1))} m`;
+    this.length.textContent = `${length} m`;
   }
 }

@@ -55,13 +55,10 @@ class Plan {
     this.show(this.seen);
   }
 
-  /** A round length of at most 120 pixels. */
   showScale(scale) {
-    const most = 120 / scale;
-    const power = 10 ** Math.floor(Math.log10(most));
-    const length = power * [5, 2, 1].find((factor) => factor * power <= most);
+    const length = roundLength(scale);
     this.bar.style.width = `${length * scale}px`;
-    this.length.textContent = this.length.dataset.text.replace("%1", String(Number(length.toPrecision(1))));
+    this.length.textContent = this.length.dataset.text.replace("%1", String(length));
   }
 
   showAll() {
