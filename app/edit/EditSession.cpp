@@ -33,9 +33,10 @@ std::string keyIn(const std::string& pointer) {
 
 RefusedChange refusedChange(const Json& site, const Refusal& refusal) {
     const PointedObject object = pointedObject(site, refusal.pointer);
-    const std::optional<long long> handle =
-        object.handle.empty() ? std::nullopt : std::optional(std::stoll(object.handle));
-    return {reasonAndAdvice(refusal.reason, refusal.suggestion), handle, keyIn(refusal.pointer)};
+    bool isHandle = false; // what is refused may be a handle that no number holds
+    const long long handle = QString::fromStdString(object.handle).toLongLong(&isHandle);
+    return {reasonAndAdvice(refusal.reason, refusal.suggestion),
+            isHandle ? std::optional(handle) : std::nullopt, keyIn(refusal.pointer)};
 }
 
 long long handleOf(const UdDbObject& object) {
@@ -94,7 +95,9 @@ Judgement EditSession::judge() const {
     } catch (const RefusedJson& refused) {
         throw refusedChange(file.value, refused.refusals().front());
     }
-    judgement.doubts = siteDoubts(file, m_rules);
+    for (const SiteDoubt& doubt : siteDoubts(file, m_rules))
+        judgement.doubts.push_back({pointedObject(file.value, doubt.pointer).handle,
+                                    sentenceAndAdvice(doubt.message, doubt.suggestion)});
     judgement.report = checkSite(std::move(file.site), m_fileName, m_rules);
     judgement.time = std::chrono::steady_clock::now() - begin;
     return judgement;

@@ -14,10 +14,16 @@
 
 namespace firecheck {
 
+/// What is doubtful of a site, and the object that it is about.
+struct JudgedDoubt {
+    std::string handle; ///< decimal; empty for none
+    std::string text;
+};
+
 /// What the checker says of a site.
 struct Judgement {
     SiteReport report;
-    SiteDoubts doubts;
+    std::vector<JudgedDoubt> doubts;
     std::chrono::nanoseconds time{0}; ///< that judging took
 };
 

@@ -1,5 +1,6 @@
 #include "edit/SiteDraft.h"
 
+#include "json/Codec.h"
 #include "site_file/site_keys.h"
 #include "text/words.h"
 
@@ -13,13 +14,6 @@ namespace {
 
 constexpr std::size_t kMostSteps = 1000;
 const std::string kHandleKey = "handle";
-
-std::optional<long long> handleOf(const Json& object) {
-    const auto handle = object.find(kHandleKey);
-    if (handle == object.end() || !handle->is_number_integer())
-        return std::nullopt;
-    return handle->get<long long>();
-}
 
 /// The value as given, but for what says the same as before: a browser writes 3.0 as 3, and an integer beyond
 /// its doubles as a neighbour.
@@ -131,6 +125,17 @@ private:
 };
 
 } // namespace
+
+std::optional<long long> handleOf(const Json& object) {
+    const auto handle = object.find(kHandleKey);
+    if (handle == object.end())
+        return std::nullopt;
+    try {
+        return integer<long long>().read(*handle, JsonPlace());
+    } catch (const RefusedJson&) {
+        return std::nullopt;
+    }
+}
 
 SiteDraft::SiteDraft(Json site) : m_site(std::move(site)) {}
 

@@ -15,6 +15,9 @@ struct RequestedChange {
     Json object;                     ///< the whole of it; null for one to be removed
 };
 
+/// Of an object of a site file, as the site's reader takes it; nothing for none.
+std::optional<long long> handleOf(const Json& object);
+
 /// A change that makes no site; the text says why.
 class RefusedChange : public InputError {
 public:

@@ -25,7 +25,13 @@ std::optional<std::string> contentOf(const QString& name) {
 
 } // namespace
 
-SiteFileOnDisk::SiteFileOnDisk(const QString& fileName) : m_name(fileName), m_known(contentOf(fileName)) {}
+SiteFileOnDisk::SiteFileOnDisk(const QString& fileName) : m_name(fileName), m_known(contentOf(fileName)) {
+    // Told before anybody has laid out anything.
+    const QFileInfo directory(QFileInfo(fileName).absolutePath());
+    if (!directory.isDir() || !directory.isWritable())
+        throw InputError(fileName.toStdString() + ": " +
+                         filled(Words::tr("expected a file that a site can be saved to")));
+}
 
 SiteFileOnDisk::SiteFileOnDisk(const QString& fileName, const std::string& known)
     : m_name(fileName), m_known(known) {

@@ -2,7 +2,6 @@
 
 #include "site_file/site_classes.h"
 #include "site_file/site_keys.h"
-#include "text/words.h"
 
 namespace firecheck {
 
@@ -47,18 +46,11 @@ Json innerKeysJson(const Json& schema) {
 
 Json keyJson(const KeyShape& shape) {
     const Json schema = shape.schema();
-    Json json{{"key", shape.key},
-              {"doc", Words::tr(shape.doc.c_str()).toStdString()},
-              {"kind", kindOf(schema)},
-              {"required", shape.required}};
+    Json json{{"key", shape.key}, {"doc", shape.doc}, {"kind", kindOf(schema)}, {"required", shape.required}};
     if (shape.defaultValue)
         json["default"] = *shape.defaultValue;
-    if (schema.contains("minimum"))
-        json["minimum"] = schema.at("minimum");
     if (json["kind"] == "code")
         json["names"] = schema.at("anyOf").front().at("enum");
-    if (json["kind"] == "point")
-        json["numbers"] = {schema.at("minItems"), schema.at("maxItems")};
     if (json["kind"] == "object")
         json["keys"] = innerKeysJson(schema);
     return json;
@@ -73,10 +65,7 @@ Json classTableJson() {
         for (const KeyShape& shape : objectKeys(siteClass, ObjectRole::InDocument))
             if (shape.key != kClassKey)
                 keys.push_back(keyJson(shape));
-        classes.push_back({{"name", siteClass.name},
-                           {"doc", Words::tr(siteClass.doc.c_str()).toStdString()},
-                           {"isModel", siteClass.isModel},
-                           {"keys", std::move(keys)}});
+        classes.push_back({{"name", siteClass.name}, {"doc", siteClass.doc}, {"keys", std::move(keys)}});
     }
     return classes;
 }

@@ -86,7 +86,7 @@ Json stateJson(const EditSession& session) {
 }
 
 Json objectJson(const Json& object, const ShapesJson& shapes) {
-    const auto handle = object.at("handle").get<long long>();
+    const long long handle = handleOf(object).value_or(0);
     return {{"handle", std::to_string(handle)}, {"object", object}, {"shape", shapes.of(handle)}};
 }
 
@@ -95,7 +95,7 @@ std::set<long long> handlesIn(const ObjectEdits& edits) {
     for (const ObjectEdit& edit : edits)
         for (const Json* object : {&edit.before, &edit.after})
             if (object->is_object())
-                handles.insert(object->at("handle").get<long long>());
+                handles.insert(handleOf(*object).value_or(0));
     return handles;
 }
 
@@ -114,7 +114,7 @@ Json siteJson(const EditSession& session) {
     json["objects"] = Json::array();
     for (const Json& object : session.draft().objects())
         json["objects"].push_back(objectJson(object, shapes));
-    json["verdict"] = verdictJson(judgement, session.draft().site());
+    json["verdict"] = verdictJson(judgement);
     return json;
 }
 
@@ -130,7 +130,7 @@ Json changedJson(const EditSession& session, const ObjectEdits& edits) {
         else
             json["removed"].push_back(std::to_string(handle));
     }
-    json["verdict"] = verdictJson(session.judgement(), session.draft().site());
+    json["verdict"] = verdictJson(session.judgement());
     return json;
 }
 
@@ -140,7 +140,7 @@ Json triedJson(EditSession& session, const Request& request) {
     Json list = Json::array();
     for (const long long handle : handlesIn(tried.edits))
         list.push_back({{"handle", std::to_string(handle)}, {"shape", shapes.of(handle)}});
-    return {{"shapes", std::move(list)}, {"verdict", verdictJson(tried.judgement, session.draft().site())}};
+    return {{"shapes", std::move(list)}, {"verdict", verdictJson(tried.judgement)}};
 }
 
 Json suggestedJson(const EditSession& session, const Request& request) {

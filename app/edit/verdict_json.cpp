@@ -3,8 +3,6 @@
 #include "explain/measure_text.h"
 #include "report/plan/plan_kinds.h"
 #include "report/unjudged_text.h"
-#include "site_file/RefusedSite.h"
-#include "text/advice.h"
 
 #include <cmath>
 
@@ -27,11 +25,8 @@ Json pointJson(const PlanPoint& metres) {
 
 Json measureJson(const Measure& measure) {
     Json json{{"value", measure.value},
-              {"minimum", measure.minimum ? Json(*measure.minimum) : Json()},
-              {"maximum", measure.maximum ? Json(*measure.maximum) : Json()},
               {"unit", measure.kind == Measure::Kind::Area ? "m2" : "m"},
-              {"measured", firestandard::valueText(measure)},
-              {"required", firestandard::limitText(measure)}};
+              {"measured", firestandard::valueText(measure)}};
     if (measure.kind != Measure::Kind::Distance)
         return json;
     json["other"] = decimal(measure.other);
@@ -56,7 +51,6 @@ Json findingJson(const SiteReport& report, const Finding& finding, const std::st
             {"rule", record.name.toStdString()},
             {"text", finding.sentence},
             {"handles", std::move(handles)},
-            {"otherHandles", finding.relatedCount - finding.related.size()},
             {"measures", std::move(measures)}};
 }
 
@@ -69,7 +63,6 @@ Json rulesJson(const SiteReport& report) {
             if (record.name != count.ruleName)
                 continue;
             rule["text"] = record.ruleDescription.toStdString();
-            rule["standard"] = record.standard.toStdString();
             break;
         }
         rules.push_back(std::move(rule));
@@ -88,14 +81,11 @@ Json notJudgedJson(const SiteReport& report) {
     return list;
 }
 
-Json doubtsJson(const SiteDoubts& doubts, const Json& site) {
+Json doubtsJson(const std::vector<JudgedDoubt>& doubts) {
     Json list = Json::array();
-    for (const SiteDoubt& doubt : doubts) {
-        const PointedObject object = pointedObject(site, doubt.pointer);
-        list.push_back({{"handle", object.handle.empty() ? Json() : Json(object.handle)},
-                        {"code", doubt.code},
-                        {"text", sentenceAndAdvice(doubt.message, doubt.suggestion)}});
-    }
+    for (const JudgedDoubt& doubt : doubts)
+        list.push_back(
+            {{"handle", doubt.handle.empty() ? Json() : Json(doubt.handle)}, {"text", doubt.text}});
     return list;
 }
 
@@ -128,7 +118,7 @@ std::vector<std::string> findingIds(const SiteReport& report) {
     return ids;
 }
 
-Json verdictJson(const Judgement& judgement, const Json& site) {
+Json verdictJson(const Judgement& judgement) {
     const SiteReport& report = judgement.report;
     const std::vector<std::string> ids = findingIds(report);
     Json findings = Json::array();
@@ -137,7 +127,7 @@ Json verdictJson(const Judgement& judgement, const Json& site) {
     return {{"findings", std::move(findings)},
             {"rules", rulesJson(report)},
             {"notJudged", notJudgedJson(report)},
-            {"doubts", doubtsJson(judgement.doubts, site)},
+            {"doubts", doubtsJson(judgement.doubts)},
             {"judgedMs",
              std::round(std::chrono::duration<double, std::milli>(judgement.time).count() * 10.0) * 0.1}};
 }
@@ -159,9 +149,6 @@ Json ShapesJson::of(long long handle) const {
     return {{"kind", kindClass(shape.kind)},
             {"title", shape.title},
             {"label", shape.label},
-            {"box",
-             {rounded(shape.box.low.x), rounded(shape.box.low.y), rounded(shape.box.high.x),
-              rounded(shape.box.high.y)}},
             {"paths", std::move(paths)}};
 }
 

@@ -12,7 +12,7 @@ namespace firecheck {
 /// A name for each finding of the report that it keeps as long as its rule finds fault with its element.
 std::vector<std::string> findingIds(const SiteReport& report);
 
-Json verdictJson(const Judgement& judgement, const Json& site);
+Json verdictJson(const Judgement& judgement);
 
 /// How the elements of a report, which it refers to, are drawn.
 class ShapesJson {

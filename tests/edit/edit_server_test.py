@@ -215,6 +215,7 @@ class EditServerTest(unittest.TestCase):
                              ([{"handle": "413", "object": {**entry["object"], "colour": 1}}], "colour"),
                              ([{"handle": "999", "object": None}], ""),
                              ([{"object": {"class": "woodYard", "handle": 413, "center": [0, 0], "length": 1, "depth": 1}}], "handle"),
+                             ([{"object": {"class": "drawing", "handle": 2 ** 63}}], "handle"),
                              ([{"object": {"class": "house"}}], "class"),
                              ([{"object": {"class": "drawing", "handle": "x"}}], "handle"),
                              ([{"handle": "111", "object": None}], "doors")]:
@@ -274,6 +275,7 @@ class EditServerTest(unittest.TestCase):
     def test_a_port_in_use_and_a_site_without_a_file(self):
         process = self.serve()
         for arguments, named in [([self.file, "--port", process.url.port], "--port"), ([self.file, "--port", "70000"], "--port"),
+                                 ([self.file, "--output", "/nowhere/site.json"], "/nowhere/site.json"),
                                  (["/dev/stdin"], "--output"), (["-"], "--output")]:
             with self.subTest(arguments=arguments):
                 done = subprocess.run([FIRECHECK, "edit", *map(str, arguments)], capture_output=True, text=True, check=False,

@@ -218,6 +218,26 @@ TEST_F(EditSessionTest, JudgesEveryStepAsACheckOfTheSavedFileDoes) {
     EXPECT_EQ(session.draft().site(), Json::parse(onDisk()));
 }
 
+TEST_F(EditSessionTest, DoubtsWhatItTriesByTheElementsThatItTries) {
+    EditSession& session = open(R"({"objects": [
+        {"class": "drawing", "handle": 1},
+        {"class": "woodYard", "handle": 2.0, "center": [0, 0], "length": 9000, "depth": 5000},
+        {"class": "templateYard", "handle": 3, "center": [90000, 0], "length": 9000, "depth": 5000}]})");
+    const std::vector<RequestedChange> changes{
+        changeOf(R"({"handle": 1, "object": null})"),
+        changeOf(
+            R"({"handle": 2, "object": {"class": "woodYard", "handle": 2, "center": [90000, 0], "length": 9000, "depth": 5000}})")};
+    const std::vector<JudgedDoubt> tried = session.attempt(changes).judgement.doubts;
+    session.change(changes);
+    const std::vector<JudgedDoubt>& kept = session.judgement().doubts;
+    ASSERT_FALSE(tried.empty());
+    ASSERT_EQ(tried.size(), kept.size());
+    for (std::size_t i = 0; i < tried.size(); ++i) {
+        EXPECT_EQ(tried[i].handle, kept[i].handle);
+        EXPECT_EQ(tried[i].text, kept[i].text);
+    }
+}
+
 TEST_F(EditSessionTest, SuggestsChangesThatRemoveTheFinding) {
     EditSession& session = open(sourceText("examples/tower-site.json"));
     std::size_t helped = 0;
