@@ -3007,5 +3007,21 @@
         <source>cannot be written: %1</source>
         <translation>无法写入：%1</translation>
     </message>
+    <message>
+        <source>End</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>End the program that holds the site</source>
+        <translation>结束保存此场地的程序</translation>
+    </message>
+    <message>
+        <source>Changes are not saved, and would be lost. End all the same?</source>
+        <translation>更改尚未保存，结束后将丢失。仍要结束吗？</translation>
+    </message>
+    <message>
+        <source>The program has ended; this page can be closed.</source>
+        <translation>程序已结束，可以关闭此页面。</translation>
+    </message>
 </context>
 </TS>

@@ -105,6 +105,24 @@ class EditTest(unittest.TestCase):
         old, new = (path.read_text().splitlines() for path in (pathlib.Path(SITE), self.file))
         self.assertEqual(len([line for line in new if line not in old]), 3, "the lines of three objects")
 
+    def test_edits_that_follow_at_once_are_kept_and_saved_before_the_end(self):
+        page = self.open()
+        self.choose(414)
+        page.execute_script("document.querySelector('svg.plan').focus();")
+        page.press(Keys.ARROW_UP)
+        self.write("floors", "2")
+        self.write("length", "29000")
+        page.one("#field-depth").click()
+        page.press_together(Keys.CONTROL, "a")
+        page.press("7000")
+        page.press_together(Keys.CONTROL, "s")
+        wanted = {"center": [30000, 119000], "floors": 2, "length": 29000, "depth": 7000}
+        saved = lambda: next(one for one in json.loads(self.file.read_text())["objects"] if one["handle"] == 414)
+        page.wait(lambda: {key: saved()[key] for key in wanted} == wanted)
+        page.wait(lambda: page.one("#state").text == "")
+        page.one("#end-button").click()
+        self.assertEqual(self.process.process.wait(timeout=10), 0)
+
     def test_a_drag_that_comes_close_is_held_just_far_enough(self):
         page = self.open()
         self.sentence(TOO_CLOSE).click()

@@ -86,7 +86,7 @@ export class Dragging {
     const { object, shape } = this.selection.entry;
     Object.assign(drag, { hasMoved: true, before: object, shape, start: this.view.toSite(...drag.from), object });
     if (drag.grip && drag.grip !== "turn") {
-      drag.resize = gripsOf(object, (key) => this.selection.value(key))[Number(drag.grip)];
+      drag.resizes = Number(drag.grip);
     }
   }
 
@@ -109,7 +109,7 @@ export class Dragging {
     if (!drag.hasMoved) this.#start();
     const point = this.view.toSite(event.clientX, event.clientY);
     if (drag.grip === "turn") this.#turn(point, event);
-    else if (drag.resize) this.#resize(point);
+    else if (drag.resizes !== undefined) this.#resize(point);
     else this.#shift(point);
   }
 
@@ -125,7 +125,7 @@ export class Dragging {
     const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, Math.min(CATCH / view.scale, FARTHEST_CATCH)) : onGrid;
     this.#draw(movedShape(drag.shape, dx, dy));
     this.marks.showLimits(limits.lines([dx, dy]));
-    this.#try(moved(drag.before, dx, dy), ({ verdict }) => {
+    this.#try((object) => moved(object, dx, dy), ({ verdict }) => {
       if (snapping.usesDistances && limits.learn(verdict.findings, drag.handle, [dx, dy])) this.#shift(drag.point);
     });
   }
@@ -138,11 +138,15 @@ export class Dragging {
     const hasAngle = this.selection.hasKey("angle");
     const own = hasAngle ? (drag.before.angle ?? 0) : 0;
     const wanted = own + angleOf(point) - angleOf(drag.start);
-    this.#try(turned(drag.before, Math.round(wanted / step) * step - own, hasAngle), (answer) => this.#preview(answer));
+    const degrees = Math.round(wanted / step) * step - own;
+    this.#try((object) => turned(object, degrees, hasAngle), (answer) => this.#preview(answer));
   }
 
   #resize(point) {
-    this.#try(this.drag.resize.drag(this.snapping.toGrid(point)), (answer) => this.#preview(answer));
+    const { resizes } = this.drag;
+    const corner = this.snapping.toGrid(point);
+    const edit = (object) => gripsOf(object, (key) => object[key] ?? this.selection.value(key))[resizes].drag(corner);
+    this.#try(edit, (answer) => this.#preview(answer));
   }
 
   #preview({ shapes }) {
@@ -154,10 +158,12 @@ export class Dragging {
     this.labels.move(this.drag.handle, shape);
   }
 
-  #try(object, answered) {
+  /** What is tried begins from the object as the drag found it; what is kept, from the object as it is by then. */
+  #try(edit, answered) {
     const { drag } = this;
-    if (JSON.stringify(object) === JSON.stringify(drag.object)) return;
-    drag.object = object;
+    const object = edit(drag.before);
+    if (!object || JSON.stringify(object) === JSON.stringify(drag.object)) return;
+    Object.assign(drag, { object, edit });
     this.showGrips(object);
     this.trial.ask([{ handle: drag.handle, object }], answered);
   }
@@ -169,7 +175,7 @@ export class Dragging {
     this.#leave();
     if (!drag.hasMoved) return; // a click
     this.view.gestures.hasMoved = true; // and no click
-    this.editor.change([{ handle: drag.handle, object: drag.object }]);
+    if (drag.edit) this.editor.changeObject(drag.handle, drag.edit);
   }
 
   #leave() {

@@ -49,21 +49,33 @@ export class Editor {
     setTimeout(() => URL.revokeObjectURL(link.href), 60000);
   }
 
-  /** Kept as one step. `refused`, if given, hears why it was not, in place of a message. */
-  async change(changes, refused = (refusal) => this.tellRefusal(refusal)) {
+  /**
+   * Keeps what `make` answers for the site as it is then, as one step. `refused`, if given, hears why it was not kept,
+   * in place of a message.
+   */
+  async change(make, refused = (refusal) => this.tellRefusal(refusal)) {
     this.trial.end();
+    let made = [];
     try {
-      return await this.site.change(changes);
+      return await this.site.change((site) => {
+        made = make(site);
+        return made;
+      });
     } catch (refusal) {
-      for (const { handle } of changes) if (this.site.objects.has(handle)) this.elements.show(this.site.objects.get(handle));
+      for (const { handle } of made) if (this.site.objects.has(handle)) this.elements.show(this.site.objects.get(handle));
       this.site.endTrial();
       refused(refusal);
       return null;
     }
   }
 
-  changeSelected(object) {
-    return this.change([{ handle: this.selection.handle, object }]);
+  /** Keeps what `edit` makes of the object as it is then, after whatever was changed before; null changes nothing. */
+  changeObject(handle, edit, refused) {
+    return this.change((site) => {
+      const before = site.object(handle);
+      const object = before && edit(before);
+      return object ? [{ handle, object }] : [];
+    }, refused);
   }
 
   async undo() {
@@ -83,18 +95,33 @@ export class Editor {
     if (await this.attempt(() => this.site.save().then(() => true))) this.messages.tell(this.words.say("Saved."));
   }
 
+  /** Of the process. What is not saved is asked about first. */
+  async end() {
+    const { site, words, messages } = this;
+    await this.finishNudge();
+    await site.last;
+    const question = words.say("Changes are not saved, and would be lost. End all the same?");
+    if (site.isChanged && !window.confirm(question)) return;
+    if (await this.attempt(() => site.end().then(() => true))) {
+      messages.warn(words.say("The program has ended; this page can be closed."));
+    }
+  }
+
   async add(name) {
     await this.finishNudge();
     const object = newObject(this.site, name, this.snapping.toGrid(this.view.centre));
-    await this.#selectNew(await this.change([{ object }]));
+    await this.#selectNew(await this.change(() => [{ object }]));
   }
 
   async copy() {
     await this.finishNudge();
-    const { object } = this.selection;
-    if (!object) return;
-    const { handle, ...rest } = moved(object, COPY_BESIDE, -COPY_BESIDE);
-    await this.#selectNew(await this.change([{ object: rest }]));
+    const { handle } = this.selection;
+    if (!handle) return;
+    await this.#selectNew(await this.change((site) => {
+      const copy = moved(site.object(handle), COPY_BESIDE, -COPY_BESIDE);
+      delete copy.handle;
+      return [{ object: copy }];
+    }));
   }
 
   #selectNew(answer) {
@@ -108,14 +135,14 @@ export class Editor {
     await this.finishNudge();
     const { handle, entry } = this.selection;
     if (!handle) return;
-    if (await this.change([{ handle, object: null }])) this.messages.tell(this.words.say("Removed: %1", entry.title));
+    if (await this.change(() => [{ handle, object: null }])) this.messages.tell(this.words.say("Removed: %1", entry.title));
   }
 
   async turn(degrees) {
     await this.finishNudge();
-    const { object } = this.selection;
-    const result = object && turned(object, degrees, this.selection.hasKey("angle"));
-    if (result) await this.changeSelected(result);
+    const { handle } = this.selection;
+    const hasAngle = this.selection.hasKey("angle");
+    if (handle) await this.changeObject(handle, (object) => turned(object, degrees, hasAngle));
   }
 
   /** Arrow keys: judged at every step, kept as one change when they rest. */
@@ -139,6 +166,6 @@ export class Editor {
     if (!nudge) return;
     clearTimeout(nudge.timer);
     this.nudge = null;
-    await this.change([{ handle: nudge.handle, object: moved(nudge.before, nudge.dx, nudge.dy) }]);
+    await this.changeObject(nudge.handle, (object) => moved(object, nudge.dx, nudge.dy));
   }
 }

@@ -19,6 +19,7 @@ export class ElementForm {
     Object.assign(this, { root, selection, site, editor, words });
     this.fields = root.querySelector(".fields");
     this.rare = root.querySelector(".rare .fields");
+    this.readAs = new WeakMap(); // the texts of inputs as they were last filled or read
     this.title = root.querySelector("h2");
     this.chooser = root.querySelector("select[name=element]");
     this.chooser.addEventListener("change", () => selection.select(this.chooser.value || null));
@@ -44,6 +45,8 @@ export class ElementForm {
     this.root.classList.toggle("empty", !object);
     this.chooser.value = this.selection.handle ?? "";
     for (const button of this.root.querySelectorAll(".acts button")) button.disabled = !object;
+    const written = this.#rowBeingWritten();
+    this.shown = this.selection.handle;
     this.fields.replaceChildren();
     this.rare.replaceChildren();
     this.title.textContent = entry?.title ?? this.words.say("Nothing selected");
@@ -51,13 +54,27 @@ export class ElementForm {
     for (const shape of this.selection.keys) {
       if (HEAD.includes(shape.key)) continue;
       const isRare = RARE.includes(shape.key) && (object[shape.key] === undefined || shape.key === "identifier");
-      (isRare ? this.rare : this.fields).append(this.#row(shape, object));
+      (isRare ? this.rare : this.fields).append(
+        written?.dataset.key === shape.key ? written : this.#row(shape, object));
     }
     if (focused) this.root.querySelector(`[name="${focused}"]`)?.focus();
   }
 
+  /** What somebody is writing stays when an answer to something else arrives. */
+  #rowBeingWritten() {
+    if (this.shown !== this.selection.handle || !this.root.contains(document.activeElement)) return null;
+    const row = document.activeElement.closest(".row");
+    const isWritten = (input) => input.value !== this.readAs.get(input);
+    return row && [...row.querySelectorAll("input:not([type=checkbox]), textarea")].some(isWritten) ? row : null;
+  }
+
+  #rememberAsRead(row) {
+    for (const input of row.querySelectorAll("input, textarea")) this.readAs.set(input, input.value);
+  }
+
   #row(shape, object) {
     const row = document.createElement("div");
+    row.dataset.key = shape.key;
     row.className = `row of-${shape.kind}`;
     const field = fieldFor(shape, object[shape.key], (code) => this.words.name(code));
     const input = field.input.matches("input, select, textarea") ? field.input : field.input.querySelector("input");
@@ -76,7 +93,11 @@ export class ElementForm {
     problem.hidden = true;
     input.setAttribute("aria-describedby", problem.id);
     row.append(label, field.input, unit, problem);
-    row.addEventListener("change", () => this.#change(shape, field, input, problem));
+    this.#rememberAsRead(row);
+    row.addEventListener("change", () => {
+      this.#rememberAsRead(row);
+      this.#change(shape, field, input, problem);
+    });
     return row;
   }
 
@@ -95,10 +116,9 @@ export class ElementForm {
       refuse(this.words.say("This is no value that can be read."));
       return;
     }
-    const object = withValue(this.selection.object, shape.key, value);
-    if (JSON.stringify(object) === JSON.stringify(this.selection.object)) return;
-    await this.editor.finishNudge();
-    await this.editor.change([{ handle: this.selection.handle, object }], (refusal) => {
+    const { handle } = this.selection;
+    this.editor.finishNudge();
+    await this.editor.changeObject(handle, (object) => withValue(object, shape.key, value), (refusal) => {
       if (refusal.status === 422) refuse(refusal.message);
       else this.editor.tellRefusal(refusal);
     });

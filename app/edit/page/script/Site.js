@@ -14,7 +14,11 @@ export class Site extends EventTarget {
     this.last = Promise.resolve();
   }
 
-  async load() {
+  load() {
+    return this.#queued(() => this.#load());
+  }
+
+  async #load() {
     const answer = await this.api.get("api/site");
     this.name = answer.name;
     this.file = answer.file;
@@ -32,9 +36,9 @@ export class Site extends EventTarget {
     return this.objects.get(handle)?.object ?? null;
   }
 
-  /** A change that is kept, as one step to undo. */
-  change(changes) {
-    return this.#next("api/change", { changes });
+  /** A change that is kept, as one step to undo. `make` is asked for it when all before it are answered. */
+  change(make) {
+    return this.#next("api/change", () => ({ changes: make(this) }));
   }
 
   undo() {
@@ -67,11 +71,13 @@ export class Site extends EventTarget {
     return JSON.stringify({ ...this.rest, objects }, null, 2);
   }
 
-  async save() {
-    await this.last;
-    await this.#sent("api/save", {});
-    this.isChanged = false;
-    this.#tell("state");
+  save() {
+    return this.#queued(async () => this.#takeState(await this.#sent("api/save", {})));
+  }
+
+  /** Ends the process. */
+  end() {
+    return this.#queued(() => this.#sent("api/quit", {}));
   }
 
   /** Shows the verdict on a try in place of that on the site as it is kept. */
@@ -85,12 +91,16 @@ export class Site extends EventTarget {
   }
 
   /** Changes are sent in their order, each on the revision that the one before it made. */
-  #next(path, body = {}) {
-    const next = this.last.then(async () => {
-      const answer = await this.#sent(path, body);
+  #next(path, body = () => ({})) {
+    return this.#queued(async () => {
+      const answer = await this.#sent(path, body());
       this.#take(answer);
       return answer;
     });
+  }
+
+  #queued(act) {
+    const next = this.last.then(act);
     this.last = next.catch(() => {});
     return next;
   }
@@ -100,7 +110,7 @@ export class Site extends EventTarget {
     try {
       return await this.api.post(path, { revision, ...body });
     } catch (refusal) {
-      if (refusal.isStaleAfter?.(revision)) await this.load(); // another window changed the site
+      if (refusal.isStaleAfter?.(revision)) await this.#load(); // another window changed the site
       throw refusal;
     }
   }

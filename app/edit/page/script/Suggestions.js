@@ -72,7 +72,7 @@ export class Suggestions {
 
   async #take(changes, sentences) {
     this.close();
-    if (await this.editor.change(changes)) this.editor.messages.tell(this.words.say("Done: %1", sentences.join(" ")));
+    if (await this.editor.change(() => changes)) this.editor.messages.tell(this.words.say("Done: %1", sentences.join(" ")));
   }
 
   #button(parent, name, text, act) {

@@ -10,6 +10,7 @@ export class Zones {
     Object.assign(this, { site, selection, view, colours });
     this.isShown = false;
     this.list = [];
+    this.asked = 0; // the latest answer counts, whatever comes when
     selection.addEventListener("select", () => this.fetch());
     site.addEventListener("objects", () => this.fetch());
   }
@@ -21,10 +22,12 @@ export class Zones {
 
   async fetch() {
     const { handle } = this.selection;
+    this.asked += 1;
+    const { asked } = this;
     this.list = [];
     if (handle) {
       const list = await this.site.zones(handle).catch(() => []);
-      if (handle !== this.selection.handle) return; // another one by now
+      if (asked !== this.asked) return;
       this.list = list;
     }
     this.#draw();

@@ -39,11 +39,19 @@ function planKey(event, page) {
   return true;
 }
 
+/** A field tells what is written in it when it is left. */
+function saveWhatIsWritten(editor) {
+  const field = document.activeElement;
+  field?.blur();
+  editor.save();
+  field?.focus({ preventScroll: true });
+}
+
 function commandKey(event, { editor }) {
   const acts = {
     z: () => (event.shiftKey ? editor.redo() : editor.undo()),
     y: () => editor.redo(),
-    s: () => editor.save(),
+    s: () => saveWhatIsWritten(editor),
     d: () => editor.copy(),
   };
   const name = event.key.toLowerCase();

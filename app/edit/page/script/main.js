@@ -95,7 +95,7 @@ function listenToPlan({ view, elements, selection, editor }) {
 }
 
 function listenToTools({ site, editor, snapping, zones, toggles, selection, words }) {
-  const acts = { undo: () => editor.undo(), redo: () => editor.redo(), save: () => editor.save(), copy: () => editor.copy(),
+  const acts = { undo: () => editor.undo(), redo: () => editor.redo(), save: () => editor.save(), end: () => editor.end(), copy: () => editor.copy(),
     remove: () => editor.remove(), "turn-left": () => editor.turn(15), "turn-right": () => editor.turn(-15),
     help: () => one("#help").showModal() };
   for (const [name, act] of Object.entries(acts)) one(`#${name}-button`).addEventListener("click", act);
