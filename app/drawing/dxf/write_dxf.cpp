@@ -1,6 +1,7 @@
 #include "drawing/dxf/write_dxf.h"
 
 #include "drawing/dxf/DxfTagWriter.h"
+#include "drawing/dxf/colour_index.h"
 
 #include <QString>
 
@@ -15,34 +16,6 @@ namespace firecheck {
 namespace {
 
 const char* const kTextStyle = "FIRECHECK";
-
-/// Colours of the index that every version knows, and what they look like.
-struct IndexedColour {
-    int index;
-    int rgb;
-};
-constexpr IndexedColour kIndexed[] = {{1, 0xFF0000},   {2, 0xFFFF00},   {3, 0x00FF00},   {4, 0x00FFFF},
-                                      {5, 0x0000FF},   {6, 0xFF00FF},   {7, 0x000000},   {8, 0x808080},
-                                      {9, 0xC0C0C0},   {30, 0xFF7F00},  {34, 0x993C00},  {36, 0x7F3F00},
-                                      {94, 0x1F7F1F},  {96, 0x3F7F00},  {134, 0x007F7F}, {150, 0x007FFF},
-                                      {174, 0x1F1F99}, {200, 0x7F00FF}, {220, 0xFF00BF}, {254, 0xD6D6D6}};
-
-int squareDistance(int a, int b) {
-    int sum = 0;
-    for (const int shift : {0, 8, 16}) {
-        const int difference = ((a >> shift) & 0xFF) - ((b >> shift) & 0xFF);
-        sum += difference * difference;
-    }
-    return sum;
-}
-
-int nearestIndex(int rgb) {
-    const IndexedColour* nearest = &kIndexed[0];
-    for (const IndexedColour& candidate : kIndexed)
-        if (squareDistance(candidate.rgb, rgb) < squareDistance(nearest->rgb, rgb))
-            nearest = &candidate;
-    return nearest->index;
-}
 
 class DxfFileWriter {
 public:
@@ -195,7 +168,7 @@ private:
         for (const auto& [name, layer] : m_layers) {
             beginRecord("LAYER", "AcDbLayerTableRecord", name);
             m_out.integer(70, 0);
-            m_out.integer(62, layer.colour < 0 ? 7 : nearestIndex(layer.colour));
+            m_out.integer(62, layer.colour < 0 ? 7 : nearestColourIndex(layer.colour));
             if (layer.colour >= 0)
                 m_out.integer(420, layer.colour);
             m_out.tag(6, "Continuous");
@@ -247,7 +220,7 @@ private:
         m_out.tag(100, "AcDbEntity");
         m_out.text(8, entity.layer);
         if (entity.colour >= 0) {
-            m_out.integer(62, nearestIndex(entity.colour));
+            m_out.integer(62, nearestColourIndex(entity.colour));
             m_out.integer(420, entity.colour);
         }
     }
