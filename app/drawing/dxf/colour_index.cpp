@@ -1,5 +1,7 @@
 #include "drawing/dxf/colour_index.h"
 
+#include <initializer_list>
+
 namespace firecheck {
 
 namespace {
