@@ -3,6 +3,7 @@
 
 import http.server
 import json
+import math
 import pathlib
 import re
 import shutil
@@ -187,6 +188,24 @@ class EditTest(unittest.TestCase):
         _, site = page.asked("api/site")
         added = [entry["object"]["class"] for entry in site["objects"] if entry["handle"] not in known]
         self.assertCountEqual(added, [entry["name"] for entry in site["classes"]])
+
+    def test_a_wall_takes_its_doors_along(self):
+        page = self.open()
+        self.choose(106)
+        page.execute_script("document.querySelector('svg.plan').focus();")
+        page.press(Keys.ARROW_RIGHT)
+        page.wait(lambda: page.object("114")["position"] == [66500, 112000])
+        page.press("r")
+        page.wait(lambda: page.object("114")["angle"] == 105)
+        start, position = page.object("106")["start"], page.object("114")["position"]
+        self.assertAlmostEqual(math.dist(start, position), 32000, delta=0.01)
+        page.press_together(Keys.CONTROL, "d")
+        page.wait(lambda: page.one(".choose select").get_property("value") not in ("", "106"))
+        self.assertEqual(page.object(page.one(".choose select").get_property("value"))["doors"], [])
+        for _ in range(3):
+            page.press_together(Keys.CONTROL, "z")
+        page.wait(lambda: not page.one("#undo-button").is_enabled())
+        self.assertEqual(page.object("114")["position"], [66000, 112000])
 
     def test_the_list_is_filtered_and_leads_to_the_elements(self):
         page = self.open()

@@ -123,9 +123,10 @@ export class Dragging {
     const onGrid = snapping.moveToGrid(place, free);
     const limits = this.#limits();
     const [dx, dy] = snapping.usesDistances ? limits.hold(free, onGrid, Math.min(CATCH / view.scale, FARTHEST_CATCH)) : onGrid;
-    this.#draw(movedShape(drag.shape, dx, dy));
+    this.#draw(drag.handle, movedShape(drag.shape, dx, dy));
     this.marks.showLimits(limits.lines([dx, dy]));
-    this.#try((object) => moved(object, dx, dy), ({ verdict }) => {
+    this.#try((object) => moved(object, dx, dy), ({ shapes, verdict }) => {
+      this.#preview(shapes.filter(({ handle }) => handle !== drag.handle));
       if (snapping.usesDistances && limits.learn(verdict.findings, drag.handle, [dx, dy])) this.#shift(drag.point);
     });
   }
@@ -139,23 +140,23 @@ export class Dragging {
     const own = hasAngle ? (drag.before.angle ?? 0) : 0;
     const wanted = own + angleOf(point) - angleOf(drag.start);
     const degrees = Math.round(wanted / step) * step - own;
-    this.#try((object) => turned(object, degrees, hasAngle), (answer) => this.#preview(answer));
+    this.#try((object) => turned(object, degrees, hasAngle), ({ shapes }) => this.#preview(shapes));
   }
 
   #resize(point) {
     const { resizes } = this.drag;
     const corner = this.snapping.toGrid(point);
     const edit = (object) => gripsOf(object, (key) => object[key] ?? this.selection.value(key))[resizes].drag(corner);
-    this.#try(edit, (answer) => this.#preview(answer));
+    this.#try(edit, ({ shapes }) => this.#preview(shapes));
   }
 
-  #preview({ shapes }) {
-    for (const { shape } of shapes) if (shape) this.#draw(shape);
+  #preview(shapes) {
+    for (const { handle, shape } of shapes) if (shape) this.#draw(handle, shape);
   }
 
-  #draw(shape) {
-    this.elements.preview(this.drag.handle, shape);
-    this.labels.move(this.drag.handle, shape);
+  #draw(handle, shape) {
+    this.elements.preview(handle, shape);
+    this.labels.move(handle, shape);
   }
 
   /** What is tried begins from the object as the drag found it; what is kept, from the object as it is by then. */
@@ -165,7 +166,8 @@ export class Dragging {
     if (!object || JSON.stringify(object) === JSON.stringify(drag.object)) return;
     Object.assign(drag, { object, edit });
     this.showGrips(object);
-    this.trial.ask([{ handle: drag.handle, object }], answered);
+    drag.changes = this.editor.changesWith(drag.handle, object);
+    this.trial.ask(drag.changes, answered);
   }
 
   #end(event) {
@@ -190,7 +192,7 @@ export class Dragging {
   cancel() {
     const { drag } = this;
     if (!drag) return;
-    if (drag.hasMoved) this.#draw(drag.shape);
+    for (const { handle } of drag.changes ?? []) this.#draw(handle, this.site.objects.get(handle).shape);
     this.#leave();
     this.view.gestures.hasMoved = true;
     if (!drag.hasMoved) return;

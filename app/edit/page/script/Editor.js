@@ -1,5 +1,6 @@
 import { anchor, moved, turned } from "./edits.js";
 import { newObject } from "./new_object.js";
+import { doorChanges, withoutDoors } from "./wall_doors.js";
 
 const COPY_BESIDE = 2000; // mm
 const NUDGE_ENDS = 700; // ms after the last arrow key
@@ -74,8 +75,14 @@ export class Editor {
     return this.change((site) => {
       const before = site.object(handle);
       const object = before && edit(before);
-      return object ? [{ handle, object }] : [];
+      return object ? this.changesWith(handle, object) : [];
     }, refused);
+  }
+
+  /** The object put in the place of the one it has, and what goes with it. */
+  changesWith(handle, object) {
+    const { site } = this;
+    return [{ handle, object }, ...doorChanges(site.object(handle), object, (door) => site.object(door))];
   }
 
   async undo() {
@@ -118,7 +125,7 @@ export class Editor {
     const { handle } = this.selection;
     if (!handle) return;
     await this.#selectNew(await this.change((site) => {
-      const copy = moved(site.object(handle), COPY_BESIDE, -COPY_BESIDE);
+      const copy = withoutDoors(moved(site.object(handle), COPY_BESIDE, -COPY_BESIDE));
       delete copy.handle;
       return [{ object: copy }];
     }));
@@ -156,7 +163,7 @@ export class Editor {
     clearTimeout(nudge.timer);
     nudge.timer = setTimeout(() => this.finishNudge(), NUDGE_ENDS);
     const object = moved(nudge.before, nudge.dx, nudge.dy);
-    this.trial.ask([{ handle: nudge.handle, object }], ({ shapes }) => {
+    this.trial.ask(this.changesWith(nudge.handle, object), ({ shapes }) => {
       for (const { handle, shape } of shapes) this.elements.preview(handle, shape);
     });
   }
