@@ -39,10 +39,6 @@ RefusedChange refusedChange(const Json& site, const Refusal& refusal) {
             isHandle ? std::optional(handle) : std::nullopt, keyIn(refusal.pointer)};
 }
 
-long long handleOf(const UdDbObject& object) {
-    return object.Handle().GetID();
-}
-
 /// Keeps the distances of one element as long as it lives.
 class DistanceObserver : public firestandard::CheckObserver {
 public:
@@ -57,8 +53,8 @@ public:
         const auto& measured = comparison.measurement;
         if (!comparison.other || !measured || measured->quantity != Quantity::Distance)
             return;
-        const long long first = handleOf(comparison.element);
-        const long long second = handleOf(*comparison.other);
+        const long long first = comparison.element.Handle().GetID();
+        const long long second = comparison.other->Handle().GetID();
         if (first != m_handle && second != m_handle)
             return;
         const long long other = first == m_handle ? second : first;

@@ -20,12 +20,12 @@ using firestandard::RuleTest;
 
 namespace {
 
-std::string text(std::wstring_view identifier) {
+std::string utf8Text(std::wstring_view identifier) {
     return QString::fromWCharArray(identifier.data(), static_cast<int>(identifier.size())).toStdString();
 }
 
 QString useText(const RequiredUse& use) {
-    return use.of == RequiredUse::Of::ClosedHouse ? QString::fromStdString(text(use.name))
+    return use.of == RequiredUse::Of::ClosedHouse ? QString::fromStdString(utf8Text(use.name))
                                                   : QString::number(use.code);
 }
 
@@ -71,7 +71,7 @@ std::vector<RuleName> explained(const std::vector<RuleRow>& rows) {
     std::vector<RuleName> names;
     for (const RuleRow& row : rows) {
         const firestandard::RuleWording& wording = *firestandard::findRuleWording(row.name);
-        names.push_back({row.name, row.type, text(row.elementType), text(row.referenceElementType),
+        names.push_back({row.name, row.type, utf8Text(row.elementType), utf8Text(row.referenceElementType),
                          namesOf(row.reads()), filledIn(wording.judges, row), filledIn(wording.limits, row),
                          peculiarityOf(row, wording)});
     }
@@ -95,8 +95,8 @@ std::vector<DistanceMeasure> explained(const std::vector<DistanceRow>& rows) {
     for (const DistanceRow& row : rows) {
         std::vector<std::string> references;
         for (const std::wstring_view reference : row.referenceElementTypes)
-            references.push_back(text(reference));
-        measures.push_back({text(row.elementType), std::move(references), noteOn(row.elementType)});
+            references.push_back(utf8Text(reference));
+        measures.push_back({utf8Text(row.elementType), std::move(references), noteOn(row.elementType)});
     }
     return measures;
 }

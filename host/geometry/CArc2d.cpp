@@ -1,6 +1,7 @@
 #include "geometry/CArc2d.h"
 
 #include "geometry/DistEpsilon.h"
+#include "geometry/plan/half_turn.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,6 @@
 namespace hrx {
 
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 double magnitude(const CVec2<double>& point) {
     const double largest = std::max(std::abs(point.x), std::abs(point.y));
@@ -23,7 +22,7 @@ CVec2<double> pointOnCircle(const CVec2<double>& centre, double radius, double a
 
 std::vector<Edge2d> arcInEdges(const CVec2<double>& start, const CVec2<double>& middle,
                                const CVec2<double>& end, double sweep) {
-    if (std::abs(sweep) <= kPi)
+    if (std::abs(sweep) <= plan::kHalfTurn)
         return {Edge2d{start, end, std::tan(sweep / 4.0)}};
     const double bulge = std::tan(sweep / 8.0);
     return {Edge2d{start, middle, bulge}, Edge2d{middle, end, bulge}};
@@ -47,7 +46,7 @@ CArc2d::CArc2d(const CVec2<double>& start, const CVec2<double>& end, const CVec2
 
     // The angle at the third point is inscribed: it spans the rest of the circle.
     const double inscribed = std::atan2(cross, toStart.x * toEnd.x + toStart.y * toEnd.y);
-    const double sweep = std::copysign(2.0 * kPi - 2.0 * std::abs(inscribed), -inscribed);
+    const double sweep = std::copysign(2.0 * plan::kHalfTurn - 2.0 * std::abs(inscribed), -inscribed);
     const double bulge = 1.0 / std::tan(-inscribed / 2.0);
     const CVec2<double> middle{(start.x + end.x + bulge * chord.y) / 2.0,
                                (start.y + end.y - bulge * chord.x) / 2.0};
@@ -55,12 +54,12 @@ CArc2d::CArc2d(const CVec2<double>& start, const CVec2<double>& end, const CVec2
 }
 
 CArc2d::CArc2d(const CVec2<double>& centre, double radius, double fromAngle, double toAngle) {
-    const double sweep = std::clamp(toAngle - fromAngle, -2.0 * kPi, 2.0 * kPi);
+    const double sweep = std::clamp(toAngle - fromAngle, -2.0 * plan::kHalfTurn, 2.0 * plan::kHalfTurn);
     if (!(magnitude(centre) + std::abs(radius) <= g_curveCoordinateLimit) || !std::isfinite(fromAngle) ||
         !std::isfinite(toAngle) || !(radius * std::abs(sweep) > g_DistEpsilon))
         return;
     const CVec2<double> start = pointOnCircle(centre, radius, fromAngle);
-    const bool fullCircle = std::abs(sweep) == 2.0 * kPi;
+    const bool fullCircle = std::abs(sweep) == 2.0 * plan::kHalfTurn;
     const CVec2<double> end = fullCircle ? start : pointOnCircle(centre, radius, fromAngle + sweep);
     m_edges = arcInEdges(start, pointOnCircle(centre, radius, fromAngle + sweep / 2.0), end, sweep);
 }

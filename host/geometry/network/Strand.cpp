@@ -1,6 +1,7 @@
 #include "geometry/network/Strand.h"
 
 #include "geometry/plan/edge_fractions.h"
+#include "geometry/plan/half_turn.h"
 
 #include <cmath>
 
@@ -32,13 +33,12 @@ double Strand::nearestFraction(const CVec2<double>& point) const {
 
 Strand Strand::piece(double fromFraction, double toFraction, const CVec2<double>& start,
                      const CVec2<double>& end) const {
-    constexpr double halfCircle = 3.14159265358979323846;
     Strand result{from, to, {}};
     double sweep = 0.0;
     for (const Edge2d& part : parts)
         sweep += part.isArc() ? part.sweep() : 0.0;
     sweep *= toFraction - fromFraction;
-    if (std::abs(sweep) <= halfCircle) {
+    if (std::abs(sweep) <= plan::kHalfTurn) {
         result.parts.push_back({start, end, std::tan(sweep / 4.0)});
     } else {
         const CVec2<double> middle = pointAt((fromFraction + toFraction) / 2.0);

@@ -1,5 +1,7 @@
 #include "geometry/network/face_tracing.h"
 
+#include "geometry/plan/half_turn.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -38,7 +40,7 @@ double directionAtDistance(const Edge2d& edge, double distance) {
         return chordDirection;
     const double halfSweep = edge.sweep() / 2.0;
     const double turned = std::asin(std::clamp(distance / length(chord) * std::sin(halfSweep), -1.0, 1.0));
-    return std::remainder(chordDirection - halfSweep + turned, 2.0 * 3.14159265358979323846);
+    return std::remainder(chordDirection - halfSweep + turned, 2.0 * plan::kHalfTurn);
 }
 
 /// Sorts the sides that leave a node counter-clockwise. Edges may leave a node along one tangent, so they are

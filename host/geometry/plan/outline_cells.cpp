@@ -2,6 +2,7 @@
 
 #include "geometry/plan/arc_frame.h"
 #include "geometry/plan/edge_fractions.h"
+#include "geometry/plan/half_turn.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,6 @@
 namespace hrx::plan {
 
 namespace {
-
-constexpr double kHalfTurn = 3.141592653589793;
 
 using Edges = std::vector<Edge2d>;
 

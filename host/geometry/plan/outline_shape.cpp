@@ -2,14 +2,13 @@
 
 #include "geometry/DistEpsilon.h"
 #include "geometry/finite.h"
+#include "geometry/plan/half_turn.h"
 
 #include <cmath>
 
 namespace hrx::plan {
 
 namespace {
-
-constexpr double kHalfTurn = 3.141592653589793;
 
 /// Angle from one unit direction to another, (-pi, pi]; a turn right round counts as positive.
 double turn(const CVec2<double>& from, const CVec2<double>& to) {

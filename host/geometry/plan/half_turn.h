@@ -1,0 +1,7 @@
+#pragma once
+
+namespace hrx::plan {
+
+constexpr double kHalfTurn = 3.14159265358979323846; // radians
+
+} // namespace hrx::plan
