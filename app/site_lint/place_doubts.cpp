@@ -18,7 +18,7 @@ using Point = hrx::CVec2<double>;
 /// Elements may stand this deep in each other before it is doubted: walls shared, outlines drawn by hand.
 constexpr double kOverlapTolerance = 100.0;
 /// No site reaches this far from its middle.
-constexpr double kFarthest = 5000e3;
+constexpr double kLargestSite = 5000e3;
 
 /// The footprint of an object of the site.
 struct Footprint {
@@ -61,7 +61,7 @@ public:
         const Point middle{median(&Point::x), median(&Point::y)};
         for (const auto& [index, place] : m_middles) {
             const double apart = std::hypot(place.x - middle.x, place.y - middle.y);
-            if (apart > kFarthest)
+            if (apart > kLargestSite)
                 m_doubts.push_back(
                     {DoubtedSite::pointerTo(index),
                      "remote",

@@ -23,7 +23,7 @@ namespace firestandard {
 
 namespace {
 
-using Roads = std::vector<const NUXRoadObject*>;
+using FireRoads = std::vector<const NUXRoadObject*>;
 
 constexpr double kElementBodyHeight = 1000.0; // millimetres
 constexpr double kTouchDistance = 0.001;      // millimetres; distances up to it count as touching
@@ -65,8 +65,8 @@ bool overlap(const hrx::CExtents3& extents, const hrx::CExtents3& room) {
            overlaps(extents.low.z, extents.high.z, room.low.z, room.high.z);
 }
 
-Roads collectFireRoads(const UdDbBlock& modelSpace) {
-    Roads roads;
+FireRoads collectFireRoads(const UdDbBlock& modelSpace) {
+    FireRoads roads;
     walkModelSpace(modelSpace, [&](const UdDbObject* object) {
         const auto* road = NUXRoadObject::Cast(object);
         if (road && road->getIsFireRoad())
@@ -78,7 +78,8 @@ Roads collectFireRoads(const UdDbBlock& modelSpace) {
 /// The fire roads of the site against one object.
 class HeadroomCheck {
 public:
-    HeadroomCheck(const Roads& roads, const NuxStandardCheckRule& rule) : m_roads(roads), m_outcome(rule) {}
+    HeadroomCheck(const FireRoads& roads, const NuxStandardCheckRule& rule)
+        : m_roads(roads), m_outcome(rule) {}
 
     std::vector<NuxStandardCheckRule> violationsOf(const UdDbObject* object) {
         judge(object);
@@ -196,7 +197,7 @@ private:
     /// Null is an object that did not open.
     void tellAllowed(const UdDbObject* object) const {
         CheckObserver* const observer = m_outcome.observer();
-        for (const NUXRoadObject* road : observer ? m_roads : Roads()) {
+        for (const NUXRoadObject* road : observer ? m_roads : FireRoads()) {
             if (object)
                 observer->compared({*road, object});
             else
@@ -206,7 +207,7 @@ private:
 
     void tellWithoutBody(const NUXElementObject& element) const {
         CheckObserver* const observer = m_outcome.observer();
-        for (const NUXRoadObject* road : observer ? m_roads : Roads()) {
+        for (const NUXRoadObject* road : observer ? m_roads : FireRoads()) {
             observer->pairNotJudged(*road, element, whyNoBody(&element));
             observer->notJudged(*road, NotJudged::NothingToCompare);
         }
@@ -217,7 +218,7 @@ private:
             observer->notJudged(road, why);
     }
 
-    const Roads& m_roads;
+    const FireRoads& m_roads;
     RuleOutcome m_outcome;
 };
 
@@ -225,7 +226,7 @@ private:
 
 std::vector<NuxStandardCheckRule> checkFireRoadHeadroom(const UdDbBlock& modelSpace,
                                                         const NuxStandardCheckRule& rule) {
-    const Roads roads = collectFireRoads(modelSpace);
+    const FireRoads roads = collectFireRoads(modelSpace);
     if (roads.empty())
         return {};
     // Deliberate: each object's records replace those of the one before it, as existing results are read. So
