@@ -286,7 +286,7 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
     EXPECT_EQ(text.count("accepted at 6.30 m, but worse now: a wall between"), 1);
 
     report.tellFewOfEach();
-    EXPECT_EQ(report.untold, 0u);
+    EXPECT_EQ(report.violationCount(), report.findings.size());
     AcceptFileText fresh(entries, false);
     fresh.add(report);
     const Json written = Json::parse(fresh.text())["accepted"];
@@ -369,8 +369,17 @@ TEST(Report, TellsFiveViolationsOfOneElementAndCountsTheOthers) {
     EXPECT_EQ(report.findings[1].index, 4u);
     EXPECT_EQ(report.findings[3].further, 0u);
     EXPECT_EQ(report.findings[4].further, 3u);
+    EXPECT_EQ(report.findings[4].furtherAccepted, 3u);
     EXPECT_EQ(report.violationCount(), 8u);
     EXPECT_EQ(report.acceptedCount(), 4u);
+
+    SiteReport clauses = reportOf(std::vector<std::vector<Measure>>(12, {distance(2, 1.0, 4.0, {})}));
+    for (std::size_t i = 0; i < clauses.findings.size(); ++i)
+        clauses.results[0].second[i].standard = i < 6 ? "A 1" : "A 2";
+    clauses.tellFewOfEach();
+    ASSERT_EQ(clauses.findings.size(), 10u);
+    for (const ClauseOutcome& clause : clauseTable(clauses))
+        EXPECT_EQ(clause.violations, 6u) << "further ones stay with their clause";
 }
 
 } // namespace
