@@ -276,7 +276,7 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
         accepted("Distant_PrefabHouseToWoodWorkingFactory", {404, 602}, "a wall between", 6.3),
         accepted("Without_SmookingRoom", {}, "of another site", {}, "other.json"),
         accepted("Self_RoadMinWidth", {1}, "also of another site", {}, "other.json")};
-    acceptFindings(entries, report);
+    acceptFindings(entries, {"tower-site.json"}, report);
     EXPECT_EQ(report.violationCount(), all);
     EXPECT_EQ(report.acceptedCount(), 2u);
     ASSERT_EQ(report.staleAcceptances.size(), 2u);
@@ -287,7 +287,7 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
 
     report.tellFewOfEach();
     EXPECT_EQ(report.violationCount(), report.findings.size());
-    AcceptFileText fresh(entries, false);
+    AcceptFileText fresh(entries, {"tower-site.json"});
     fresh.add(report);
     const Json written = Json::parse(fresh.text())["accepted"];
     EXPECT_EQ(written.size(), all + 4) << "also those that match nothing keep their reasons";
@@ -309,6 +309,7 @@ Measure distance(long long other, double value, std::optional<double> minimum,
 /// One record for each list of measures, all of one element.
 SiteReport reportOf(const std::vector<std::vector<Measure>>& records) {
     SiteReport report;
+    report.fileName = "a.json";
     report.results.resize(1);
     for (const std::vector<Measure>& measures : records) {
         NuxStandardCheckRule record;
@@ -345,13 +346,13 @@ TEST(AcceptFile, HoldsEachElementAgainstItsOwnValue) {
     const QTemporaryDir directory;
     const std::string fileName = directory.filePath("accepted.json").toStdString();
     for (const auto& row : cases) {
-        AcceptFileText written({}, false);
+        AcceptFileText written({}, {"a.json"});
         written.add(reportOf({row.then}));
         std::string text = written.text();
         text.replace(text.find("\"reason\": \"\""), 12, "\"reason\": \"agreed\"");
         std::ofstream(fileName) << text;
         SiteReport today = reportOf({row.now});
-        acceptFindings(loadAcceptances(fileName, {"a.json"}), today);
+        acceptFindings(loadAcceptances(fileName, {"a.json"}), {"a.json"}, today);
         EXPECT_EQ(today.findings[0].outgrown.has_value(), row.isWorse) << row.name;
         EXPECT_EQ(today.acceptedCount(), row.isWorse ? 0u : 1u) << row.name;
     }
