@@ -20,8 +20,8 @@ std::vector<std::size_t> ruleIndices(const SiteReport& report) {
 
 std::vector<MergedFinding> mergedFindings(const SiteReport& report) {
     const std::vector<std::size_t> rules = ruleIndices(report);
-    using Content = std::tuple<std::string, std::optional<std::string>, bool, std::size_t, long long,
-                               std::vector<qint64>>;
+    using Content = std::tuple<std::string, std::optional<std::string>, bool, std::size_t, std::size_t,
+                               long long, std::vector<qint64>>;
     std::map<std::pair<Content, std::size_t>, std::size_t> timesOfRule;
     std::map<std::pair<Content, std::size_t>, std::size_t> known; // by how often one rule has said it before
     std::vector<MergedFinding> merged;
@@ -29,7 +29,7 @@ std::vector<MergedFinding> mergedFindings(const SiteReport& report) {
         const Finding& finding = report.findings[i];
         const NuxStandardCheckRule& record = report.record(finding);
         const Content content(finding.sentence, finding.acceptedBecause, finding.outgrown.has_value(),
-                              finding.further, record.handle, record.relatedHandles);
+                              finding.further, finding.furtherAccepted, record.handle, record.relatedHandles);
         const std::size_t times = timesOfRule[{content, rules[i]}]++;
         const auto [place, isNew] = known.emplace(std::pair(content, times), merged.size());
         if (isNew)
@@ -37,6 +37,8 @@ std::vector<MergedFinding> mergedFindings(const SiteReport& report) {
         MergedFinding& whole = merged[place->second];
         whole.numbers.push_back(i + 1);
         whole.rules.push_back(rules[i]);
+        whole.records += finding.recordCount();
+        whole.accepted += finding.acceptedCount();
     }
     return merged;
 }

@@ -12,6 +12,8 @@ namespace firecheck {
 struct MergedFinding {
     std::vector<std::size_t> numbers;
     std::vector<std::size_t> rules; ///< of each number, its index in the counts
+    std::size_t records = 0;        ///< that the findings stand for
+    std::size_t accepted = 0;       ///< of the records
 };
 
 /// In the order of the first number of each.

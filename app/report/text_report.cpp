@@ -97,7 +97,7 @@ private:
     void writeFindings(const SiteReport& report) const {
         std::map<QString, std::size_t> sizes;
         for (const Finding& finding : report.findings)
-            ++sizes[groupOf(report, finding)];
+            sizes[groupOf(report, finding)] += finding.recordCount();
         std::optional<QString> group;
         for (const Finding& finding : report.findings) {
             const NuxStandardCheckRule& record = report.record(finding);
