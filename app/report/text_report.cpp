@@ -161,7 +161,7 @@ private:
         if (!places.empty())
             write("    " + places + "\n");
         if (finding.further > 0)
-            write("  " + furtherText(finding) + "\n");
+            write("  " + filled(furtherText(finding.further)) + "\n");
         writeSuggestion(report, finding);
     }
 

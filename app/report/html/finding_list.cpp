@@ -3,6 +3,7 @@
 #include "explain/Words.h"
 #include "explain/sentence.h"
 #include "report/clause_table.h"
+#include "report/counts.h"
 #include "report/escape.h"
 #include "report/html/finding_filters.h"
 #include "report/html/markup.h"
@@ -148,7 +149,8 @@ private:
         if (finding.outgrown)
             content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
         if (finding.further > 0)
-            content += element("p", ofClass("reason"), asSentence(furtherText(finding)));
+            content +=
+                element("p", ofClass("reason"), asSentence(furtherText(finding.further).toStdString()));
         return element("li", itemAttributes(merged, finding, handles),
                        content + suggested(merged) + places(finding, handles));
     }
