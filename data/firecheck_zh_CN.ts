@@ -3023,5 +3023,10 @@
         <source>The program has ended; this page can be closed.</source>
         <translation>程序已结束，可以关闭此页面。</translation>
     </message>
+    <message>
+        <source>one that the report only counts: %1</source>
+        <comment>violation, handles</comment>
+        <translation>报告中仅计数的一处：%1</translation>
+    </message>
 </context>
 </TS>

@@ -2,22 +2,29 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <set>
+#include <tuple>
 
 namespace firestandard {
 
+std::size_t CheckReport::violationCount() const {
+    return std::accumulate(
+        findings.begin(), findings.end(), std::size_t(0),
+        [](std::size_t sum, const Finding& finding) { return sum + finding.recordCount(); });
+}
+
 std::size_t CheckReport::acceptedCount() const {
-    return static_cast<std::size_t>(
-               std::count_if(findings.begin(), findings.end(),
-                             [](const Finding& finding) { return finding.acceptedBecause.has_value(); })) +
-           untoldAccepted;
+    return std::accumulate(
+        findings.begin(), findings.end(), std::size_t(0),
+        [](std::size_t sum, const Finding& finding) { return sum + finding.acceptedCount(); });
 }
 
 void CheckReport::tellFewOfEach() {
-    std::map<std::pair<QString, long long>, std::vector<Finding*>> groups;
+    std::map<std::tuple<QString, QString, long long>, std::vector<Finding*>> groups;
     for (Finding& finding : findings)
         if (const NuxStandardCheckRule& its = record(finding); its.handle != 0 || finding.relatedCount > 0)
-            groups[{its.name, its.handle}].push_back(&finding);
+            groups[{its.name, its.standard, its.handle}].push_back(&finding);
     std::set<const Finding*> dropped;
     for (auto& [key, group] : groups) {
         if (group.size() <= kMostTold)
@@ -25,18 +32,17 @@ void CheckReport::tellFewOfEach() {
         std::stable_partition(group.begin(), group.end(),
                               [](const Finding* finding) { return !finding->acceptedBecause; });
         const auto firstDropped = group.begin() + kMostTold;
-        (*std::max_element(group.begin(), firstDropped))->further = group.size() - kMostTold;
+        Finding& last = **std::max_element(group.begin(), firstDropped);
+        for (auto each = firstDropped; each != group.end(); ++each) {
+            last.further += (*each)->recordCount();
+            last.furtherAccepted += (*each)->acceptedCount();
+        }
         dropped.insert(firstDropped, group.end());
     }
     std::vector<Finding> told;
-    for (Finding& finding : findings) {
-        if (dropped.count(&finding) == 0) {
+    for (Finding& finding : findings)
+        if (dropped.count(&finding) == 0)
             told.push_back(std::move(finding));
-            continue;
-        }
-        ++untold;
-        untoldAccepted += finding.acceptedBecause.has_value();
-    }
     findings = std::move(told);
 }
 

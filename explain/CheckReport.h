@@ -76,15 +76,12 @@ struct CheckReport {
     std::vector<PassedOver> notJudged;
     std::vector<ElementLabel> judgedByNoRule; ///< elements that no rule compared, in the order of the drawing
 
-    std::size_t untold = 0;         ///< records whose findings tellFewOfEach took out
-    std::size_t untoldAccepted = 0; ///< those of them that are accepted
+    std::size_t violationCount() const; ///< records, those included that findings only count
+    std::size_t acceptedCount() const;  ///< of the records
 
-    std::size_t violationCount() const { return findings.size() + untold; }
-    std::size_t acceptedCount() const;
-
-    /// Of one element that breaks one rule in many records, as a gate does with every other gate of its
-    /// corner, leaves the findings of kMostTold, those that are not accepted before the others. The last
-    /// counts the rest.
+    /// Of one element that breaks one rule of one clause in many records, as a gate does with every other
+    /// gate of its corner, leaves the findings of kMostTold, those that are not accepted before the others.
+    /// The last counts the rest.
     void tellFewOfEach();
 
     const NuxStandardCheckRule& record(const Finding& finding) const {

@@ -59,11 +59,17 @@ struct Finding {
     std::size_t relatedCount = 0; ///< of all, told or not
     std::string sentence;         ///< what is wrong, as a planner would say it; UTF-8, names as given
 
-    std::size_t further = 0; ///< see CheckReport::tellFewOfEach
+    // See CheckReport::tellFewOfEach.
+    std::size_t further = 0;         ///< records without a finding that this one stands for
+    std::size_t furtherAccepted = 0; ///< those of them that are accepted
 
     // Set by whoever keeps what was accepted.
     std::optional<std::string> acceptedBecause;
     std::optional<Outgrown> outgrown;
+
+    /// How many records it stands for, itself included, and how many of them are accepted.
+    std::size_t recordCount() const { return 1 + further; }
+    std::size_t acceptedCount() const { return (acceptedBecause ? 1 : 0) + furtherAccepted; }
 };
 
 } // namespace firestandard

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <map>
@@ -129,22 +130,39 @@ QString placeOf(const QString& fileName) {
     return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
 }
 
-bool isOfSite(const Acceptance& acceptance, const std::string& fileName) {
-    const QString file = QString::fromStdString(fileName);
-    const QString site = QString::fromStdString(acceptance.site);
-    return site.isEmpty() || site == file.section('/', -1) || placeOf(site) == placeOf(file);
-}
+/// The sites that are checked.
+class GivenSites {
+public:
+    explicit GivenSites(const std::vector<std::string>& fileNames) {
+        for (const std::string& fileName : fileNames) {
+            const QString name = QString::fromStdString(fileName);
+            m_sites.push_back({placeOf(name), name.section('/', -1)});
+        }
+    }
 
-/// What tells the sites apart that an entry is about, of those given or another.
-std::vector<std::string> placesOf(const Acceptance& acceptance, const std::vector<std::string>& sites) {
-    std::vector<std::string> places;
-    for (const std::string& site : sites)
-        if (isOfSite(acceptance, site))
-            places.push_back(placeOf(QString::fromStdString(site)).toStdString());
-    if (places.empty())
-        places.push_back(placeOf(QString::fromStdString(acceptance.site)).toStdString());
-    return places;
-}
+    /// The places of those that an entry is about. A name without directories stands for each site of that
+    /// name, but where it leads to one of them by itself for this one only.
+    QStringList placesFor(const Acceptance& acceptance) const {
+        const QString site = QString::fromStdString(acceptance.site);
+        const QString place = placeOf(site);
+        QStringList places;
+        for (const Given& each : m_sites) {
+            if (!site.isEmpty() && each.place == place)
+                return {place};
+            if (site.isEmpty() || each.name == site)
+                places << each.place;
+        }
+        places.removeDuplicates();
+        return places;
+    }
+
+private:
+    struct Given {
+        QString place;
+        QString name; ///< as given, without directories
+    };
+    std::vector<Given> m_sites;
+};
 
 void takeValues(const Finding& finding, Acceptance& acceptance) {
     if (finding.measures.size() < 2 || finding.measures.front().kind != Measure::Kind::Distance) {
@@ -214,13 +232,17 @@ std::vector<Acceptance> loadAcceptances(const std::string& fileName, const std::
         if (!entries.is_array())
             refuse(list, "expected a list of accepted violations");
         std::vector<Acceptance> acceptances;
-        std::set<std::pair<std::string, Identity>> known; // by the place of the site
+        const GivenSites given(sites);
+        std::set<std::pair<QString, Identity>> known; // by the place of the site
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const JsonPlace place(list, i);
             acceptances.push_back(acceptanceAt(entries[i], place, sites.size() > 1));
             const Acceptance& entry = acceptances.back();
-            for (const std::string& site : placesOf(entry, sites))
-                if (!known.insert({site, {entry.rule, entry.handles}}).second)
+            QStringList sitePlaces = given.placesFor(entry);
+            if (sitePlaces.isEmpty())
+                sitePlaces << placeOf(QString::fromStdString(entry.site));
+            for (const QString& sitePlace : sitePlaces)
+                if (!known.insert({sitePlace, {entry.rule, entry.handles}}).second)
                     refuse(place, "expected one entry for each violation, found a second one");
         }
         return acceptances;
@@ -231,21 +253,24 @@ std::vector<Acceptance> loadAcceptances(const std::string& fileName, const std::
 
 std::vector<std::string> ofOtherSites(const std::vector<Acceptance>& acceptances,
                                       const std::vector<std::string>& sites) {
+    const GivenSites given(sites);
     std::vector<std::string> entries;
     for (const Acceptance& entry : acceptances)
-        if (std::none_of(sites.begin(), sites.end(),
-                         [&](const std::string& site) { return isOfSite(entry, site); }))
+        if (given.placesFor(entry).isEmpty())
             entries.push_back(filled(Words::tr("%1, of %2, which is not checked", "acceptance, site file"),
                                      described(entry), entry.site));
     return entries;
 }
 
-void acceptFindings(const std::vector<Acceptance>& acceptances, SiteReport& report) {
+void acceptFindings(const std::vector<Acceptance>& acceptances, const std::vector<std::string>& sites,
+                    SiteReport& report) {
+    const GivenSites given(sites);
+    const QString reported = placeOf(QString::fromStdString(report.fileName));
     std::map<Identity, std::vector<Finding*>> findings;
     for (Finding& finding : report.findings)
         findings[identityOf(report.record(finding))].push_back(&finding);
     for (const Acceptance& acceptance : acceptances) {
-        if (!isOfSite(acceptance, report.fileName))
+        if (!given.placesFor(acceptance).contains(reported))
             continue;
         const auto matching = findings.find({acceptance.rule, acceptance.handles});
         if (matching == findings.end()) {
@@ -257,19 +282,21 @@ void acceptFindings(const std::vector<Acceptance>& acceptances, SiteReport& repo
     }
 }
 
-AcceptFileText::AcceptFileText(std::vector<Acceptance> acceptances, bool tellSites)
-    : m_entries(std::move(acceptances)), m_tellSites(tellSites) {}
+AcceptFileText::AcceptFileText(std::vector<Acceptance> acceptances, std::vector<std::string> sites)
+    : m_entries(std::move(acceptances)), m_sites(std::move(sites)) {}
 
 void AcceptFileText::add(const SiteReport& report) {
+    const GivenSites given(m_sites);
+    const QString reported = placeOf(QString::fromStdString(report.fileName));
     std::set<Identity> known;
     for (const Acceptance& entry : m_entries)
-        if (isOfSite(entry, report.fileName))
+        if (given.placesFor(entry).contains(reported))
             known.insert({entry.rule, entry.handles});
     for (const Finding& finding : report.findings) {
         const Identity identity = identityOf(report.record(finding));
         if (!known.insert(identity).second)
             continue;
-        m_entries.push_back({m_tellSites ? report.fileName : std::string(), identity.first, identity.second,
+        m_entries.push_back({tellsSites() ? report.fileName : std::string(), identity.first, identity.second,
                              std::string(), std::nullopt});
         takeValues(finding, m_entries.back());
     }
@@ -278,7 +305,7 @@ void AcceptFileText::add(const SiteReport& report) {
 std::string AcceptFileText::text() const {
     Json entries = Json::array();
     for (const Acceptance& entry : m_entries)
-        entries.push_back(entryJson(entry, m_tellSites));
+        entries.push_back(entryJson(entry, tellsSites()));
     return Json{{kAccepted, std::move(entries)}}.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

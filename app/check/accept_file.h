@@ -12,7 +12,8 @@ namespace firecheck {
 /// A violation that somebody answers for: known by its rule and the elements concerned, so that it stays
 /// accepted while things are moved about, as long as it does not get worse.
 struct Acceptance {
-    std::string site; ///< its file, with or without directories; empty for the one site that is checked
+    std::string site; ///< its file; empty for the one site that is checked. Without directories it stands for
+                      ///< each of the sites of that name, unless it is the path of one of them
     std::string rule;
     std::vector<long long> handles; ///< ascending; none for a violation of the site as a whole
     std::string reason;
@@ -31,22 +32,26 @@ std::vector<std::string> ofOtherSites(const std::vector<Acceptance>& acceptances
                                       const std::vector<std::string>& sites);
 
 /// Marks the findings that are accepted, and those that have got worse since. Lists the acceptances of this
-/// site that no finding matches as stale.
-void acceptFindings(const std::vector<Acceptance>& acceptances, SiteReport& report);
+/// site that no finding matches as stale. It is one of the sites that are checked.
+void acceptFindings(const std::vector<Acceptance>& acceptances, const std::vector<std::string>& sites,
+                    SiteReport& report);
 
 /// What a new file of accepted violations says: the entries of the old one as they are, so that no reason is
 /// lost, and after them one without a reason for each further violation of the sites checked. Until somebody
 /// has given the reasons the file cannot be read.
 class AcceptFileText {
 public:
-    AcceptFileText(std::vector<Acceptance> acceptances, bool tellSites);
+    /// The sites are all that are checked; entries name theirs where there are several.
+    AcceptFileText(std::vector<Acceptance> acceptances, std::vector<std::string> sites);
 
     void add(const SiteReport& report);
     std::string text() const;
 
 private:
+    bool tellsSites() const { return m_sites.size() > 1; }
+
     std::vector<Acceptance> m_entries;
-    bool m_tellSites;
+    std::vector<std::string> m_sites;
 };
 
 } // namespace firecheck

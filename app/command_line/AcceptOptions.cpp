@@ -13,19 +13,20 @@ std::vector<std::string> sitesOf(const Options& options) {
     return sites;
 }
 
-std::vector<Acceptance> given(const Options& options) {
+std::vector<Acceptance> given(const Options& options, const std::vector<std::string>& sites) {
     const auto source = options.value("accept");
-    return source ? loadAcceptances(source->toStdString(), sitesOf(options)) : std::vector<Acceptance>();
+    return source ? loadAcceptances(source->toStdString(), sites) : std::vector<Acceptance>();
 }
 
 } // namespace
 
 AcceptOptions::AcceptOptions(const Options& options)
-    : m_acceptances(given(options)), m_ofOtherSites(ofOtherSites(m_acceptances, sitesOf(options))),
-      m_new(m_acceptances, options.arguments().size() > 1), m_target(options.value("write-accept")) {}
+    : m_sites(sitesOf(options)), m_acceptances(given(options, m_sites)),
+      m_ofOtherSites(ofOtherSites(m_acceptances, m_sites)), m_new(m_acceptances, m_sites),
+      m_target(options.value("write-accept")) {}
 
 void AcceptOptions::applyTo(SiteReport& report) {
-    acceptFindings(m_acceptances, report);
+    acceptFindings(m_acceptances, m_sites, report);
     for (std::string& entry : m_ofOtherSites)
         report.staleAcceptances.push_back(std::move(entry));
     m_ofOtherSites.clear();

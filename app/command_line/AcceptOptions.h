@@ -23,6 +23,7 @@ public:
     void write() const;
 
 private:
+    std::vector<std::string> m_sites;
     std::vector<Acceptance> m_acceptances;
     std::vector<std::string> m_ofOtherSites; ///< until some report has told them
     AcceptFileText m_new;

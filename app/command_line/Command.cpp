@@ -80,7 +80,9 @@ const std::vector<Command>& commands() {
         {"compare",
          "OLD.json NEW.json",
          {format("text|json"), kOutput, kLanguage},
-         "Tells what changed between two JSON reports: violations that are new, worse, better or gone.",
+         "Tells what changed between two JSON reports: violations that are new, worse, better or gone. Where an "
+         "element breaks one rule more than five times, it does not count which other elements these violations "
+         "name; of those that a report of --no-results only counts, more are worse and fewer are better.",
          "The exit status is 1 when anything that is not accepted is new or worse, or is no longer reported because "
          "its rule was not run or its element not judged.",
          compareCommand},

@@ -20,13 +20,16 @@ struct LostFinding {
 };
 
 /// How the violations of one site changed from one check to another. Violations are told apart by rule,
-/// element and related elements, elements by their handles.
+/// element and related elements, elements by their handles. Of an element that breaks one rule in more
+/// records than findings tell, a violation that names another element than before is no worse for it. Where
+/// a report only counts some of these, those that the other report does not tell are not judged one by one:
+/// there are more of them, which is worse, fewer, which is better, or as many.
 struct SiteComparison {
     std::string file; ///< of the later report; of the earlier one for a site that is no longer there
     std::string name;
     std::vector<SavedFinding> appeared;
     std::vector<ChangedFinding>
-        worse; ///< further from the limit, or with elements that were not related before
+        worse; ///< further from the limit, with elements that were not related before, or counting more
     std::vector<ChangedFinding> better;
     std::vector<SavedFinding> gone;
     std::vector<LostFinding> lost; ///< the rule was not run, or the element not judged

@@ -64,8 +64,8 @@ std::vector<ClauseOutcome> clauseTable(const SiteReport& report) {
     for (const Finding& finding : report.findings) {
         const NuxStandardCheckRule& record = report.record(finding);
         ClauseOutcome& clause = rows.of(record.standard);
-        ++clause.violations;
-        clause.accepted += finding.acceptedBecause ? 1 : 0;
+        clause.violations += finding.recordCount();
+        clause.accepted += finding.acceptedCount();
         if (record.handle != 0 && offenders.emplace(record.standard, record.handle).second)
             ++clause.offending;
     }

@@ -10,6 +10,12 @@ QString violationsText(std::size_t count) {
     return count == 1 ? Words::tr("1 violation") : Words::tr("%n violations", "", static_cast<int>(count));
 }
 
+QString furtherText(std::size_t count) {
+    return count == 1 ? Words::tr("1 more violation of the same rule by the same element")
+                      : Words::tr("%n more violations of the same rule by the same element", "",
+                                  static_cast<int>(count));
+}
+
 QString rulesText(std::size_t count) {
     return count == 1 ? Words::tr("1 rule") : Words::tr("%n rules", "", static_cast<int>(count));
 }

@@ -1,4 +1,5 @@
 #include "report/ReportWriter.h"
+#include "report/counts.h"
 #include "report/missing_share.h"
 #include "report/unjudged_text.h"
 #include "text/printable.h"
@@ -123,7 +124,7 @@ private:
             head[kSentence].clear();
         }
         if (finding.further > 0)
-            writeUnnumbered(report, record.name, furtherText(finding), record.handle);
+            writeUnnumbered(report, record.name, filled(furtherText(finding.further)), record.handle);
     }
 
     /// Without a number: it is no violation, but the element's silence says nothing.

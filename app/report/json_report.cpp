@@ -107,6 +107,8 @@ Json findingJson(const SiteReport& report, const Finding& finding) {
                                             : Json()}};
     if (finding.further > 0)
         json["further"] = finding.further;
+    if (finding.furtherAccepted > 0)
+        json["furtherAccepted"] = finding.furtherAccepted;
     return json;
 }
 

@@ -20,21 +20,25 @@ std::vector<std::size_t> ruleIndices(const SiteReport& report) {
 
 std::vector<MergedFinding> mergedFindings(const SiteReport& report) {
     const std::vector<std::size_t> rules = ruleIndices(report);
-    using Content = std::tuple<std::string, std::optional<std::string>, bool, std::size_t, long long,
-                               std::vector<qint64>>;
-    std::map<Content, std::size_t> known;
+    using Content = std::tuple<std::string, std::optional<std::string>, bool, std::size_t, std::size_t,
+                               long long, std::vector<qint64>>;
+    std::map<std::pair<Content, std::size_t>, std::size_t> timesOfRule;
+    std::map<std::pair<Content, std::size_t>, std::size_t> known; // by how often one rule has said it before
     std::vector<MergedFinding> merged;
     for (std::size_t i = 0; i < report.findings.size(); ++i) {
         const Finding& finding = report.findings[i];
         const NuxStandardCheckRule& record = report.record(finding);
         const Content content(finding.sentence, finding.acceptedBecause, finding.outgrown.has_value(),
-                              finding.further, record.handle, record.relatedHandles);
-        const auto [place, isNew] = known.emplace(content, merged.size());
+                              finding.further, finding.furtherAccepted, record.handle, record.relatedHandles);
+        const std::size_t times = timesOfRule[{content, rules[i]}]++;
+        const auto [place, isNew] = known.emplace(std::pair(content, times), merged.size());
         if (isNew)
             merged.emplace_back();
         MergedFinding& whole = merged[place->second];
         whole.numbers.push_back(i + 1);
         whole.rules.push_back(rules[i]);
+        whole.records += finding.recordCount();
+        whole.accepted += finding.acceptedCount();
     }
     return merged;
 }

@@ -97,7 +97,7 @@ private:
     void writeFindings(const SiteReport& report) const {
         std::map<QString, std::size_t> sizes;
         for (const Finding& finding : report.findings)
-            ++sizes[groupOf(report, finding)];
+            sizes[groupOf(report, finding)] += finding.recordCount();
         std::optional<QString> group;
         for (const Finding& finding : report.findings) {
             const NuxStandardCheckRule& record = report.record(finding);
@@ -161,7 +161,7 @@ private:
         if (!places.empty())
             write("    " + places + "\n");
         if (finding.further > 0)
-            write("  " + furtherText(finding) + "\n");
+            write("  " + filled(furtherText(finding.further)) + "\n");
         writeSuggestion(report, finding);
     }
 

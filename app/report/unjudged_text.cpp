@@ -21,13 +21,6 @@ std::string unjudgedByText(const firestandard::UnjudgedElement& element) {
                   first);
 }
 
-std::string furtherText(const Finding& finding) {
-    const auto count = static_cast<int>(finding.further);
-    return filled(count == 1
-                      ? Words::tr("1 more violation of the same rule by the same element")
-                      : Words::tr("%n more violations of the same rule by the same element", "", count));
-}
-
 std::string outgrownText(const Finding& finding) {
     Measure accepted = finding.measures.front();
     accepted.value = finding.outgrown->value;

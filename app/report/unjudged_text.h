@@ -13,7 +13,4 @@ std::string unjudgedByText(const firestandard::UnjudgedElement& element);
 /// That a violation counts again: "accepted at 3.50 m, but worse now: one group of houses".
 std::string outgrownText(const Finding& finding);
 
-/// "994 more violations of the same rule by the same element".
-std::string furtherText(const Finding& finding);
-
 } // namespace firecheck

@@ -313,6 +313,37 @@ TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
         << twice.messages;
 }
 
+TEST_F(CommandLine, AcceptsForASiteByItsPathBeforeItsName) {
+    const std::string check = "firecheck check --rules rules.xml --quiet ";
+    ASSERT_EQ(run("mkdir b c; cp narrow.json b; cp narrow.json c").status, 0);
+    const struct {
+        const char* site; ///< of the only entry
+        const char* sites;
+        int status;
+    } cases[] = {
+        {"narrow.json", "narrow.json fine.json", 0},
+        {"narrow.json", "narrow.json b/narrow.json", 1},
+        {"./narrow.json", "b/narrow.json narrow.json", 1},
+        {"narrow.json", "b/narrow.json c/narrow.json", 0},
+        {"b/narrow.json", "b/narrow.json c/narrow.json", 1},
+        {"b/narrow.json", "b/narrow.json ./b/narrow.json", 0},
+        {"c/narrow.json", "b/narrow.json", 1},
+    };
+    for (const auto& row : cases) {
+        write("entry.json", R"({"accepted": [{"rule": "Self_RoadMinWidth", "handles": ["3"], "reason": "r",
+                                              "site": ")" +
+                                std::string(row.site) + "\"}]}");
+        EXPECT_EQ(run(check + row.sites + " --accept entry.json").status, row.status)
+            << row.site << " of " << row.sites;
+    }
+    const std::string both = check + "narrow.json b/narrow.json ";
+    EXPECT_EQ(run(both +
+                  "--write-accept own.json; sed -i 's/\"reason\": \"\"/\"reason\": \"r\"/' own.json; " +
+                  both + "--accept own.json")
+                  .status,
+              0);
+}
+
 TEST_F(CommandLine, ReadsAndWritesStandardStreamsForADash) {
     EXPECT_EQ(run("firecheck check narrow.json --rules - --output - < rules.xml").output, kNarrowReport);
     EXPECT_EQ(run("firecheck lint-rules - < wrong.xml").output.substr(0, 6), "-:2:3:");

@@ -1,7 +1,9 @@
 #!/usr/bin/python3
 """What firecheck compare says of two checks of a site that has changed in between."""
 
+import collections
 import json
+import math
 import pathlib
 import subprocess
 import sys
@@ -14,6 +16,7 @@ RULES = """<R><G>
 <Distant_FutureHouseToWoodYard Type="distant" ElementType="NUX_ELEMENT_TYPE_FUTUREHOUSE"
   ReferenceElementType="NUX_EDO_TYPE_WOODYARD" ConstraintCondition="less" DistantValue="7"/>
 <Self_RoadMinWidth Type="self" ElementType="NUX_EDO_TYPE_ROAD"/>
+<Position_DoorToDoor Type="position" ElementType="NUX_EDO_TYPE_DOOR" ReferenceElementType="NUX_EDO_TYPE_DOOR"/>
 </G></R>"""
 
 
@@ -27,6 +30,19 @@ def site(*further, house=0, length=6000, width=3000):
             yard(2, 8000),
             {"class": "road", "handle": 3, "fireRoad": True, "start": [0, 90000], "end": [50000, 90000], "width": width},
             *further]
+
+
+def star(count, without=()):
+    """Site walls from one corner, a gate in each, but for those of some gates."""
+    objects = []
+    for i in range(count):
+        if 100 + i in without:
+            continue
+        x, y = 20000 * math.cos(2.4 * i), 20000 * math.sin(2.4 * i)
+        objects += [{"class": "wall", "handle": 1000 + i, "start": [0, 0], "end": [x, y],
+                     "doors": [{"distance": 10000, "door": 100 + i, "width": 900}]},
+                    {"class": "door", "handle": 100 + i, "position": [x / 2, y / 2], "angle": 0, "leafWidth": 900}]
+    return objects
 
 
 class Compare(unittest.TestCase):
@@ -91,6 +107,49 @@ class Compare(unittest.TestCase):
             {"rule": "Self_RoadMinWidth", "handles": ["3"], "reason": "short"}]}))
         after = self.report("after.json", {"a.json": site(house=-9000)}, "--accept", "accepted.json")
         self.assertEqual(self.compare(before, after), ([{"new": 1}], 0))
+
+        self.report("all.json", {"a.json": star(24)}, "--write-accept", "empty.json")
+        entries = json.loads(pathlib.Path(self.path("empty.json")).read_text())["accepted"]
+        agreed = [{**entry, "reason": "agreed"} for entry in entries if entry["handles"] != ["100", "107"]]
+        self.assertEqual(len(agreed), len(entries) - 1)  # one of the many by gate 107 is open before and after
+        self.write("gates.json", json.dumps({"accepted": agreed}))
+        for options in ((), ("--no-results",)):
+            accept = ("--accept", "gates.json", *options)
+            before = self.report("before.json", {"a.json": star(24, without=[103])}, *accept)
+            after = self.report("after.json", {"a.json": star(24)}, *accept)
+            self.assertEqual(self.compare(before, after)[1], 0)
+            after = self.report("after.json", {"a.json": star(24)}, *options)
+            self.assertEqual(self.compare(before, after)[1], 1)
+
+    def test_elements_with_more_violations_than_are_told(self):
+        reports = {}
+        for name, gates in [("all", star(24)), ("mended", star(24, without=[103]))]:
+            reports[name] = self.report(f"{name}.json", {"plot.json": gates})
+            reports[f"{name} counted"] = self.report(f"{name}-counted.json", {"plot.json": gates}, "--no-results")
+        sites = {name: json.loads(pathlib.Path(self.path(file)).read_text())["sites"][0] for name, file in reports.items()}
+        violations = {name: one["violations"] for name, one in sites.items()}
+        by_gate = {name: collections.Counter() for name in sites}
+        for name, one in sites.items():
+            for finding in one["findings"]:
+                by_gate[name][finding["handle"]] += 1 + finding.get("further", 0)
+        fewer = sum(0 < now < by_gate["all"][gate] for gate, now in by_gate["mended"].items())
+        removed = violations["all"] - violations["mended"]
+        of_gate = by_gate["all"]["103"]
+        self.assertGreater(of_gate, 5)
+        table = [
+            ("all", "mended", {"gone": removed, "unchanged": violations["mended"]}, 0),
+            ("mended", "all", {"new": removed, "unchanged": violations["mended"]}, 1),
+            ("all", "all counted", {"unchanged": violations["all"]}, 0),
+            ("all counted", "mended counted", {"better": fewer, "gone": 5, "unchanged": violations["mended"]}, 0),
+            ("mended counted", "all counted", {"worse": fewer, "new": 5, "unchanged": violations["mended"]}, 1),
+            ("all counted", "mended", {"better": fewer, "gone": 5, "unchanged": violations["mended"]}, 0),
+        ]
+        for before, after, expected, status in table:
+            with self.subTest(f"{before}, {after}"):
+                self.assertEqual(self.compare(reports[before], reports[after]), ([expected], status))
+        text = self.run_firecheck("compare", reports["all counted"], reports["mended counted"]).stdout
+        self.assertIn(f" {of_gate} gone", text)
+        self.assertIn(f"\n    {of_gate - 5} more violations", text)
 
     def test_wrong_input(self):
         report = self.report("report.json", {"a.json": site()})

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
 
 using namespace firecheck;
@@ -87,7 +88,8 @@ Counts countsOfCsv(const QString& csv) {
     return counts;
 }
 
-/// From head lines "Rule (n): ...", and in all as many sentences, which are indented by two blanks.
+/// From head lines "Rule (n): ...", and in all as many sentences, which are indented by two blanks, or
+/// counted.
 Counts countsOfText(const QString& text) {
     Counts counts;
     int all = 0;
@@ -98,7 +100,14 @@ Counts countsOfText(const QString& text) {
         const auto group = match.next();
         all += counts[group.captured(1)] = group.captured(2).toInt();
     }
-    EXPECT_EQ(findings.count(QRegularExpression("^  \\S", QRegularExpression::MultilineOption)), all);
+    int told = 0;
+    const QRegularExpression line("^  (?:(\\d+) more violations? of the same rule|\\S)",
+                                  QRegularExpression::MultilineOption);
+    for (auto match = line.globalMatch(findings); match.hasNext();) {
+        const QString further = match.next().captured(1);
+        told += further.isEmpty() ? 1 : further.toInt();
+    }
+    EXPECT_EQ(told, all);
     return counts;
 }
 
@@ -106,12 +115,16 @@ Counts countsOfText(const QString& text) {
 Counts countsOfHtml(const QString& html) {
     Counts counts;
     for (const QString& group : html.split("<section class=\"rule\"").mid(1)) {
-        const int findings = group.count("<li class=\"finding");
-        for (const QString& head : group.split("<h2>").mid(1)) {
+        int records = 0;
+        for (const QString& item : group.split("<li class=\"finding").mid(1))
+            records += item.section("data-records=\"", 1).section('"', 0, 0).toInt();
+        const QStringList heads = group.split("<h2>").mid(1);
+        for (const QString& head : heads) {
             const QString name =
                 head.section("<p class=\"source\">", 1).section(QRegularExpression("\\W"), 0, 0);
-            EXPECT_EQ(head.section("<span class=\"count\">", 1).section('<', 0, 0).toInt(), findings);
-            counts[name] += findings;
+            const int count = head.section("<span class=\"count\">", 1).section('<', 0, 0).toInt();
+            EXPECT_EQ(count * heads.size(), records);
+            counts[name] += count;
         }
     }
     return counts;
@@ -135,7 +148,6 @@ protected:
         EXPECT_EQ(judgedViolations, site["violations"]);
     }
 
-private:
     SchemaJudge m_schema{sourceText("data/report.schema.json")};
 };
 
@@ -159,6 +171,75 @@ TEST_F(Renderers, AgreeOnEveryCase) {
             expectAgreement(check(readSite(single.site), name));
         }
     }
+}
+
+/// Site walls from one corner with a gate in each: every gate breaks one rule with several others.
+Site starOfWalls(int count) {
+    Json objects = Json::array();
+    for (int i = 0; i < count; ++i) {
+        const double x = 20000 * std::cos(2.4 * i);
+        const double y = 20000 * std::sin(2.4 * i);
+        objects.push_back({{"class", "wall"},
+                           {"handle", 1000 + i},
+                           {"start", {0, 0}},
+                           {"end", {x, y}},
+                           {"doors", {{{"distance", 10000}, {"door", 100 + i}, {"width", 900}}}}});
+        objects.push_back({{"class", "door"},
+                           {"handle", 100 + i},
+                           {"position", {x / 2, y / 2}},
+                           {"angle", 0},
+                           {"leafWidth", 900}});
+    }
+    return readSite(Json{{"objects", objects}});
+}
+
+int sumOf(const Json& list, const char* key) {
+    int sum = 0;
+    for (const Json& item : list)
+        sum += item.value(key, 0);
+    return sum;
+}
+
+TEST_F(Renderers, CountRecordsThatFindingsStandFor) {
+    SiteReport report = check(starOfWalls(12), "star");
+    const std::size_t all = report.findings.size();
+    for (std::size_t i = 0; i < all; i += 2)
+        report.findings[i].acceptedBecause = "agreed";
+    const std::size_t accepted = report.acceptedCount();
+    report.tellFewOfEach();
+    ASSERT_LT(report.findings.size(), all);
+    EXPECT_EQ(report.violationCount(), all);
+    EXPECT_EQ(report.acceptedCount(), accepted);
+
+    const std::string json = rendered(report, jsonReportWriter).toStdString();
+    EXPECT_TRUE(m_schema.accepts(json));
+    const Json site = Json::parse(json)["sites"][0];
+    const Counts counts = countsOfJson(site);
+    EXPECT_EQ(countsOfText(rendered(report, plainTextWriter)), counts);
+    const QString html = rendered(report, htmlReportWriter);
+    EXPECT_EQ(countsOfHtml(html), counts);
+    EXPECT_EQ(html.count("<span class=\"count\">"), int(counts.size())) << "each heading stands once";
+
+    EXPECT_EQ(site["violations"], all);
+    EXPECT_EQ(sumOf(site["countsByRule"], "violations"), int(all));
+    EXPECT_EQ(sumOf(site["clauses"], "violations"), int(all));
+    EXPECT_EQ(site["findings"].size() + std::size_t(sumOf(site["findings"], "further")), all);
+    int acceptedFindings = sumOf(site["findings"], "furtherAccepted");
+    for (const Json& finding : site["findings"])
+        acceptedFindings += finding["accepted"].is_null() ? 0 : 1;
+    EXPECT_EQ(acceptedFindings, int(accepted));
+    EXPECT_EQ(sumOf(site["clauses"], "accepted"), int(accepted));
+    int acceptedOfPage = 0;
+    for (const QString& item : html.split("data-accepted=\"").mid(1))
+        acceptedOfPage += item.section('"', 0, 0).toInt();
+    EXPECT_EQ(acceptedOfPage, int(accepted));
+
+    orderFindings(report, FindingOrder::Clause);
+    const QRegularExpression head("^\\S.* \\((\\d+)\\)$", QRegularExpression::MultilineOption);
+    int underClauses = 0;
+    for (auto match = head.globalMatch(rendered(report, plainTextWriter)); match.hasNext();)
+        underClauses += match.next().captured(1).toInt();
+    EXPECT_EQ(underClauses, int(all));
 }
 
 TEST_F(Renderers, ListTheSameInAnyOrder) {
@@ -276,7 +357,7 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
         accepted("Distant_PrefabHouseToWoodWorkingFactory", {404, 602}, "a wall between", 6.3),
         accepted("Without_SmookingRoom", {}, "of another site", {}, "other.json"),
         accepted("Self_RoadMinWidth", {1}, "also of another site", {}, "other.json")};
-    acceptFindings(entries, report);
+    acceptFindings(entries, {"tower-site.json"}, report);
     EXPECT_EQ(report.violationCount(), all);
     EXPECT_EQ(report.acceptedCount(), 2u);
     ASSERT_EQ(report.staleAcceptances.size(), 2u);
@@ -286,8 +367,8 @@ TEST(AcceptFile, TakesOutWhatItNamesAndTellsWhatIsStaleOrWorse) {
     EXPECT_EQ(text.count("accepted at 6.30 m, but worse now: a wall between"), 1);
 
     report.tellFewOfEach();
-    EXPECT_EQ(report.untold, 0u);
-    AcceptFileText fresh(entries, false);
+    EXPECT_EQ(report.violationCount(), report.findings.size());
+    AcceptFileText fresh(entries, {"tower-site.json"});
     fresh.add(report);
     const Json written = Json::parse(fresh.text())["accepted"];
     EXPECT_EQ(written.size(), all + 4) << "also those that match nothing keep their reasons";
@@ -309,6 +390,7 @@ Measure distance(long long other, double value, std::optional<double> minimum,
 /// One record for each list of measures, all of one element.
 SiteReport reportOf(const std::vector<std::vector<Measure>>& records) {
     SiteReport report;
+    report.fileName = "a.json";
     report.results.resize(1);
     for (const std::vector<Measure>& measures : records) {
         NuxStandardCheckRule record;
@@ -345,13 +427,13 @@ TEST(AcceptFile, HoldsEachElementAgainstItsOwnValue) {
     const QTemporaryDir directory;
     const std::string fileName = directory.filePath("accepted.json").toStdString();
     for (const auto& row : cases) {
-        AcceptFileText written({}, false);
+        AcceptFileText written({}, {"a.json"});
         written.add(reportOf({row.then}));
         std::string text = written.text();
         text.replace(text.find("\"reason\": \"\""), 12, "\"reason\": \"agreed\"");
         std::ofstream(fileName) << text;
         SiteReport today = reportOf({row.now});
-        acceptFindings(loadAcceptances(fileName, {"a.json"}), today);
+        acceptFindings(loadAcceptances(fileName, {"a.json"}), {"a.json"}, today);
         EXPECT_EQ(today.findings[0].outgrown.has_value(), row.isWorse) << row.name;
         EXPECT_EQ(today.acceptedCount(), row.isWorse ? 0u : 1u) << row.name;
     }
@@ -369,8 +451,17 @@ TEST(Report, TellsFiveViolationsOfOneElementAndCountsTheOthers) {
     EXPECT_EQ(report.findings[1].index, 4u);
     EXPECT_EQ(report.findings[3].further, 0u);
     EXPECT_EQ(report.findings[4].further, 3u);
+    EXPECT_EQ(report.findings[4].furtherAccepted, 3u);
     EXPECT_EQ(report.violationCount(), 8u);
     EXPECT_EQ(report.acceptedCount(), 4u);
+
+    SiteReport clauses = reportOf(std::vector<std::vector<Measure>>(12, {distance(2, 1.0, 4.0, {})}));
+    for (std::size_t i = 0; i < clauses.findings.size(); ++i)
+        clauses.results[0].second[i].standard = i < 6 ? "A 1" : "A 2";
+    clauses.tellFewOfEach();
+    ASSERT_EQ(clauses.findings.size(), 10u);
+    for (const ClauseOutcome& clause : clauseTable(clauses))
+        EXPECT_EQ(clause.violations, 6u) << "further ones stay with their clause";
 }
 
 } // namespace

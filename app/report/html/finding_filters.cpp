@@ -49,7 +49,7 @@ QString elementOptions(const SiteReport& report, const std::vector<MergedFinding
     std::map<long long, std::size_t> violations;
     for (const MergedFinding& finding : merged)
         for (const long long handle : concernedElements(report, report.findings[finding.numbers.front() - 1]))
-            violations[handle] += finding.numbers.size();
+            violations[handle] += finding.records;
     QString options = option({}, Words::tr("All elements"));
     for (const auto& [handle, count] : violations)
         options += option(QString::number(handle),

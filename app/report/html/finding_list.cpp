@@ -3,6 +3,7 @@
 #include "explain/Words.h"
 #include "explain/sentence.h"
 #include "report/clause_table.h"
+#include "report/counts.h"
 #include "report/escape.h"
 #include "report/html/finding_filters.h"
 #include "report/html/markup.h"
@@ -93,7 +94,7 @@ private:
         if (m_report.order == FindingOrder::Clause)
             heads = element("h2", {}, escaped(clausesOf(first).join("; ")));
         for (std::size_t i = 0; isByRule() && i < first.rules.size(); ++i)
-            heads += ruleHead(first.rules[i], m_report.findings[first.numbers[i] - 1], members.size(),
+            heads += ruleHead(first.rules[i], m_report.findings[first.numbers[i] - 1], recordsOf(members, i),
                               first.rules.size() == 1);
         QString items;
         for (const std::size_t i : members)
@@ -101,6 +102,14 @@ private:
         return element("section", ofClass("rule"),
                        "\n" + element("div", ofClass("heads"), "\n" + heads) +
                            element("ol", ofClass("findings"), "\n" + items));
+    }
+
+    /// Under the rule that stands at a place among those of each member.
+    std::size_t recordsOf(const std::vector<std::size_t>& members, std::size_t rule) const {
+        std::size_t records = 0;
+        for (const std::size_t i : members)
+            records += m_report.findings[m_merged[i].numbers[rule] - 1].recordCount();
+        return records;
     }
 
     QString ruleHead(std::size_t rule, const Finding& finding, std::size_t count, bool hasDetail) const {
@@ -140,7 +149,8 @@ private:
         if (finding.outgrown)
             content += element("p", ofClass("reason"), asSentence(outgrownText(finding)));
         if (finding.further > 0)
-            content += element("p", ofClass("reason"), asSentence(furtherText(finding)));
+            content +=
+                element("p", ofClass("reason"), asSentence(furtherText(finding.further).toStdString()));
         return element("li", itemAttributes(merged, finding, handles),
                        content + suggested(merged) + places(finding, handles));
     }
@@ -160,11 +170,12 @@ private:
         for (const long long handle : handles)
             all << QString::number(handle);
         const QString number = QString::number(merged.numbers.front());
-        QString attributes = ofClass(finding.acceptedBecause ? "finding accepted" : "finding") + " id=\"" +
-                             m_ids.finding(merged.numbers.front()) + "\" data-number=\"" + number +
-                             "\" data-rules=\"" + asTexts(merged.rules).join(' ') + "\" data-handle=\"" +
-                             QString::number(m_report.record(finding).handle) + "\" data-elements=\"" +
-                             all.join(' ') + "\"";
+        QString attributes =
+            ofClass(finding.acceptedBecause ? "finding accepted" : "finding") + " id=\"" +
+            m_ids.finding(merged.numbers.front()) + "\" data-number=\"" + number + "\" data-rules=\"" +
+            asTexts(merged.rules).join(' ') + "\" data-records=\"" + QString::number(merged.records) +
+            "\" data-accepted=\"" + QString::number(merged.accepted) + "\" data-handle=\"" +
+            QString::number(m_report.record(finding).handle) + "\" data-elements=\"" + all.join(' ') + "\"";
         if (finding.measureCount > 1 && finding.relatedCount >= firestandard::kMostTold)
             attributes += " data-focus=\"" + all.mid(0, 2).join(' ') + "\""; // not the whole long group
         if (const auto share = missingShare(finding))

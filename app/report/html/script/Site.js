@@ -143,10 +143,11 @@ class Site {
     for (const group of this.section.querySelectorAll(".rule")) {
       group.hidden = group.querySelector(".finding:not([hidden])") === null;
     }
-    const records = (findings) => findings.reduce((sum, finding) => sum + finding.dataset.rules.split(" ").length, 0);
+    const sum = (findings, name) => findings.reduce((all, finding) => all + Number(finding.dataset[name]), 0);
     const shown = this.shown();
+    const shownRecords = sum(shown, "records") - (open?.checked ? sum(shown, "accepted") : 0);
     this.form.querySelector("output").textContent = this.form.dataset.shown
-      .replace("%1", records(shown)).replace("%2", records(this.findings));
+      .replace("%1", shownRecords).replace("%2", sum(this.findings, "records"));
     this.mute(shown);
   }
 
