@@ -96,8 +96,14 @@ const BlockShapes::Measured& BlockShapes::measured(const std::string& key, const
     return m_measured.emplace(key, std::move(result)).first->second;
 }
 
+bool BlockShapes::counts(const DxfEntity& entity) {
+    const bool isOfBlock = entity.layer == kBlockLayer;
+    return !entity.isInvisible && !entity.isInPaperSpace && entity.facing != DxfFacing::Tilted &&
+           (isOfBlock || !m_layers.isHidden(entity.layer)) && !m_isIgnored(entity);
+}
+
 void BlockShapes::addEntity(const DxfEntity& entity, Measured& measured, int depth) {
-    if (entity.isInvisible || entity.facing == DxfFacing::Tilted)
+    if (!counts(entity))
         return;
     if (const auto* insert = std::get_if<DxfInsert>(&entity.shape)) {
         addInsert(entity, *insert, measured, depth);

@@ -1,6 +1,7 @@
 #include "drawing/DrawingWalk.h"
 
 #include "drawing/DrawnShape.h"
+#include "drawing/LayerStates.h"
 #include "drawing/block_nesting.h"
 #include "drawing/dxf/refuse_drawing.h"
 #include "text/words.h"
@@ -10,12 +11,11 @@ namespace firecheck {
 namespace {
 
 constexpr std::size_t kMostVisits = 3000000;
-const std::string kBlockLayer = "0";
 
 class Walk {
 public:
     Walk(const DxfDrawing& drawing, const std::string& fileName, DrawingVisitor& visitor)
-        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor) {}
+        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor), m_layers(drawing) {}
 
     void visitAll(const std::vector<DxfEntity>& entities, const PlaneMap& map,
                   const std::string* outerLayer) {
@@ -26,7 +26,7 @@ public:
             count(entity);
             if (entity.isInPaperSpace)
                 m_visitor.passOver(placed, filled(Words::tr("it is in paper space")));
-            else if (entity.isInvisible || isHidden(placed.layer))
+            else if (entity.isInvisible || m_layers.isHidden(placed.layer))
                 m_visitor.passOver(placed,
                                    filled(Words::tr("it is invisible, or its layer is off or frozen")));
             else if (const auto* insert = std::get_if<DxfInsert>(&entity.shape))
@@ -41,15 +41,6 @@ private:
         if (++m_visits > kMostVisits)
             refuseDrawing(m_fileName, entity.line,
                           filled(Words::tr("expected blocks that come to at most %1 entities"), kMostVisits));
-    }
-
-    bool isHidden(const std::string& layer) {
-        auto known = m_hidden.find(layer);
-        if (known == m_hidden.end()) {
-            const auto row = m_drawing.layers.find(dxfNameKey(layer));
-            known = m_hidden.emplace(layer, row != m_drawing.layers.end() && row->second.isHidden).first;
-        }
-        return known->second;
     }
 
     void visitInsert(const PlacedEntity& placed, const DxfInsert& insert) {
@@ -89,7 +80,7 @@ private:
     const DxfDrawing& m_drawing;
     const std::string& m_fileName;
     DrawingVisitor& m_visitor;
-    std::map<std::string, bool> m_hidden;
+    LayerStates m_layers;
     std::size_t m_visits = 0;
     int m_depth = 0;
 };

@@ -38,7 +38,8 @@ DxfAttribute attributeOf(const std::string& string, int line) {
 SiteBuilder::SiteBuilder(const DxfDrawing& drawing, std::string fileName, std::vector<const LayerMap*> maps,
                          double millimetresPerUnit)
     : m_drawing(drawing), m_fileName(std::move(fileName)), m_maps(std::move(maps)),
-      m_millimetresPerUnit(millimetresPerUnit), m_blocks(drawing, m_fileName) {}
+      m_millimetresPerUnit(millimetresPerUnit),
+      m_blocks(drawing, m_fileName, [this](const DxfEntity& entity) { return isIgnoredInBlock(entity); }) {}
 
 void SiteBuilder::readExtendedData(const DxfEntity& entity, Meaning& meaning) const {
     const auto& strings = entity.extendedData;
@@ -147,6 +148,13 @@ SiteBuilder::Meaning SiteBuilder::meaningOf(const PlacedEntity& placed) {
         meaning.keys = meaning.keys ? meaning.keys : keys;
     }
     return meaning;
+}
+
+bool SiteBuilder::isIgnoredInBlock(const DxfEntity& entity) {
+    const PlaneMap map;
+    const Meaning meaning = meaningOf({entity, map, entity.layer});
+    const bool isByLayerOfInsert = meaning.isOfLayerOnly && entity.layer == kBlockLayer;
+    return meaning.isIgnored && !isByLayerOfInsert;
 }
 
 bool SiteBuilder::takeInsert(const PlacedEntity& insert) {

@@ -52,6 +52,8 @@ private:
     };
 
     Meaning meaningOf(const PlacedEntity& placed);
+    /// Whether an entity of a block that is one element does not count for it.
+    bool isIgnoredInBlock(const DxfEntity& entity);
     void readExtendedData(const DxfEntity& entity, Meaning& meaning) const;
     void readAttributes(const DxfInsert& insert, Meaning& meaning) const;
     const LayerRow* rowOf(const PlacedEntity& placed, bool& isOfLayerOnly);

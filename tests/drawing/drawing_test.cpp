@@ -135,6 +135,44 @@ TEST(Drawing, GroupsMayStandInAnyOrder) {
     }
 }
 
+std::string rectangle(double x, double y, double width, double height, const std::string& further) {
+    std::string tags = "0\nLWPOLYLINE\n70\n1\n" + further;
+    for (const auto& [dx, dy] : {std::pair(0.0, 0.0), {width, 0.0}, {width, height}, {0.0, height}})
+        tags += "10\n" + std::to_string(x + dx) + "\n20\n" + std::to_string(y + dy) + "\n";
+    return tags;
+}
+
+TEST(Drawing, WhatDoesNotCountDoesNotCountInABlockEither) {
+    const std::string layers =
+        section("TABLES", "0\nLAYER\n2\nFROZEN\n70\n1\n0\nLAYER\n2\nOFF\n70\n0\n62\n-7\n");
+    const std::string house = rectangle(0, 0, 8000, 5000, "8\n0\n");
+    const struct {
+        std::string further; ///< in the block
+        std::string blocks;
+        bool isPart;
+    } rows[] = {
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n"), "", true},
+        {rectangle(-9000, -9000, 27000, 24000, "8\nFROZEN\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\noff\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n67\n1\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n60\n1\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\nDefpoints\n"), "", false},
+        {"0\nINSERT\n8\nDefpoints\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), false},
+        {insert("LARGE"), block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), true},
+    };
+    for (const auto& row : rows) {
+        const std::string blocks = row.blocks + block("OFFICE", house + row.further);
+        const Json objects = objectsOf(layers + drawing(insert("OFFICE"), blocks));
+        ASSERT_EQ(objects.size(), 1u) << row.further;
+        EXPECT_EQ(objects[0]["length"], row.isPart ? 27000 : 8000) << row.further;
+    }
+    // An insert on a layer that does not count is an element by its block, and what lies on "0" is its shape.
+    EXPECT_EQ(objectsOf(drawing("0\nINSERT\n8\nDefpoints\n2\nOFFICE\n10\n0\n20\n0\n",
+                                block("OFFICE", house)))[0]["length"],
+              8000);
+}
+
 TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
     std::string entities;
     for (const char* const handle : {"1F", "1F", "none"})

@@ -128,6 +128,9 @@ struct DxfDrawing {
 /// Under which name of an application extended data is ours.
 inline const std::string kDxfApplication = "FIRECHECK";
 
+/// The layer that stands in a block for the one of its insert.
+inline const std::string kBlockLayer = "0";
+
 /// Names of layers and blocks are the same whatever their letter case.
 std::string dxfNameKey(const std::string& name);
 
