@@ -3023,5 +3023,9 @@
         <source>The program has ended; this page can be closed.</source>
         <translation>程序已结束，可以关闭此页面。</translation>
     </message>
+    <message>
+        <source>not all bytes of the drawing&apos;s texts are %1, as it says; those that are not became &quot;%2&quot;; --encoding decides</source>
+        <translation>图纸文字并非如其所称全部为 %1 编码，无法读取的字节以“%2”代替；可用 --encoding 指定</translation>
+    </message>
 </context>
 </TS>
