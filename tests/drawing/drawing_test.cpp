@@ -59,6 +59,7 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
         return blocks + block("B20", "0\nLINE\n10\n0\n20\n0\n11\n1\n21\n1\n");
     }();
     const std::string line = "0\nLINE\n8\nWALLS\n10\n0\n20\n0\n11\n";
+    const std::string gate = "0\nPOINT\n8\nGATES\n10\n3\n20\n0\n";
     const struct {
         std::string text;
         std::string expected;
@@ -95,6 +96,12 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
          "extended data of the POINT: expected the \"class\""},
         {drawing("0\nPOINT\n5\n1F\n8\nGATES\n10\n0\n20\n0\n1001\nFIRECHECK\n1000\nPOST_WIDTH=wide\n"),
          "plan.dxf:12:1: #31 (entity 1F, layer \"GATES\"), /objects/0/postWidth: expected an integer"},
+        {drawing(line + "5\n21\n0\n1001\nFIRECHECK\n1000\nSTART=here\n" + gate),
+         "plan.dxf:12:1: #1 (layer \"WALLS\"), /objects/0/start: expected a point"},
+        {drawing(line + "5\n21\n0\n1001\nFIRECHECK\n1000\n{\"class\": \"wall\", \"doors\": [7]}\n" + gate),
+         "/objects/0/doors/0: expected an object"},
+        {drawing("0\nCIRCLE\n8\nLAWN\n10\n0\n20\n0\n40\n5\n1001\nFIRECHECK\n1000\nCIRCLE=7\n"),
+         "/objects/0/circle: expected an object"},
     };
     for (const auto& row : rows)
         EXPECT_THAT(complaint(row.text), HasSubstr(row.expected));
@@ -171,6 +178,16 @@ TEST(Drawing, WhatDoesNotCountDoesNotCountInABlockEither) {
     EXPECT_EQ(objectsOf(drawing("0\nINSERT\n8\nDefpoints\n2\nOFFICE\n10\n0\n20\n0\n",
                                 block("OFFICE", house)))[0]["length"],
               8000);
+}
+
+TEST(Drawing, AGateIsEnteredIntoAWallThatWasExported) {
+    const std::string data = R"({"class": "wall", "doors": [{"distance": 13000, "door": null}]})";
+    const Json objects =
+        objectsOf(drawing("0\nLINE\n8\nWALLS\n5\nA\n10\n0\n20\n0\n11\n50000\n21\n0\n1001\nFIRECHECK\n1000\n" +
+                          data + "\n0\nLINE\n8\nGATES\n5\nB\n10\n10000\n20\n0\n11\n16000\n21\n0\n"));
+    const char* const expected = R"([{"distance": 13000, "door": null},
+                                     {"distance": 13000, "door": 11, "key": 13000.001, "width": 6000}])";
+    EXPECT_EQ(nlohmann::json::parse(objects[0]["doors"].dump()), nlohmann::json::parse(expected));
 }
 
 TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
