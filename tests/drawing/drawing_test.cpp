@@ -203,6 +203,24 @@ TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
     EXPECT_EQ(file.drawing->doubts[0].code, "replaced-handle");
 }
 
+TEST(Drawing, NamesMeanWhatTheyNameLast) {
+    const struct {
+        std::string name;
+        std::string expected; ///< "" for what means nothing
+    } rows[] = {
+        {"总配电箱", "model"},    {"二级配电箱", "model"},      {"总配电室", "totalStepDownSubstation"},
+        {"消防管路", ""},         {"消防道路", "road"},         {"临时消防通路", "road"},
+        {"消防车道边线", "road"}, {"消防道路灯", "ignore"},     {"宿舍楼道路灯", "ignore"},
+        {"围墙大门", "door"},     {"大门围墙", "wall"},         {"围墙", "wall"},
+        {"1#大门位置", "door"},   {"Site$0$Fire Lane", "road"},
+    };
+    for (const auto& row : rows) {
+        const LayerRow* const found = LayerMap::convention().rowOfLayer(row.name);
+        EXPECT_EQ(found ? found->values["class"].get<std::string>() : "", row.expected) << row.name;
+        EXPECT_EQ(found && found->values.contains("fireRoad"), row.expected == "road") << row.name;
+    }
+}
+
 TEST(Drawing, TablesOfLayersAreRefusedWithTheirPlaces) {
     const struct {
         std::string text;
