@@ -4,9 +4,8 @@
 #include "drawing/DrawingTally.h"
 #include "drawing/DrawingWalk.h"
 #include "drawing/DrawnElement.h"
-#include "drawing/LayerMap.h"
+#include "drawing/EntityMeanings.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,7 +15,7 @@ namespace firecheck {
 class SiteBuilder : public DrawingVisitor {
 public:
     /// `maps` stand in the order in which they are asked.
-    SiteBuilder(const DxfDrawing& drawing, std::string fileName, std::vector<const LayerMap*> maps,
+    SiteBuilder(const DxfDrawing& drawing, const std::string& fileName, std::vector<const LayerMap*> maps,
                 double millimetresPerUnit);
 
     bool takeInsert(const PlacedEntity& insert) override;
@@ -33,46 +32,24 @@ public:
     const Json& siteValues() const { return m_siteValues; }
 
 private:
-    /// What an entity is, before its shape is looked at.
-    struct Meaning {
-        const ElementKeys* keys = nullptr; ///< null when nothing says it
-        bool isIgnored = false;
-        bool isOfLayerOnly = false;
-        bool isExported = false;
-        Json data; ///< of the exporter
-        const LayerRow* row = nullptr;
-        std::vector<DxfAttribute> attributes; ///< and the extended data that are like them
-    };
     /// A line that may be a part of an outline.
     struct LooseLine {
         DrawnShape shape;
-        Meaning meaning;
+        EntityMeaning meaning;
         const DxfEntity* entity;
         std::string layer;
     };
 
-    Meaning meaningOf(const PlacedEntity& placed);
-    /// Whether an entity of a block that is one element does not count for it.
-    bool isIgnoredInBlock(const DxfEntity& entity);
-    void readExtendedData(const DxfEntity& entity, Meaning& meaning) const;
-    void readAttributes(const DxfInsert& insert, Meaning& meaning) const;
-    const LayerRow* rowOf(const PlacedEntity& placed, bool& isOfLayerOnly);
-    const ElementKeys* givenClass(const std::vector<DxfAttribute>& attributes) const;
-
     /// False for a shape that the element cannot have.
-    bool addElements(const DrawnShape& shape, const Meaning& meaning, const DxfEntity& entity,
+    bool addElements(const DrawnShape& shape, const EntityMeaning& meaning, const DxfEntity& entity,
                      const std::string& layer);
     /// What the entity itself gives beside its place.
-    Json givenValues(const Meaning& meaning, const DrawnShape& shape, const DxfEntity& entity);
+    Json givenValues(const EntityMeaning& meaning, const DrawnShape& shape, const DxfEntity& entity);
     void addText(const PlacedEntity& placed, const DxfText& text);
 
-    const DxfDrawing& m_drawing;
-    const std::string m_fileName;
-    const std::vector<const LayerMap*> m_maps;
     const double m_millimetresPerUnit;
+    EntityMeanings m_meanings;
     BlockShapes m_blocks;
-    std::map<std::string, std::vector<const LayerRow*>> m_layerRows; ///< by layer, one for each map
-    std::map<std::string, std::vector<const LayerRow*>> m_blockRows;
     std::vector<DrawnElement> m_elements;
     std::vector<DrawnText> m_texts;
     std::vector<LooseLine> m_looseLines;
