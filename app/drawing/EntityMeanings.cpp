@@ -65,17 +65,22 @@ void EntityMeanings::readAttributes(const DxfInsert& insert, EntityMeaning& mean
                 meaning.attributes.push_back(definition->attribute);
 }
 
-const ElementKeys* EntityMeanings::givenClass(const std::vector<DxfAttribute>& attributes) const {
-    for (const DxfAttribute& attribute : attributes) {
-        bool isClass = nameKey(attribute.tag) == "CLASS";
+/// The first attribute that names a class gives it. A word of the planner's that names none, as "类型" may
+/// have one, is no mistake; a CLASS is.
+void EntityMeanings::readClass(EntityMeaning& meaning) const {
+    for (const DxfAttribute& attribute : meaning.attributes) {
+        const bool isOwnTag = nameKey(attribute.tag) == "CLASS";
+        bool isClass = isOwnTag;
         for (const LayerMap* map : m_maps)
             for (const std::string& key : map->keysOfAttribute(attribute.tag))
                 isClass = isClass || key == "class";
-        const ElementKeys* const keys = isClass ? ElementKeys::ofClass(attribute.value) : nullptr;
-        if (keys)
-            return keys;
+        if (!isClass || attribute.value.empty())
+            continue;
+        const ElementKeys* const keys = ElementKeys::ofText(attribute.value);
+        meaning.keys = meaning.keys ? meaning.keys : keys;
+        if (!keys && isOwnTag && !meaning.unknownClass)
+            meaning.unknownClass = attribute;
     }
-    return nullptr;
 }
 
 const LayerRow* EntityMeanings::rowOf(const PlacedEntity& placed, bool& isOfLayerOnly) {
@@ -111,7 +116,7 @@ EntityMeaning EntityMeanings::of(const PlacedEntity& placed) {
         return meaning;
     if (const auto* insert = std::get_if<DxfInsert>(&placed.entity.shape))
         readAttributes(*insert, meaning);
-    meaning.keys = givenClass(meaning.attributes);
+    readClass(meaning);
     const LayerRow* const row = rowOf(placed, meaning.isOfLayerOnly);
     if (!row)
         return meaning;

@@ -5,6 +5,7 @@
 #include "drawing/LayerMap.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct EntityMeaning {
     Json data; ///< of the exporter
     const LayerRow* row = nullptr;
     std::vector<DxfAttribute> attributes; ///< and the extended data that are like them
+    /// What should have been a class and is none.
+    std::optional<DxfAttribute> unknownClass;
 };
 
 /// Tells what entities mean by their extended data, their attributes and the tables of layers and blocks.
@@ -44,7 +47,7 @@ private:
 
     void readExtendedData(const DxfEntity& entity, EntityMeaning& meaning) const;
     void readAttributes(const DxfInsert& insert, EntityMeaning& meaning) const;
-    const ElementKeys* givenClass(const std::vector<DxfAttribute>& attributes) const;
+    void readClass(EntityMeaning& meaning) const;
     const LayerRow* rowOf(const PlacedEntity& placed, bool& isOfLayerOnly);
 
     const DxfDrawing& m_drawing;

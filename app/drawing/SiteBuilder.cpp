@@ -18,6 +18,11 @@ std::string hexadecimal(std::uint64_t handle) {
     return handle == 0 ? std::string() : QString::number(handle, 16).toUpper().toStdString();
 }
 
+std::string blockOrType(const DxfEntity& entity) {
+    const auto* insert = std::get_if<DxfInsert>(&entity.shape);
+    return insert ? insert->block : entity.type;
+}
+
 std::string reasonOfShape() {
     return filled(Words::tr("elements of this kind are not drawn so"));
 }
@@ -34,6 +39,7 @@ bool SiteBuilder::takeInsert(const PlacedEntity& insert) {
     const EntityMeaning meaning = m_meanings.of(insert);
     if (meaning.isIgnored)
         return true;
+    tellUnknownClass(meaning, insert.entity);
     if (!meaning.keys)
         return false;
     // An arrow on a road's layer is no road.
@@ -56,6 +62,7 @@ void SiteBuilder::take(const PlacedEntity& placed) {
     const EntityMeaning meaning = m_meanings.of(placed);
     if (meaning.isIgnored)
         return;
+    tellUnknownClass(meaning, entity);
     if (meaning.isExported && !meaning.keys) {
         m_siteValues = meaning.data.at(kSiteDataKey);
         return;
@@ -91,6 +98,11 @@ void SiteBuilder::passOver(const PlacedEntity& placed, const std::string& reason
         m_tally.passOver(placed.entity.type, placed.layer, reason, placed.entity.line);
 }
 
+void SiteBuilder::tellUnknownClass(const EntityMeaning& meaning, const DxfEntity& entity) {
+    if (meaning.unknownClass)
+        m_tally.passOverClass(meaning.unknownClass->value, blockOrType(entity), meaning.unknownClass->line);
+}
+
 void SiteBuilder::addText(const PlacedEntity& placed, const DxfText& text) {
     const auto at = placed.map.after(ownPlane(placed.entity))({text.at.x, text.at.y});
     if (!text.text.empty())
@@ -103,13 +115,12 @@ Json SiteBuilder::givenValues(const EntityMeaning& meaning, const DrawnShape& sh
     Json values = {{"class", meaning.keys->siteClass().name}};
     if (shape.width > 0.0 && meaning.keys->has("width"))
         values["width"] = std::llround(shape.width);
-    const auto* insert = std::get_if<DxfInsert>(&entity.shape);
     // Extended data stand first and go before what follows.
     std::map<std::string, bool> isGiven;
     for (const DxfAttribute& attribute : meaning.attributes) {
         const std::string key = meaning.keys->keyOf(attribute.tag, m_meanings.maps());
         if (key.empty())
-            m_tally.passOverAttribute(attribute.tag, insert ? insert->block : entity.type, attribute.line);
+            m_tally.passOverAttribute(attribute.tag, blockOrType(entity), attribute.line);
         else if (key != "class" && key != "handle" && !attribute.value.empty() && !isGiven[key]) {
             values[key] =
                 meaning.keys->valueOf(key, attribute.value, m_millimetresPerUnit, m_meanings.maps());

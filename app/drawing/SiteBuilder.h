@@ -45,6 +45,7 @@ private:
                      const std::string& layer);
     /// What the entity itself gives beside its place.
     Json givenValues(const EntityMeaning& meaning, const DrawnShape& shape, const DxfEntity& entity);
+    void tellUnknownClass(const EntityMeaning& meaning, const DxfEntity& entity);
     void addText(const PlacedEntity& placed, const DxfText& text);
 
     const double m_millimetresPerUnit;

@@ -221,6 +221,33 @@ TEST(Drawing, NamesMeanWhatTheyNameLast) {
     }
 }
 
+TEST(Drawing, AClassThatIsNoneIsTold) {
+    const struct {
+        std::string data;
+        std::string expected;
+        std::string suggestion; ///< "-" where nothing is told
+    } rows[] = {
+        {"CLASS=POSTER", "poster", "-"},
+        {"Class=Tower_Crane", "towerCrane", "-"},
+        {"CLASS=towerCran", "wall", "towerCrane"},
+        {"CLASS=tree", "wall", ""},
+        {"类型=砖墙", "wall", "-"},
+        {"CLASS=", "wall", "-"},
+    };
+    for (const auto& row : rows) {
+        const SiteFile file = parseDrawing(drawing("0\nLINE\n5\nA\n8\nWALLS\n10\n0\n20\n0\n11\n9000\n21\n0\n"
+                                                   "1001\nFIRECHECK\n1000\n" +
+                                                   row.data + "\n"),
+                                           "plan.dxf");
+        EXPECT_EQ(file.value["objects"][0]["class"], row.expected) << row.data;
+        std::string told = "-";
+        for (const DrawingDoubt& doubt : file.drawing->doubts)
+            if (doubt.code == "not-taken-up")
+                told = doubt.suggestion;
+        EXPECT_EQ(told, row.suggestion) << row.data;
+    }
+}
+
 TEST(Drawing, TablesOfLayersAreRefusedWithTheirPlaces) {
     const struct {
         std::string text;
