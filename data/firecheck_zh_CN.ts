@@ -3031,5 +3031,9 @@
         <source>%1 attributes &quot;CLASS&quot; of block &quot;%2&quot; not taken up: &quot;%3&quot; is no class of objects</source>
         <translation>块“%2”的 %1 个属性“CLASS”未采用：没有名为“%3”的对象类别</translation>
     </message>
+    <message>
+        <source>it is part of a block that is one element</source>
+        <translation>属于一个整体作为构件的块</translation>
+    </message>
 </context>
 </TS>

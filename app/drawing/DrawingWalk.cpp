@@ -57,8 +57,16 @@ private:
     }
 
     void visitCell(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
-        if (m_visitor.takeInsert(placed))
-            return;
+        const InsertUse use = m_visitor.takeInsert(placed);
+        if (use == InsertUse::TakenApart)
+            visitApart(placed, insert, block);
+        else if (use == InsertUse::WholeAndParts) {
+            visitBlock(placed, insert, block);
+            m_visitor.leaveParts();
+        }
+    }
+
+    void visitApart(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
         if (block.isExternal) {
             m_visitor.passOver(placed, filled(Words::tr("it refers to another drawing")));
             return;
@@ -67,6 +75,10 @@ private:
             m_visitor.passOver(placed, filled(Words::tr("it does not lie in the plan")));
             return;
         }
+        visitBlock(placed, insert, block);
+    }
+
+    void visitBlock(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
         if (m_depth == kDeepestBlock)
             refuseDrawing(m_fileName, placed.entity.line, tooDeepBlock());
         ++m_depth;

@@ -22,6 +22,11 @@ struct EntityMeaning {
     std::vector<DxfAttribute> attributes; ///< and the extended data that are like them
     /// What should have been a class and is none.
     std::optional<DxfAttribute> unknownClass;
+
+    /// Whether an entity of a block means something but for the layer of the insert, which "0" stands for.
+    bool hasOwnMeaning(const DxfEntity& entity) const {
+        return keys && !(isOfLayerOnly && entity.layer == kBlockLayer);
+    }
 };
 
 /// Tells what entities mean by their extended data, their attributes and the tables of layers and blocks.

@@ -23,6 +23,10 @@ std::string blockOrType(const DxfEntity& entity) {
     return insert ? insert->block : entity.type;
 }
 
+std::string reasonOfWhole() {
+    return filled(Words::tr("it is part of a block that is one element"));
+}
+
 std::string reasonOfShape() {
     return filled(Words::tr("elements of this kind are not drawn so"));
 }
@@ -33,26 +37,53 @@ SiteBuilder::SiteBuilder(const DxfDrawing& drawing, const std::string& fileName,
                          std::vector<const LayerMap*> maps, double millimetresPerUnit)
     : m_millimetresPerUnit(millimetresPerUnit), m_meanings(drawing, fileName, std::move(maps)),
       m_blocks(drawing, fileName,
-               [this](const DxfEntity& entity) { return m_meanings.isIgnoredInBlock(entity); }) {}
+               [this](const DxfEntity& entity) { return m_meanings.isIgnoredInBlock(entity); }),
+      m_parts(drawing, [this](const DxfEntity& entity) { return mayBePart(entity); }) {}
 
-bool SiteBuilder::takeInsert(const PlacedEntity& insert) {
+bool SiteBuilder::mayBePart(const DxfEntity& entity) {
+    const PlaneMap map;
+    return std::holds_alternative<DxfText>(entity.shape) ||
+           m_meanings.of({entity, map, entity.layer}).hasOwnMeaning(entity);
+}
+
+bool SiteBuilder::isOfWhole(const DxfEntity& entity, const EntityMeaning& meaning) const {
+    return !m_wholes.empty() && (!meaning.hasOwnMeaning(entity) || meaning.keys == m_wholes.back());
+}
+
+bool SiteBuilder::isLostInWhole(const EntityMeaning& meaning) const {
+    return !m_wholes.empty() && meaning.keys->plan() != ElementPlan::Box;
+}
+
+InsertUse SiteBuilder::takeInsert(const PlacedEntity& insert) {
     const EntityMeaning meaning = m_meanings.of(insert);
     if (meaning.isIgnored)
-        return true;
+        return InsertUse::Whole;
+    if (isOfWhole(insert.entity, meaning))
+        return InsertUse::TakenApart;
     tellUnknownClass(meaning, insert.entity);
     if (!meaning.keys)
-        return false;
+        return InsertUse::TakenApart;
+    if (isLostInWhole(meaning)) {
+        passOver(insert, reasonOfWhole());
+        return InsertUse::Whole;
+    }
     // An arrow on a road's layer is no road.
     const bool isOfLines =
         meaning.keys->plan() == ElementPlan::Route || meaning.keys->plan() == ElementPlan::Wall;
-    if (meaning.isOfLayerOnly && isOfLines)
-        return false;
+    return meaning.isOfLayerOnly && isOfLines ? InsertUse::TakenApart : takeWhole(insert, meaning);
+}
+
+InsertUse SiteBuilder::takeWhole(const PlacedEntity& insert, const EntityMeaning& meaning) {
     const auto shape = m_blocks.symbol(insert.entity, insert.map, insert.column, insert.row);
     if (!shape)
         passOver(insert, filled(Words::tr("it does not lie in the plan, or its scale distorts it")));
     else if (!addElements(*shape, meaning, insert.entity, insert.layer))
         passOver(insert, reasonOfShape());
-    return true;
+    else if (!meaning.isExported && m_parts.finds(std::get<DxfInsert>(insert.entity.shape))) {
+        m_wholes.push_back(meaning.keys);
+        return InsertUse::WholeAndParts;
+    }
+    return InsertUse::Whole;
 }
 
 void SiteBuilder::take(const PlacedEntity& placed) {
@@ -62,19 +93,24 @@ void SiteBuilder::take(const PlacedEntity& placed) {
     const EntityMeaning meaning = m_meanings.of(placed);
     if (meaning.isIgnored)
         return;
+    const auto* text = std::get_if<DxfText>(&entity.shape);
+    if (!text && isOfWhole(entity, meaning))
+        return;
     tellUnknownClass(meaning, entity);
-    if (meaning.isExported && !meaning.keys) {
+    if (meaning.isExported && !meaning.keys)
         m_siteValues = meaning.data.at(kSiteDataKey);
-        return;
-    }
-    if (const auto* text = std::get_if<DxfText>(&entity.shape)) {
+    else if (text)
         addText(placed, *text);
-        return;
-    }
-    if (!meaning.keys) {
+    else if (!meaning.keys)
         passOver(placed, filled(Words::tr("nothing tells what it is")));
-        return;
-    }
+    else if (isLostInWhole(meaning))
+        passOver(placed, reasonOfWhole());
+    else
+        takeShape(placed, meaning);
+}
+
+void SiteBuilder::takeShape(const PlacedEntity& placed, const EntityMeaning& meaning) {
+    const DxfEntity& entity = placed.entity;
     if (std::holds_alternative<DxfOther>(entity.shape)) {
         passOver(placed, filled(Words::tr("such entities are not read")));
         return;
@@ -94,7 +130,8 @@ void SiteBuilder::take(const PlacedEntity& placed) {
 }
 
 void SiteBuilder::passOver(const PlacedEntity& placed, const std::string& reason) {
-    if (!m_meanings.isIgnoredByTable(placed))
+    const bool isDetail = !m_wholes.empty() && isOfWhole(placed.entity, m_meanings.of(placed));
+    if (!isDetail && !m_meanings.isIgnoredByTable(placed))
         m_tally.passOver(placed.entity.type, placed.layer, reason, placed.entity.line);
 }
 

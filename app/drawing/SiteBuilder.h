@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drawing/BlockSearch.h"
 #include "drawing/BlockShapes.h"
 #include "drawing/DrawingTally.h"
 #include "drawing/DrawingWalk.h"
@@ -18,7 +19,8 @@ public:
     SiteBuilder(const DxfDrawing& drawing, const std::string& fileName, std::vector<const LayerMap*> maps,
                 double millimetresPerUnit);
 
-    bool takeInsert(const PlacedEntity& insert) override;
+    InsertUse takeInsert(const PlacedEntity& insert) override;
+    void leaveParts() override { m_wholes.pop_back(); }
     void take(const PlacedEntity& entity) override;
     void passOver(const PlacedEntity& entity, const std::string& reason) override;
 
@@ -40,6 +42,14 @@ private:
         std::string layer;
     };
 
+    bool mayBePart(const DxfEntity& entity);
+    InsertUse takeWhole(const PlacedEntity& insert, const EntityMeaning& meaning);
+    /// Whether it lies in a block that is one element, and means nothing else.
+    bool isOfWhole(const DxfEntity& entity, const EntityMeaning& meaning) const;
+    /// Whether it lies in a block that is one element, and is none of the site: things stand in houses, but
+    /// the walls and doors of houses are not those of the site.
+    bool isLostInWhole(const EntityMeaning& meaning) const;
+    void takeShape(const PlacedEntity& placed, const EntityMeaning& meaning);
     /// False for a shape that the element cannot have.
     bool addElements(const DrawnShape& shape, const EntityMeaning& meaning, const DxfEntity& entity,
                      const std::string& layer);
@@ -51,6 +61,8 @@ private:
     const double m_millimetresPerUnit;
     EntityMeanings m_meanings;
     BlockShapes m_blocks;
+    BlockSearch m_parts;                      ///< texts, and what has a meaning of its own
+    std::vector<const ElementKeys*> m_wholes; ///< of the blocks that are one element, in which the walk is
     std::vector<DrawnElement> m_elements;
     std::vector<DrawnText> m_texts;
     std::vector<LooseLine> m_looseLines;

@@ -190,6 +190,29 @@ TEST(Drawing, AGateIsEnteredIntoAWallThatWasExported) {
     EXPECT_EQ(nlohmann::json::parse(objects[0]["doors"].dump()), nlohmann::json::parse(expected));
 }
 
+TEST(Drawing, WhatStandsInAHouseThatIsABlockIsNotLost) {
+    const std::string box = insert("HYDRANT") + "0\nTEXT\n8\nNOTES\n10\n1000\n20\n2000\n40\n500\n1\n食堂\n";
+    const std::string parts =
+        box + "0\nPOINT\n8\nEXTINGUISHERS\n10\n1000\n20\n1000\n"
+              "0\nLINE\n8\nWALLS\n10\n0\n20\n0\n11\n9\n21\n0\n0\nLINE\n8\nHOUSES\n10\n0\n20\n0\n"
+              "11\n9\n21\n0\n0\nHATCH\n8\n0\n";
+    const std::string blocks = block("HYDRANT", rectangle(-200, -200, 400, 400, "8\n0\n")) +
+                               block("PARTS", parts) +
+                               block("HOUSE", rectangle(0, 0, 8000, 5000, "8\n0\n") + insert("PARTS"));
+    const SiteFile file =
+        parseDrawing(drawing(insert("HOUSE", "5\nFF\n70\n2\n44\n9000\n"), blocks), "plan.dxf");
+    std::string found;
+    for (const Json& object : file.value["objects"])
+        found += object["class"].get<std::string>() + " " + object.value("use", "-") + " " +
+                 (object.contains("center") ? object["center"] : object["position"]).dump() + "\n";
+    EXPECT_EQ(found, "closedHouse 食堂 [4000,2500]\nmodel - [0,0]\nextinguisherBox - [1000,1000]\n"
+                     "closedHouse 食堂 [13000,2500]\nmodel - [9000,0]\nextinguisherBox - [10000,1000]\n");
+    std::string told;
+    for (const DrawingDoubt& doubt : file.drawing->doubts)
+        told += doubt.code == "not-taken-up" ? doubt.message : "";
+    EXPECT_EQ(told, "2 LINE on layer \"WALLS\" not taken up: it is part of a block that is one element");
+}
+
 TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
     std::string entities;
     for (const char* const handle : {"1F", "1F", "none"})
