@@ -3035,5 +3035,9 @@
         <source>it is part of a block that is one element</source>
         <translation>属于一个整体作为构件的块</translation>
     </message>
+    <message>
+        <source>%1: expected a radius of at least 0</source>
+        <translation>%1：半径不应小于 0</translation>
+    </message>
 </context>
 </TS>

@@ -85,6 +85,8 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
         {drawing("0\nLWPOLYLINE\n10\n0\n10\n9\n20\n7\n"), "plan.dxf:14: LWPOLYLINE: expected group 20"},
         {drawing("0\nLWPOLYLINE\n10\n0\n20\n0\n10\n9\n42\n1\n"),
          "plan.dxf:18: LWPOLYLINE: expected group 20"},
+        {drawing("0\nARC\n10\n0\n20\n0\n40\n-5\n50\n0\n51\n90\n"),
+         "plan.dxf:18: ARC: expected a radius of at least 0"},
         {drawing("0\nLWPOLYLINE\n70\n1.5\n"), "plan.dxf:14: expected a whole number for group 70"},
         {drawing(insert("A", "70\n30000\n71\n30000\n")),
          "plan.dxf:12: INSERT: expected an array of at most 1000000 cells"},

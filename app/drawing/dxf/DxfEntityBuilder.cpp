@@ -133,6 +133,9 @@ void DxfEntityBuilder::takeNumber(const DxfTag& tag) {
         m_numbers[std::size_t(tag.code)] = m_reader.number(tag);
         m_isGiven[std::size_t(tag.code)] = true;
     }
+    const bool isRadius = tag.code == 40 && (isOf("ARC") || isOf("CIRCLE"));
+    if (isRadius && m_numbers[40] < 0.0)
+        m_reader.fail(tag.line, filled(Words::tr("%1: expected a radius of at least 0"), m_entity.type));
     if (tag.code == 70)
         m_flags = m_reader.integer(tag);
 }
