@@ -8,6 +8,7 @@ import json
 import logging
 import math
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -103,6 +104,16 @@ class Overlay(InADirectory):
         line = next(line for line in document.modelspace().query("LINE")
                     if line.dxf.layer.endswith("-PrefabHouseToPrefabHouse"))
         self.assertAlmostEqual((line.dxf.start - line.dxf.end).magnitude, 3500, places=5)
+
+    def test_rules_have_the_colours_of_the_page(self):
+        light = (EXAMPLES / "../app/report/plan/plan.css").read_text("utf-8").split("@media")[0]
+        palette = re.findall(r"\.c\d \{ --rule: #([0-9a-f]{6}); \}", light)
+        run("check", EXAMPLES / "every-rule-offends.json", "--format", "dxf", "-o", self.path / "found.dxf", status=1)
+        document = ezdxf.readfile(self.path / "found.dxf")
+        colours = {int(layer.dxf.name[3:5]): "%02x%02x%02x" % layer.rgb
+                   for layer in document.layers if re.match("FC-(?!00)", layer.dxf.name)}
+        self.assertGreater(len(colours), len(palette))
+        self.assertEqual(colours, {rule: palette[(rule - 1) % len(palette)] for rule in colours})
 
     def test_has_the_unit_of_the_drawing(self):
         document = ezdxf.new("R2010")
