@@ -237,18 +237,21 @@ class Drawn(InADirectory):
                           "elevation": 3000, "use": "厕所"})
 
     def test_texts_in_every_encoding(self):
-        for version, encoding, doubt in [("R12", "gbk", ""), ("R2000", "gbk", ""), ("R2000", "cp1252", ""),
-                                         ("R2004", "utf-8", ""), ("R2018", None, "")]:
-            with self.subTest(version=version, encoding=encoding):
+        # What the header says, and the bytes that are saved.
+        for version, said, saved in [("R12", "gbk", None), ("R2000", "gbk", None), ("R2000", "cp1252", None),
+                                     ("R2018", "utf-8", None), ("R2000", "cp1252", "gbk"), ("R2004", "cp1252", "utf-8"),
+                                     ("R2004", "gbk", "utf-8"), ("R2018", "utf-8", "gbk")]:
+            with self.subTest(version=version, said=said, saved=saved):
                 document = ezdxf.new(version, units=4)
-                document.encoding = encoding or "utf-8"
+                document.encoding = said
                 if version != "R12":
                     document.header["$INSUNITS"] = 4
                 document.modelspace().add_circle((0, 0), 4000, dxfattribs={"layer": "消防水池"})
                 document.modelspace().add_text("一号水池", dxfattribs={"insert": (0, 0), "height": 500})
-                site, told = self.site(document)
+                site, told = self.site(document, encoding=saved)
                 self.assertEqual([row["name"] for row in site.values()], ["一号水池"])
                 self.assertEqual(next(iter(site.values()))["circle"], {"center": [0, 0], "radius": 4000})
+                self.assertEqual("--encoding decides" in told, saved is not None)
 
     def test_wrong_code_page_and_wrong_unit_are_doubted(self):
         document = ezdxf.new("R2000", units=4)
