@@ -1,5 +1,6 @@
 #include "drawing/DrawingWalk.h"
 
+#include "drawing/BlockSearch.h"
 #include "drawing/DrawnShape.h"
 #include "drawing/LayerStates.h"
 #include "drawing/block_nesting.h"
@@ -15,7 +16,8 @@ constexpr std::size_t kMostVisits = 3000000;
 class Walk {
 public:
     Walk(const DxfDrawing& drawing, const std::string& fileName, DrawingVisitor& visitor)
-        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor), m_layers(drawing) {}
+        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor), m_layers(drawing),
+          m_shown(drawing, [this](const DxfEntity& entity) { return showsByItself(entity); }) {}
 
     void visitAll(const std::vector<DxfEntity>& entities, const PlaneMap& map,
                   const std::string* outerLayer) {
@@ -26,7 +28,7 @@ public:
             count(entity);
             if (entity.isInPaperSpace)
                 m_visitor.passOver(placed, filled(Words::tr("it is in paper space")));
-            else if (entity.isInvisible || m_layers.isHidden(placed.layer))
+            else if (isHidden(placed))
                 m_visitor.passOver(placed,
                                    filled(Words::tr("it is invisible, or its layer is off or frozen")));
             else if (const auto* insert = std::get_if<DxfInsert>(&entity.shape))
@@ -37,6 +39,20 @@ public:
     }
 
 private:
+    /// Whether an entity of a block is seen though its insert is on a layer that is off.
+    bool showsByItself(const DxfEntity& entity) {
+        return !std::holds_alternative<DxfInsert>(entity.shape) && entity.layer != kBlockLayer &&
+               !m_layers.isHidden(entity.layer);
+    }
+
+    bool isHidden(const PlacedEntity& placed) {
+        const DxfEntity& entity = placed.entity;
+        if (entity.isInvisible || m_layers.isFrozen(placed.layer))
+            return true;
+        const auto* insert = std::get_if<DxfInsert>(&entity.shape);
+        return m_layers.isHidden(placed.layer) && !(insert && m_shown.finds(*insert));
+    }
+
     void count(const DxfEntity& entity) {
         if (++m_visits > kMostVisits)
             refuseDrawing(m_fileName, entity.line,
@@ -93,6 +109,7 @@ private:
     const std::string& m_fileName;
     DrawingVisitor& m_visitor;
     LayerStates m_layers;
+    BlockSearch m_shown; ///< what shows by itself
     std::size_t m_visits = 0;
     int m_depth = 0;
 };

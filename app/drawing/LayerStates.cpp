@@ -2,11 +2,11 @@
 
 namespace firecheck {
 
-bool LayerStates::isHidden(const std::string& layer) {
-    auto known = m_hidden.find(layer);
-    if (known == m_hidden.end()) {
+const DxfLayer& LayerStates::state(const std::string& layer) {
+    auto known = m_known.find(layer);
+    if (known == m_known.end()) {
         const auto row = m_drawing.layers.find(dxfNameKey(layer));
-        known = m_hidden.emplace(layer, row != m_drawing.layers.end() && row->second.isHidden).first;
+        known = m_known.emplace(layer, row == m_drawing.layers.end() ? DxfLayer() : row->second).first;
     }
     return known->second;
 }

@@ -35,7 +35,8 @@ std::string reasonOfShape() {
 
 SiteBuilder::SiteBuilder(const DxfDrawing& drawing, const std::string& fileName,
                          std::vector<const LayerMap*> maps, double millimetresPerUnit)
-    : m_millimetresPerUnit(millimetresPerUnit), m_meanings(drawing, fileName, std::move(maps)),
+    : m_millimetresPerUnit(millimetresPerUnit), m_layers(drawing),
+      m_meanings(drawing, fileName, std::move(maps)),
       m_blocks(drawing, fileName,
                [this](const DxfEntity& entity) { return m_meanings.isIgnoredInBlock(entity); }),
       m_parts(drawing, [this](const DxfEntity& entity) { return mayBePart(entity); }) {}
@@ -70,11 +71,13 @@ InsertUse SiteBuilder::takeInsert(const PlacedEntity& insert) {
     // An arrow on a road's layer is no road.
     const bool isOfLines =
         meaning.keys->plan() == ElementPlan::Route || meaning.keys->plan() == ElementPlan::Wall;
-    return meaning.isOfLayerOnly && isOfLines ? InsertUse::TakenApart : takeWhole(insert, meaning);
+    // A layer that is off says nothing of what shows all the same.
+    const bool isOff = m_layers.isHidden(insert.layer);
+    return meaning.isOfLayerOnly && (isOfLines || isOff) ? InsertUse::TakenApart : takeWhole(insert, meaning);
 }
 
 InsertUse SiteBuilder::takeWhole(const PlacedEntity& insert, const EntityMeaning& meaning) {
-    const auto shape = m_blocks.symbol(insert.entity, insert.map, insert.column, insert.row);
+    const auto shape = m_blocks.symbol(insert);
     if (!shape)
         passOver(insert, filled(Words::tr("it does not lie in the plan, or its scale distorts it")));
     else if (!addElements(*shape, meaning, insert.entity, insert.layer))

@@ -59,6 +59,7 @@ private:
     void addText(const PlacedEntity& placed, const DxfText& text);
 
     const double m_millimetresPerUnit;
+    LayerStates m_layers;
     EntityMeanings m_meanings;
     BlockShapes m_blocks;
     BlockSearch m_parts;                      ///< texts, and what has a meaning of its own

@@ -171,6 +171,12 @@ TEST(Drawing, WhatDoesNotCountDoesNotCountInABlockEither) {
         {rectangle(-9000, -9000, 27000, 24000, "8\nDefpoints\n"), "", false},
         {"0\nINSERT\n8\nDefpoints\n2\nLARGE\n10\n0\n20\n0\n",
          block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), false},
+        {"0\nINSERT\n8\nOFF\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), false},
+        {"0\nINSERT\n8\nOFF\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\nA\n")), true},
+        {"0\nINSERT\n8\nFROZEN\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\nA\n")), false},
         {insert("LARGE"), block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), true},
     };
     for (const auto& row : rows) {
@@ -178,6 +184,14 @@ TEST(Drawing, WhatDoesNotCountDoesNotCountInABlockEither) {
         const Json objects = objectsOf(layers + drawing(insert("OFFICE"), blocks));
         ASSERT_EQ(objects.size(), 1u) << row.further;
         EXPECT_EQ(objects[0]["length"], row.isPart ? 27000 : 8000) << row.further;
+    }
+    // Layers that are off hide what lies on them; frozen ones whole blocks.
+    for (const auto& [layer, count] : {std::pair("OFF", 1u), {"FROZEN", 0u}, {"A", 2u}}) {
+        const std::string carrier =
+            block("CARRIER", rectangle(0, 0, 8000, 5000, "8\nOFFICES\n") + insert("OFFICE"));
+        const std::string entities = "0\nINSERT\n8\n" + std::string(layer) + "\n2\nCARRIER\n10\n0\n20\n0\n";
+        const Json objects = objectsOf(layers + drawing(entities, carrier + block("OFFICE", house)));
+        EXPECT_EQ(objects.size(), count) << layer;
     }
     // An insert on a layer that does not count is an element by its block, and what lies on "0" is its shape.
     EXPECT_EQ(objectsOf(drawing("0\nINSERT\n8\nDefpoints\n2\nOFFICE\n10\n0\n20\n0\n",

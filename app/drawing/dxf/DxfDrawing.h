@@ -111,7 +111,8 @@ struct DxfBlock {
 };
 
 struct DxfLayer {
-    bool isHidden = false; ///< off or frozen
+    bool isOff = false;    ///< hides its entities
+    bool isFrozen = false; ///< hides its entities, and all of a block that is inserted on it
     int colour = -1;       ///< as 0xRRGGBB
 };
 
