@@ -3028,5 +3028,21 @@
         <comment>violation, handles</comment>
         <translation>报告中仅计数的一处：%1</translation>
     </message>
+    <message>
+        <source>%1 attributes &quot;CLASS&quot; of block &quot;%2&quot; not taken up: &quot;%3&quot; is no class of objects</source>
+        <translation>块“%2”的 %1 个属性“CLASS”未采用：没有名为“%3”的对象类别</translation>
+    </message>
+    <message>
+        <source>not all bytes of the drawing&apos;s texts are %1, as it says; those that are not became &quot;%2&quot;; --encoding decides</source>
+        <translation>图纸文字并非如其所称全部为 %1 编码，无法读取的字节以“%2”代替；可用 --encoding 指定</translation>
+    </message>
+    <message>
+        <source>%1: expected a radius of at least 0</source>
+        <translation>%1：半径不应小于 0</translation>
+    </message>
+    <message>
+        <source>it is part of a block that is one element</source>
+        <translation>属于一个整体作为构件的块</translation>
+    </message>
 </context>
 </TS>

@@ -49,15 +49,16 @@ std::optional<std::vector<hrx::PolyPt2d>> placedVertices(const DrawnShape& outli
 
 } // namespace
 
-std::optional<DrawnShape> BlockShapes::symbol(const DxfEntity& entity, const PlaneMap& map, int column,
-                                              int row) {
+std::optional<DrawnShape> BlockShapes::symbol(const PlacedEntity& placed) {
+    const DxfEntity& entity = placed.entity;
     const auto& insert = std::get<DxfInsert>(entity.shape);
     const std::string key = dxfNameKey(insert.block);
     const auto block = m_drawing.blocks.find(key);
     if (block == m_drawing.blocks.end() || entity.facing == DxfFacing::Tilted)
         return std::nullopt;
-    const PlaneMap whole = map.after(ownPlane(entity)).after(insertPlane(insert, block->second, column, row));
-    const Measured& shape = measured(key, block->second, 0);
+    const PlaneMap whole = placed.map.after(ownPlane(entity))
+                               .after(insertPlane(insert, block->second, placed.column, placed.row));
+    const Measured& shape = measured(key, block->second, {!m_layers.isHidden(placed.layer), 0});
     DrawnShape result;
     result.kind = DrawnShape::Kind::Symbol;
     const hrx::CVec2<double> place = whole({block->second.base.x, block->second.base.y});
@@ -84,23 +85,38 @@ std::optional<DrawnShape> BlockShapes::symbol(const DxfEntity& entity, const Pla
     return result;
 }
 
-const BlockShapes::Measured& BlockShapes::measured(const std::string& key, const DxfBlock& block, int depth) {
-    const auto known = m_measured.find(key);
+const BlockShapes::Measured& BlockShapes::measured(const std::string& key, const DxfBlock& block,
+                                                   const View& view) {
+    const auto known = m_measured.find({key, view.isOuterLayerSeen});
     if (known != m_measured.end())
         return known->second;
-    if (depth > kDeepestBlock)
+    if (view.depth > kDeepestBlock)
         refuseDrawing(m_fileName, block.line, tooDeepBlock());
     Measured result;
     for (const DxfEntity& entity : block.entities)
-        addEntity(entity, result, depth);
-    return m_measured.emplace(key, std::move(result)).first->second;
+        addEntity(entity, result, view);
+    return m_measured.emplace(std::pair(key, view.isOuterLayerSeen), std::move(result)).first->second;
 }
 
-void BlockShapes::addEntity(const DxfEntity& entity, Measured& measured, int depth) {
-    if (entity.isInvisible || entity.facing == DxfFacing::Tilted)
+bool BlockShapes::isSeen(const std::string& layer, const View& view) {
+    return layer == kBlockLayer ? view.isOuterLayerSeen : !m_layers.isHidden(layer);
+}
+
+bool BlockShapes::counts(const DxfEntity& entity, const View& view) {
+    if (entity.isInvisible || entity.isInPaperSpace || entity.facing == DxfFacing::Tilted)
+        return false;
+    // What is in a block that is inserted on a layer which is off has layers of its own.
+    const bool isInsert = std::holds_alternative<DxfInsert>(entity.shape);
+    const bool isShown = isInsert ? entity.layer == kBlockLayer || !m_layers.isFrozen(entity.layer)
+                                  : isSeen(entity.layer, view);
+    return isShown && !m_isIgnored(entity);
+}
+
+void BlockShapes::addEntity(const DxfEntity& entity, Measured& measured, const View& view) {
+    if (!counts(entity, view))
         return;
     if (const auto* insert = std::get_if<DxfInsert>(&entity.shape)) {
-        addInsert(entity, *insert, measured, depth);
+        addInsert(entity, *insert, measured, view);
         return;
     }
     std::optional<DrawnShape> shape = drawnShape(entity, {});
@@ -118,12 +134,13 @@ void BlockShapes::addEntity(const DxfEntity& entity, Measured& measured, int dep
     measured.outline = std::move(*shape);
 }
 
-void BlockShapes::addInsert(const DxfEntity& entity, const DxfInsert& insert, Measured& measured, int depth) {
+void BlockShapes::addInsert(const DxfEntity& entity, const DxfInsert& insert, Measured& measured,
+                            const View& view) {
     const std::string key = dxfNameKey(insert.block);
     const auto block = m_drawing.blocks.find(key);
     if (block == m_drawing.blocks.end())
         return;
-    const Measured& inner = this->measured(key, block->second, depth + 1);
+    const Measured& inner = this->measured(key, block->second, {isSeen(entity.layer, view), view.depth + 1});
     // The outermost cells of an array bound the others.
     for (const int column : {0, insert.columns - 1})
         for (const int row : {0, insert.rows - 1})

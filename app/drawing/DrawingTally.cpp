@@ -1,5 +1,7 @@
 #include "drawing/DrawingTally.h"
 
+#include "site_file/site_classes.h"
+#include "text/nearest_name.h"
 #include "text/shortened.h"
 #include "text/words.h"
 
@@ -11,6 +13,13 @@ namespace {
 
 DrawingDoubt doubtOf(const char* code, int line, std::string message) {
     return {code, line, std::move(message), {}};
+}
+
+std::vector<std::string> classNames() {
+    std::vector<std::string> names;
+    for (const SiteClass& siteClass : siteClasses())
+        names.push_back(siteClass.name);
+    return names;
 }
 
 } // namespace
@@ -31,6 +40,10 @@ void DrawingTally::assume(const std::string& className, const std::string& layer
 
 void DrawingTally::passOverAttribute(const std::string& tag, const std::string& block, int line) {
     add(m_attributes[{block, tag}], line);
+}
+
+void DrawingTally::passOverClass(const std::string& name, const std::string& block, int line) {
+    add(m_classes[{block, name}], line);
 }
 
 void DrawingTally::leaveOutOfWalls(const std::string& layer, int line) {
@@ -66,6 +79,13 @@ std::vector<DrawingDoubt> DrawingTally::doubts() const {
             filled(Words::tr(
                        "%1 attributes \"%2\" of block \"%3\" not taken up: their elements have no such key"),
                    count.count, shortened(what.second), shortened(what.first))));
+    for (const auto& [what, count] : m_classes)
+        doubts.push_back(
+            {"not-taken-up", count.line,
+             filled(Words::tr("%1 attributes \"CLASS\" of block \"%2\" not taken up: \"%3\" is no "
+                              "class of objects"),
+                    count.count, shortened(what.first), shortened(what.second)),
+             nearestName(what.second, classNames()).value_or(std::string())});
     for (const auto& [layer, count] : m_lonelyDoors)
         doubts.push_back(doubtOf(
             "door-without-wall", count.line,

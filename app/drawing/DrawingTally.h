@@ -19,6 +19,8 @@ public:
                 const std::string& value, int line);
     /// An attribute that gives nothing.
     void passOverAttribute(const std::string& tag, const std::string& block, int line);
+    /// A CLASS that is none, of a block or of entities of a kind.
+    void passOverClass(const std::string& name, const std::string& block, int line);
     /// A door that stands in no wall.
     void leaveOutOfWalls(const std::string& layer, int line);
     /// An element without a handle of its own.
@@ -39,6 +41,7 @@ private:
     std::map<std::tuple<std::string, std::string, std::string>, Count> m_passed;
     std::map<std::tuple<std::string, std::string, std::string, std::string>, Count> m_assumed;
     std::map<std::pair<std::string, std::string>, Count> m_attributes;
+    std::map<std::pair<std::string, std::string>, Count> m_classes;
     std::map<std::string, Count> m_lonelyDoors; ///< by layer
     Count m_handles;
     std::vector<DrawingDoubt> m_doubts;

@@ -1,6 +1,8 @@
 #include "drawing/DrawingWalk.h"
 
+#include "drawing/BlockSearch.h"
 #include "drawing/DrawnShape.h"
+#include "drawing/LayerStates.h"
 #include "drawing/block_nesting.h"
 #include "drawing/dxf/refuse_drawing.h"
 #include "text/words.h"
@@ -10,12 +12,12 @@ namespace firecheck {
 namespace {
 
 constexpr std::size_t kMostVisits = 3000000;
-const std::string kBlockLayer = "0";
 
 class Walk {
 public:
     Walk(const DxfDrawing& drawing, const std::string& fileName, DrawingVisitor& visitor)
-        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor) {}
+        : m_drawing(drawing), m_fileName(fileName), m_visitor(visitor), m_layers(drawing),
+          m_shown(drawing, [this](const DxfEntity& entity) { return showsByItself(entity); }) {}
 
     void visitAll(const std::vector<DxfEntity>& entities, const PlaneMap& map,
                   const std::string* outerLayer) {
@@ -26,7 +28,7 @@ public:
             count(entity);
             if (entity.isInPaperSpace)
                 m_visitor.passOver(placed, filled(Words::tr("it is in paper space")));
-            else if (entity.isInvisible || isHidden(placed.layer))
+            else if (isHidden(placed))
                 m_visitor.passOver(placed,
                                    filled(Words::tr("it is invisible, or its layer is off or frozen")));
             else if (const auto* insert = std::get_if<DxfInsert>(&entity.shape))
@@ -37,19 +39,24 @@ public:
     }
 
 private:
+    /// Whether an entity of a block is seen though its insert is on a layer that is off.
+    bool showsByItself(const DxfEntity& entity) {
+        return !std::holds_alternative<DxfInsert>(entity.shape) && entity.layer != kBlockLayer &&
+               !m_layers.isHidden(entity.layer);
+    }
+
+    bool isHidden(const PlacedEntity& placed) {
+        const DxfEntity& entity = placed.entity;
+        if (entity.isInvisible || m_layers.isFrozen(placed.layer))
+            return true;
+        const auto* insert = std::get_if<DxfInsert>(&entity.shape);
+        return m_layers.isHidden(placed.layer) && !(insert && m_shown.finds(*insert));
+    }
+
     void count(const DxfEntity& entity) {
         if (++m_visits > kMostVisits)
             refuseDrawing(m_fileName, entity.line,
                           filled(Words::tr("expected blocks that come to at most %1 entities"), kMostVisits));
-    }
-
-    bool isHidden(const std::string& layer) {
-        auto known = m_hidden.find(layer);
-        if (known == m_hidden.end()) {
-            const auto row = m_drawing.layers.find(dxfNameKey(layer));
-            known = m_hidden.emplace(layer, row != m_drawing.layers.end() && row->second.isHidden).first;
-        }
-        return known->second;
     }
 
     void visitInsert(const PlacedEntity& placed, const DxfInsert& insert) {
@@ -66,8 +73,16 @@ private:
     }
 
     void visitCell(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
-        if (m_visitor.takeInsert(placed))
-            return;
+        const InsertUse use = m_visitor.takeInsert(placed);
+        if (use == InsertUse::TakenApart)
+            visitApart(placed, insert, block);
+        else if (use == InsertUse::WholeAndParts) {
+            visitBlock(placed, insert, block);
+            m_visitor.leaveParts();
+        }
+    }
+
+    void visitApart(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
         if (block.isExternal) {
             m_visitor.passOver(placed, filled(Words::tr("it refers to another drawing")));
             return;
@@ -76,6 +91,10 @@ private:
             m_visitor.passOver(placed, filled(Words::tr("it does not lie in the plan")));
             return;
         }
+        visitBlock(placed, insert, block);
+    }
+
+    void visitBlock(const PlacedEntity& placed, const DxfInsert& insert, const DxfBlock& block) {
         if (m_depth == kDeepestBlock)
             refuseDrawing(m_fileName, placed.entity.line, tooDeepBlock());
         ++m_depth;
@@ -89,7 +108,8 @@ private:
     const DxfDrawing& m_drawing;
     const std::string& m_fileName;
     DrawingVisitor& m_visitor;
-    std::map<std::string, bool> m_hidden;
+    LayerStates m_layers;
+    BlockSearch m_shown; ///< what shows by itself
     std::size_t m_visits = 0;
     int m_depth = 0;
 };

@@ -18,13 +18,20 @@ struct PlacedEntity {
     int row = 0;
 };
 
+/// What becomes of an insert.
+enum class InsertUse {
+    TakenApart,   ///< what is in its block is visited
+    Whole,        ///< it is done with
+    WholeAndParts ///< what is in its block is visited, and leaveParts called then
+};
+
 /// What a walk through a drawing tells.
 class DrawingVisitor {
 public:
     virtual ~DrawingVisitor() = default;
 
-    /// Whether the insert is one thing as a whole; else what is in its block is visited.
-    virtual bool takeInsert(const PlacedEntity& insert) = 0;
+    virtual InsertUse takeInsert(const PlacedEntity& insert) = 0;
+    virtual void leaveParts() = 0;
     virtual void take(const PlacedEntity& entity) = 0;
     /// An entity that does not count, and why.
     virtual void passOver(const PlacedEntity& entity, const std::string& reason) = 0;

@@ -30,7 +30,7 @@ bool isInMetres(const std::string& key) {
     return QString::fromStdString(key).endsWith("Metres");
 }
 
-/// Tags are upper case and cannot have blanks: "LEAF_WIDTH" is leafWidth.
+/// Tags are upper case and cannot have blanks: "LEAF_WIDTH" is leafWidth. So are the words for classes.
 std::string tagKey(const std::string& tag) {
     return QString::fromStdString(nameKey(tag)).remove('-').toStdString();
 }
@@ -96,6 +96,17 @@ const ElementKeys* ElementKeys::ofClass(const std::string& name) {
             return known.emplace(name, std::unique_ptr<ElementKeys>(new ElementKeys(candidate)))
                 .first->second.get();
     return nullptr;
+}
+
+const ElementKeys* ElementKeys::ofText(const std::string& text) {
+    static const auto names = [] {
+        std::map<std::string, std::string> byTag;
+        for (const SiteClass& siteClass : siteClasses())
+            byTag[tagKey(siteClass.name)] = siteClass.name;
+        return byTag;
+    }();
+    const auto name = names.find(tagKey(text));
+    return name == names.end() ? nullptr : ofClass(name->second);
 }
 
 bool ElementKeys::has(const std::string& key) const {

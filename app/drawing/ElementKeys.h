@@ -14,6 +14,8 @@ class ElementKeys {
 public:
     /// Null for a name that is no class.
     static const ElementKeys* ofClass(const std::string& name);
+    /// The class that a text in a drawing names: "PREFAB_HOUSE" is prefabHouse. Null for none.
+    static const ElementKeys* ofText(const std::string& text);
 
     const SiteClass& siteClass() const { return *m_class; }
     ElementPlan plan() const { return m_plan; }

@@ -1,11 +1,8 @@
 #include "drawing/SiteBuilder.h"
 
-#include "InputError.h"
-#include "drawing/dxf/refuse_drawing.h"
 #include "drawing/exported_data.h"
 #include "drawing/join_lines.h"
 #include "drawing/json_number.h"
-#include "json/parse_json.h"
 #include "text/words.h"
 
 #include <QString>
@@ -21,172 +18,102 @@ std::string hexadecimal(std::uint64_t handle) {
     return handle == 0 ? std::string() : QString::number(handle, 16).toUpper().toStdString();
 }
 
+std::string blockOrType(const DxfEntity& entity) {
+    const auto* insert = std::get_if<DxfInsert>(&entity.shape);
+    return insert ? insert->block : entity.type;
+}
+
+std::string reasonOfWhole() {
+    return filled(Words::tr("it is part of a block that is one element"));
+}
+
 std::string reasonOfShape() {
     return filled(Words::tr("elements of this kind are not drawn so"));
 }
 
-/// "use=office" in extended data is what an attribute is.
-DxfAttribute attributeOf(const std::string& string, int line) {
-    const auto equals = string.find('=');
-    if (equals == std::string::npos)
-        return {string, {}, line};
-    return {string.substr(0, equals), string.substr(equals + 1), line};
-}
-
 } // namespace
 
-SiteBuilder::SiteBuilder(const DxfDrawing& drawing, std::string fileName, std::vector<const LayerMap*> maps,
-                         double millimetresPerUnit)
-    : m_drawing(drawing), m_fileName(std::move(fileName)), m_maps(std::move(maps)),
-      m_millimetresPerUnit(millimetresPerUnit), m_blocks(drawing, m_fileName) {}
+SiteBuilder::SiteBuilder(const DxfDrawing& drawing, const std::string& fileName,
+                         std::vector<const LayerMap*> maps, double millimetresPerUnit)
+    : m_millimetresPerUnit(millimetresPerUnit), m_layers(drawing),
+      m_meanings(drawing, fileName, std::move(maps)),
+      m_blocks(drawing, fileName,
+               [this](const DxfEntity& entity) { return m_meanings.isIgnoredInBlock(entity); }),
+      m_parts(drawing, [this](const DxfEntity& entity) { return mayBePart(entity); }) {}
 
-void SiteBuilder::readExtendedData(const DxfEntity& entity, Meaning& meaning) const {
-    const auto& strings = entity.extendedData;
-    if (strings.empty())
-        return;
-    if (strings.front().rfind('{', 0) != 0) {
-        for (const std::string& string : strings)
-            meaning.attributes.push_back(attributeOf(string, entity.line));
-        return;
-    }
-    std::string text;
-    for (const std::string& string : strings)
-        text += string;
-    const auto fail = [&](const std::string& reason) {
-        refuseDrawing(m_fileName, entity.line,
-                      filled(Words::tr("extended data of the %1: %2"), entity.type, reason));
-    };
-    try {
-        meaning.data = parseJson(text, "JSON");
-    } catch (const InputError& error) {
-        fail(error.what());
-    }
-    const auto name = meaning.data.find("class");
-    if (meaning.data.contains(kSiteDataKey) && meaning.data[kSiteDataKey].is_object()) {
-        meaning.isExported = true;
-        return;
-    }
-    if (name == meaning.data.end() || !name->is_string() || !ElementKeys::ofClass(name->get<std::string>()))
-        fail(filled(Words::tr("expected the \"class\" of an object of site files")));
-    if (meaning.data.contains(kDrawnKey) && !meaning.data[kDrawnKey].is_object())
-        fail(filled(Words::tr("expected an object for \"%1\""), kDrawnKey));
-    meaning.keys = ElementKeys::ofClass(name->get<std::string>());
-    meaning.isExported = true;
+bool SiteBuilder::mayBePart(const DxfEntity& entity) {
+    const PlaneMap map;
+    return std::holds_alternative<DxfText>(entity.shape) ||
+           m_meanings.of({entity, map, entity.layer}).hasOwnMeaning(entity);
 }
 
-void SiteBuilder::readAttributes(const DxfInsert& insert, Meaning& meaning) const {
-    meaning.attributes.insert(meaning.attributes.end(), insert.attributes.begin(), insert.attributes.end());
-    const auto block = m_drawing.blocks.find(dxfNameKey(insert.block));
-    if (block == m_drawing.blocks.end())
-        return;
-    for (const DxfEntity& entity : block->second.entities)
-        if (const auto* definition = std::get_if<DxfAttributeDefinition>(&entity.shape))
-            if (definition->isConstant)
-                meaning.attributes.push_back(definition->attribute);
+bool SiteBuilder::isOfWhole(const DxfEntity& entity, const EntityMeaning& meaning) const {
+    return !m_wholes.empty() && (!meaning.hasOwnMeaning(entity) || meaning.keys == m_wholes.back());
 }
 
-const ElementKeys* SiteBuilder::givenClass(const std::vector<DxfAttribute>& attributes) const {
-    for (const DxfAttribute& attribute : attributes) {
-        bool isClass = nameKey(attribute.tag) == "CLASS";
-        for (const LayerMap* map : m_maps)
-            for (const std::string& key : map->keysOfAttribute(attribute.tag))
-                isClass = isClass || key == "class";
-        const ElementKeys* const keys = isClass ? ElementKeys::ofClass(attribute.value) : nullptr;
-        if (keys)
-            return keys;
-    }
-    return nullptr;
+bool SiteBuilder::isLostInWhole(const EntityMeaning& meaning) const {
+    return !m_wholes.empty() && meaning.keys->plan() != ElementPlan::Box;
 }
 
-const LayerRow* SiteBuilder::rowOf(const PlacedEntity& placed, bool& isOfLayerOnly) {
-    const auto rows = [this](
-        std::map<std::string, std::vector<const LayerRow*>> & known, const std::string& name,
-        const LayerRow* (LayerMap::*rowOfName)(const std::string&) const) -> const auto& {
-        auto found = known.find(name);
-        if (found == known.end()) {
-            found = known.emplace(name, std::vector<const LayerRow*>()).first;
-            for (const LayerMap* map : m_maps)
-                found->second.push_back((map->*rowOfName)(name));
-        }
-        return found->second;
-    };
-    const auto& ofLayer = rows(m_layerRows, placed.layer, &LayerMap::rowOfLayer);
-    const auto* insert = std::get_if<DxfInsert>(&placed.entity.shape);
-    for (std::size_t i = 0; i < m_maps.size(); ++i) {
-        const LayerRow* const ofBlock =
-            insert ? rows(m_blockRows, insert->block, &LayerMap::rowOfBlock)[i] : nullptr;
-        isOfLayerOnly = !ofBlock;
-        if (ofBlock)
-            return ofBlock;
-        if (ofLayer[i])
-            return ofLayer[i];
-    }
-    return nullptr;
-}
-
-SiteBuilder::Meaning SiteBuilder::meaningOf(const PlacedEntity& placed) {
-    Meaning meaning;
-    readExtendedData(placed.entity, meaning);
-    if (meaning.isExported)
-        return meaning;
-    if (const auto* insert = std::get_if<DxfInsert>(&placed.entity.shape))
-        readAttributes(*insert, meaning);
-    meaning.keys = givenClass(meaning.attributes);
-    const LayerRow* const row = rowOf(placed, meaning.isOfLayerOnly);
-    if (!row)
-        return meaning;
-    if (row->isIgnored())
-        meaning.isIgnored = !meaning.keys;
-    else {
-        const ElementKeys* const keys = ElementKeys::ofClass(row->values.at("class").get<std::string>());
-        if (!meaning.keys || meaning.keys == keys) {
-            meaning.row = row;
-            meaning.isOfLayerOnly = meaning.isOfLayerOnly && !meaning.keys;
-        } else
-            meaning.isOfLayerOnly = false;
-        meaning.keys = meaning.keys ? meaning.keys : keys;
-    }
-    return meaning;
-}
-
-bool SiteBuilder::takeInsert(const PlacedEntity& insert) {
-    const Meaning meaning = meaningOf(insert);
+InsertUse SiteBuilder::takeInsert(const PlacedEntity& insert) {
+    const EntityMeaning meaning = m_meanings.of(insert);
     if (meaning.isIgnored)
-        return true;
+        return InsertUse::Whole;
+    if (isOfWhole(insert.entity, meaning))
+        return InsertUse::TakenApart;
+    tellUnknownClass(meaning, insert.entity);
     if (!meaning.keys)
-        return false;
+        return InsertUse::TakenApart;
+    if (isLostInWhole(meaning)) {
+        passOver(insert, reasonOfWhole());
+        return InsertUse::Whole;
+    }
     // An arrow on a road's layer is no road.
     const bool isOfLines =
         meaning.keys->plan() == ElementPlan::Route || meaning.keys->plan() == ElementPlan::Wall;
-    if (meaning.isOfLayerOnly && isOfLines)
-        return false;
-    const auto shape = m_blocks.symbol(insert.entity, insert.map, insert.column, insert.row);
+    // A layer that is off says nothing of what shows all the same.
+    const bool isOff = m_layers.isHidden(insert.layer);
+    return meaning.isOfLayerOnly && (isOfLines || isOff) ? InsertUse::TakenApart : takeWhole(insert, meaning);
+}
+
+InsertUse SiteBuilder::takeWhole(const PlacedEntity& insert, const EntityMeaning& meaning) {
+    const auto shape = m_blocks.symbol(insert);
     if (!shape)
         passOver(insert, filled(Words::tr("it does not lie in the plan, or its scale distorts it")));
     else if (!addElements(*shape, meaning, insert.entity, insert.layer))
         passOver(insert, reasonOfShape());
-    return true;
+    else if (!meaning.isExported && m_parts.finds(std::get<DxfInsert>(insert.entity.shape))) {
+        m_wholes.push_back(meaning.keys);
+        return InsertUse::WholeAndParts;
+    }
+    return InsertUse::Whole;
 }
 
 void SiteBuilder::take(const PlacedEntity& placed) {
     const DxfEntity& entity = placed.entity;
     if (std::holds_alternative<DxfAttributeDefinition>(entity.shape))
         return; // a form without values
-    const Meaning meaning = meaningOf(placed);
+    const EntityMeaning meaning = m_meanings.of(placed);
     if (meaning.isIgnored)
         return;
-    if (meaning.isExported && !meaning.keys) {
+    const auto* text = std::get_if<DxfText>(&entity.shape);
+    if (!text && isOfWhole(entity, meaning))
+        return;
+    tellUnknownClass(meaning, entity);
+    if (meaning.isExported && !meaning.keys)
         m_siteValues = meaning.data.at(kSiteDataKey);
-        return;
-    }
-    if (const auto* text = std::get_if<DxfText>(&entity.shape)) {
+    else if (text)
         addText(placed, *text);
-        return;
-    }
-    if (!meaning.keys) {
+    else if (!meaning.keys)
         passOver(placed, filled(Words::tr("nothing tells what it is")));
-        return;
-    }
+    else if (isLostInWhole(meaning))
+        passOver(placed, reasonOfWhole());
+    else
+        takeShape(placed, meaning);
+}
+
+void SiteBuilder::takeShape(const PlacedEntity& placed, const EntityMeaning& meaning) {
+    const DxfEntity& entity = placed.entity;
     if (std::holds_alternative<DxfOther>(entity.shape)) {
         passOver(placed, filled(Words::tr("such entities are not read")));
         return;
@@ -206,10 +133,14 @@ void SiteBuilder::take(const PlacedEntity& placed) {
 }
 
 void SiteBuilder::passOver(const PlacedEntity& placed, const std::string& reason) {
-    bool isOfLayerOnly = false;
-    const LayerRow* const row = rowOf(placed, isOfLayerOnly);
-    if (!row || !row->isIgnored())
+    const bool isDetail = !m_wholes.empty() && isOfWhole(placed.entity, m_meanings.of(placed));
+    if (!isDetail && !m_meanings.isIgnoredByTable(placed))
         m_tally.passOver(placed.entity.type, placed.layer, reason, placed.entity.line);
+}
+
+void SiteBuilder::tellUnknownClass(const EntityMeaning& meaning, const DxfEntity& entity) {
+    if (meaning.unknownClass)
+        m_tally.passOverClass(meaning.unknownClass->value, blockOrType(entity), meaning.unknownClass->line);
 }
 
 void SiteBuilder::addText(const PlacedEntity& placed, const DxfText& text) {
@@ -219,26 +150,27 @@ void SiteBuilder::addText(const PlacedEntity& placed, const DxfText& text) {
                            placed.entity.type, placed.entity.line});
 }
 
-Json SiteBuilder::givenValues(const Meaning& meaning, const DrawnShape& shape, const DxfEntity& entity) {
+Json SiteBuilder::givenValues(const EntityMeaning& meaning, const DrawnShape& shape,
+                              const DxfEntity& entity) {
     Json values = {{"class", meaning.keys->siteClass().name}};
     if (shape.width > 0.0 && meaning.keys->has("width"))
         values["width"] = std::llround(shape.width);
-    const auto* insert = std::get_if<DxfInsert>(&entity.shape);
     // Extended data stand first and go before what follows.
     std::map<std::string, bool> isGiven;
     for (const DxfAttribute& attribute : meaning.attributes) {
-        const std::string key = meaning.keys->keyOf(attribute.tag, m_maps);
+        const std::string key = meaning.keys->keyOf(attribute.tag, m_meanings.maps());
         if (key.empty())
-            m_tally.passOverAttribute(attribute.tag, insert ? insert->block : entity.type, attribute.line);
+            m_tally.passOverAttribute(attribute.tag, blockOrType(entity), attribute.line);
         else if (key != "class" && key != "handle" && !attribute.value.empty() && !isGiven[key]) {
-            values[key] = meaning.keys->valueOf(key, attribute.value, m_millimetresPerUnit, m_maps);
+            values[key] =
+                meaning.keys->valueOf(key, attribute.value, m_millimetresPerUnit, m_meanings.maps());
             isGiven[key] = true;
         }
     }
     return values;
 }
 
-bool SiteBuilder::addElements(const DrawnShape& shape, const Meaning& meaning, const DxfEntity& entity,
+bool SiteBuilder::addElements(const DrawnShape& shape, const EntityMeaning& meaning, const DxfEntity& entity,
                               const std::string& layer) {
     const ElementPlan plan = meaning.keys->plan();
     std::vector<Json> geometries = elementGeometry(

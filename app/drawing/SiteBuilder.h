@@ -1,12 +1,12 @@
 #pragma once
 
+#include "drawing/BlockSearch.h"
 #include "drawing/BlockShapes.h"
 #include "drawing/DrawingTally.h"
 #include "drawing/DrawingWalk.h"
 #include "drawing/DrawnElement.h"
-#include "drawing/LayerMap.h"
+#include "drawing/EntityMeanings.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,10 +16,11 @@ namespace firecheck {
 class SiteBuilder : public DrawingVisitor {
 public:
     /// `maps` stand in the order in which they are asked.
-    SiteBuilder(const DxfDrawing& drawing, std::string fileName, std::vector<const LayerMap*> maps,
+    SiteBuilder(const DxfDrawing& drawing, const std::string& fileName, std::vector<const LayerMap*> maps,
                 double millimetresPerUnit);
 
-    bool takeInsert(const PlacedEntity& insert) override;
+    InsertUse takeInsert(const PlacedEntity& insert) override;
+    void leaveParts() override { m_wholes.pop_back(); }
     void take(const PlacedEntity& entity) override;
     void passOver(const PlacedEntity& entity, const std::string& reason) override;
 
@@ -33,44 +34,36 @@ public:
     const Json& siteValues() const { return m_siteValues; }
 
 private:
-    /// What an entity is, before its shape is looked at.
-    struct Meaning {
-        const ElementKeys* keys = nullptr; ///< null when nothing says it
-        bool isIgnored = false;
-        bool isOfLayerOnly = false;
-        bool isExported = false;
-        Json data; ///< of the exporter
-        const LayerRow* row = nullptr;
-        std::vector<DxfAttribute> attributes; ///< and the extended data that are like them
-    };
     /// A line that may be a part of an outline.
     struct LooseLine {
         DrawnShape shape;
-        Meaning meaning;
+        EntityMeaning meaning;
         const DxfEntity* entity;
         std::string layer;
     };
 
-    Meaning meaningOf(const PlacedEntity& placed);
-    void readExtendedData(const DxfEntity& entity, Meaning& meaning) const;
-    void readAttributes(const DxfInsert& insert, Meaning& meaning) const;
-    const LayerRow* rowOf(const PlacedEntity& placed, bool& isOfLayerOnly);
-    const ElementKeys* givenClass(const std::vector<DxfAttribute>& attributes) const;
-
+    bool mayBePart(const DxfEntity& entity);
+    InsertUse takeWhole(const PlacedEntity& insert, const EntityMeaning& meaning);
+    /// Whether it lies in a block that is one element, and means nothing else.
+    bool isOfWhole(const DxfEntity& entity, const EntityMeaning& meaning) const;
+    /// Whether it lies in a block that is one element, and is none of the site: things stand in houses, but
+    /// the walls and doors of houses are not those of the site.
+    bool isLostInWhole(const EntityMeaning& meaning) const;
+    void takeShape(const PlacedEntity& placed, const EntityMeaning& meaning);
     /// False for a shape that the element cannot have.
-    bool addElements(const DrawnShape& shape, const Meaning& meaning, const DxfEntity& entity,
+    bool addElements(const DrawnShape& shape, const EntityMeaning& meaning, const DxfEntity& entity,
                      const std::string& layer);
     /// What the entity itself gives beside its place.
-    Json givenValues(const Meaning& meaning, const DrawnShape& shape, const DxfEntity& entity);
+    Json givenValues(const EntityMeaning& meaning, const DrawnShape& shape, const DxfEntity& entity);
+    void tellUnknownClass(const EntityMeaning& meaning, const DxfEntity& entity);
     void addText(const PlacedEntity& placed, const DxfText& text);
 
-    const DxfDrawing& m_drawing;
-    const std::string m_fileName;
-    const std::vector<const LayerMap*> m_maps;
     const double m_millimetresPerUnit;
+    LayerStates m_layers;
+    EntityMeanings m_meanings;
     BlockShapes m_blocks;
-    std::map<std::string, std::vector<const LayerRow*>> m_layerRows; ///< by layer, one for each map
-    std::map<std::string, std::vector<const LayerRow*>> m_blockRows;
+    BlockSearch m_parts;                      ///< texts, and what has a meaning of its own
+    std::vector<const ElementKeys*> m_wholes; ///< of the blocks that are one element, in which the walk is
     std::vector<DrawnElement> m_elements;
     std::vector<DrawnText> m_texts;
     std::vector<LooseLine> m_looseLines;

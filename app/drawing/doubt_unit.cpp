@@ -1,6 +1,7 @@
 #include "drawing/doubt_unit.h"
 
 #include "drawing/dxf_units.h"
+#include "drawing/sound_geometry.h"
 #include "text/words.h"
 
 #include <QString>
@@ -31,7 +32,7 @@ double extentOf(const Json& points) {
 /// How long a house, yard or route is; 0 for what is no such thing.
 double sizeOf(const DrawnElement& element) {
     const Json& object = element.object;
-    if (element.isExported)
+    if (element.isExported || !hasSoundGeometry(object))
         return 0.0;
     if (element.keys->plan() == ElementPlan::Route || element.keys->plan() == ElementPlan::Wall)
         return extentOf({object["start"], object["end"]});

@@ -1,6 +1,7 @@
 #include "drawing/BoxGrid.h"
 #include "drawing/DrawnElement.h"
 #include "drawing/json_number.h"
+#include "drawing/sound_geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,7 +40,8 @@ std::vector<Axis> axesOf(const std::vector<DrawnElement>& elements, BoxGrid& gri
     std::vector<Axis> axes;
     for (std::size_t i = 0; i < elements.size(); ++i) {
         const Json& object = elements[i].object;
-        if (object["class"] != "wall" || elements[i].isExported)
+        const bool isWall = object["class"] == "wall" && object.contains("start") && object.contains("end");
+        if (!isWall || !hasSoundGeometry(object))
             continue;
         const Point start = pointOf(object["start"]);
         const Point end = pointOf(object["end"]);
@@ -94,14 +96,24 @@ void enter(const DrawnElement& door, const Axis& axis, Json& wall) {
     wall["doors"].push_back(std::move(entry));
 }
 
-/// A wall lists its doors along its axis, each at a place of its own.
+/// A wall lists its doors along its axis, each under a key of its own: its distance unless another has that.
 void order(Json& doors) {
     const auto distance = [](const Json& entry) { return entry["distance"].get<double>(); };
     std::stable_sort(doors.begin(), doors.end(),
                      [&](const Json& a, const Json& b) { return distance(a) < distance(b); });
-    for (std::size_t i = 1; i < doors.size(); ++i)
-        if (distance(doors[i]) == distance(doors[i - 1]))
-            doors[i]["key"] = distance(doors[i]) + 1e-3 * double(i);
+    std::set<double> taken;
+    for (const Json& entry : doors)
+        if (entry.contains("key") && entry["key"].is_number())
+            taken.insert(entry["key"].get<double>());
+    for (Json& entry : doors) {
+        if (entry.contains("key"))
+            continue;
+        double key = distance(entry);
+        while (!taken.insert(key).second)
+            key = std::max(key + 1e-3, std::nextafter(key, HUGE_VAL));
+        if (key != distance(entry))
+            entry["key"] = key;
+    }
 }
 
 } // namespace
@@ -114,7 +126,8 @@ std::vector<std::size_t> joinDoors(std::vector<DrawnElement>& elements) {
     std::set<std::size_t> walls;
     for (std::size_t i = 0; i < elements.size(); ++i) {
         Json& door = elements[i].object;
-        if (door["class"] != "door" || elements[i].isExported || joined.count(elements[i].handle) != 0)
+        const bool isJoined = elements[i].isExported || joined.count(elements[i].handle) != 0;
+        if (door["class"] != "door" || isJoined || !hasSoundGeometry(door))
             continue;
         const Point position = pointOf(door["position"]);
         const double reach = std::min(kReach + 0.5 * elements[i].symbolDepth, kMostReach);

@@ -1,5 +1,6 @@
 #include "drawing/BoxGrid.h"
 #include "drawing/DrawnElement.h"
+#include "drawing/sound_geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,7 @@ struct Outline {
 std::vector<Outline> outlinesOf(const std::vector<DrawnElement>& elements, BoxGrid& grid) {
     std::vector<Outline> outlines;
     for (std::size_t i = 0; i < elements.size(); ++i) {
-        if (elements[i].isExported)
+        if (elements[i].isExported || !hasSoundGeometry(elements[i].object))
             continue;
         std::vector<Point> corners = cornersOf(elements[i].object);
         if (corners.size() < 3)

@@ -1,6 +1,7 @@
 #include "drawing/dxf/write_dxf.h"
 #include "explain/measure_text.h"
 #include "report/ReportWriter.h"
+#include "report/drawn_measures.h"
 #include "report/plan/plan_svg.h"
 #include "text/words.h"
 
@@ -97,13 +98,8 @@ private:
                 drawPath(path, layer, isAccepted);
             m_numbers[record.handle].push_back(index);
         }
-        const bool nearestOnly = record.type == QLatin1String("position");
-        for (const Measure& measure : finding.measures) {
-            if (measure.points)
-                drawMeasure(measure, layer, isAccepted);
-            if (nearestOnly)
-                break;
-        }
+        for (const Measure* const measure : drawnMeasures(record, finding))
+            drawMeasure(*measure, layer, isAccepted);
     }
 
     void drawPath(const PlanPath& path, const std::string& layer, bool isAccepted) {

@@ -59,6 +59,7 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
         return blocks + block("B20", "0\nLINE\n10\n0\n20\n0\n11\n1\n21\n1\n");
     }();
     const std::string line = "0\nLINE\n8\nWALLS\n10\n0\n20\n0\n11\n";
+    const std::string gate = "0\nPOINT\n8\nGATES\n10\n3\n20\n0\n";
     const struct {
         std::string text;
         std::string expected;
@@ -81,6 +82,11 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
         {drawing(line + "1,5\n21\n0\n"), "plan.dxf:20: expected a finite number for group 11, found \"1,5\""},
         {drawing(line + "5\n"), "plan.dxf:12: LINE: expected group 21"},
         {drawing("0\nLWPOLYLINE\n20\n1\n"), "plan.dxf:14: expected group 10 of a vertex before group 20"},
+        {drawing("0\nLWPOLYLINE\n10\n0\n10\n9\n20\n7\n"), "plan.dxf:14: LWPOLYLINE: expected group 20"},
+        {drawing("0\nLWPOLYLINE\n10\n0\n20\n0\n10\n9\n42\n1\n"),
+         "plan.dxf:18: LWPOLYLINE: expected group 20"},
+        {drawing("0\nARC\n10\n0\n20\n0\n40\n-5\n50\n0\n51\n90\n"),
+         "plan.dxf:18: ARC: expected a radius of at least 0"},
         {drawing("0\nLWPOLYLINE\n70\n1.5\n"), "plan.dxf:14: expected a whole number for group 70"},
         {drawing(insert("A", "70\n30000\n71\n30000\n")),
          "plan.dxf:12: INSERT: expected an array of at most 1000000 cells"},
@@ -95,6 +101,12 @@ TEST(Drawing, WhatIsNoDrawingIsRefusedAtItsLine) {
          "extended data of the POINT: expected the \"class\""},
         {drawing("0\nPOINT\n5\n1F\n8\nGATES\n10\n0\n20\n0\n1001\nFIRECHECK\n1000\nPOST_WIDTH=wide\n"),
          "plan.dxf:12:1: #31 (entity 1F, layer \"GATES\"), /objects/0/postWidth: expected an integer"},
+        {drawing(line + "5\n21\n0\n1001\nFIRECHECK\n1000\nSTART=here\n" + gate),
+         "plan.dxf:12:1: #1 (layer \"WALLS\"), /objects/0/start: expected a point"},
+        {drawing(line + "5\n21\n0\n1001\nFIRECHECK\n1000\n{\"class\": \"wall\", \"doors\": [7]}\n" + gate),
+         "/objects/0/doors/0: expected an object"},
+        {drawing("0\nCIRCLE\n8\nLAWN\n10\n0\n20\n0\n40\n5\n1001\nFIRECHECK\n1000\nCIRCLE=7\n"),
+         "/objects/0/circle: expected an object"},
     };
     for (const auto& row : rows)
         EXPECT_THAT(complaint(row.text), HasSubstr(row.expected));
@@ -135,6 +147,91 @@ TEST(Drawing, GroupsMayStandInAnyOrder) {
     }
 }
 
+std::string rectangle(double x, double y, double width, double height, const std::string& further) {
+    std::string tags = "0\nLWPOLYLINE\n70\n1\n" + further;
+    for (const auto& [dx, dy] : {std::pair(0.0, 0.0), {width, 0.0}, {width, height}, {0.0, height}})
+        tags += "10\n" + std::to_string(x + dx) + "\n20\n" + std::to_string(y + dy) + "\n";
+    return tags;
+}
+
+TEST(Drawing, WhatDoesNotCountDoesNotCountInABlockEither) {
+    const std::string layers =
+        section("TABLES", "0\nLAYER\n2\nFROZEN\n70\n1\n0\nLAYER\n2\nOFF\n70\n0\n62\n-7\n");
+    const std::string house = rectangle(0, 0, 8000, 5000, "8\n0\n");
+    const struct {
+        std::string further; ///< in the block
+        std::string blocks;
+        bool isPart;
+    } rows[] = {
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n"), "", true},
+        {rectangle(-9000, -9000, 27000, 24000, "8\nFROZEN\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\noff\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n67\n1\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\n0\n60\n1\n"), "", false},
+        {rectangle(-9000, -9000, 27000, 24000, "8\nDefpoints\n"), "", false},
+        {"0\nINSERT\n8\nDefpoints\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), false},
+        {"0\nINSERT\n8\nOFF\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), false},
+        {"0\nINSERT\n8\nOFF\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\nA\n")), true},
+        {"0\nINSERT\n8\nFROZEN\n2\nLARGE\n10\n0\n20\n0\n",
+         block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\nA\n")), false},
+        {insert("LARGE"), block("LARGE", rectangle(-9000, -9000, 27000, 24000, "8\n0\n")), true},
+    };
+    for (const auto& row : rows) {
+        const std::string blocks = row.blocks + block("OFFICE", house + row.further);
+        const Json objects = objectsOf(layers + drawing(insert("OFFICE"), blocks));
+        ASSERT_EQ(objects.size(), 1u) << row.further;
+        EXPECT_EQ(objects[0]["length"], row.isPart ? 27000 : 8000) << row.further;
+    }
+    // Layers that are off hide what lies on them; frozen ones whole blocks.
+    for (const auto& [layer, count] : {std::pair("OFF", 1u), {"FROZEN", 0u}, {"A", 2u}}) {
+        const std::string carrier =
+            block("CARRIER", rectangle(0, 0, 8000, 5000, "8\nOFFICES\n") + insert("OFFICE"));
+        const std::string entities = "0\nINSERT\n8\n" + std::string(layer) + "\n2\nCARRIER\n10\n0\n20\n0\n";
+        const Json objects = objectsOf(layers + drawing(entities, carrier + block("OFFICE", house)));
+        EXPECT_EQ(objects.size(), count) << layer;
+    }
+    // An insert on a layer that does not count is an element by its block, and what lies on "0" is its shape.
+    EXPECT_EQ(objectsOf(drawing("0\nINSERT\n8\nDefpoints\n2\nOFFICE\n10\n0\n20\n0\n",
+                                block("OFFICE", house)))[0]["length"],
+              8000);
+}
+
+TEST(Drawing, AGateIsEnteredIntoAWallThatWasExported) {
+    const std::string data = R"({"class": "wall", "doors": [{"distance": 13000, "door": null}]})";
+    const Json objects =
+        objectsOf(drawing("0\nLINE\n8\nWALLS\n5\nA\n10\n0\n20\n0\n11\n50000\n21\n0\n1001\nFIRECHECK\n1000\n" +
+                          data + "\n0\nLINE\n8\nGATES\n5\nB\n10\n10000\n20\n0\n11\n16000\n21\n0\n"));
+    const char* const expected = R"([{"distance": 13000, "door": null},
+                                     {"distance": 13000, "door": 11, "key": 13000.001, "width": 6000}])";
+    EXPECT_EQ(nlohmann::json::parse(objects[0]["doors"].dump()), nlohmann::json::parse(expected));
+}
+
+TEST(Drawing, WhatStandsInAHouseThatIsABlockIsNotLost) {
+    const std::string box = insert("HYDRANT") + "0\nTEXT\n8\nNOTES\n10\n1000\n20\n2000\n40\n500\n1\n食堂\n";
+    const std::string parts =
+        box + "0\nPOINT\n8\nEXTINGUISHERS\n10\n1000\n20\n1000\n"
+              "0\nLINE\n8\nWALLS\n10\n0\n20\n0\n11\n9\n21\n0\n0\nLINE\n8\nHOUSES\n10\n0\n20\n0\n"
+              "11\n9\n21\n0\n0\nHATCH\n8\n0\n";
+    const std::string blocks = block("HYDRANT", rectangle(-200, -200, 400, 400, "8\n0\n")) +
+                               block("PARTS", parts) +
+                               block("HOUSE", rectangle(0, 0, 8000, 5000, "8\n0\n") + insert("PARTS"));
+    const SiteFile file =
+        parseDrawing(drawing(insert("HOUSE", "5\nFF\n70\n2\n44\n9000\n"), blocks), "plan.dxf");
+    std::string found;
+    for (const Json& object : file.value["objects"])
+        found += object["class"].get<std::string>() + " " + object.value("use", "-") + " " +
+                 (object.contains("center") ? object["center"] : object["position"]).dump() + "\n";
+    EXPECT_EQ(found, "closedHouse 食堂 [4000,2500]\nmodel - [0,0]\nextinguisherBox - [1000,1000]\n"
+                     "closedHouse 食堂 [13000,2500]\nmodel - [9000,0]\nextinguisherBox - [10000,1000]\n");
+    std::string told;
+    for (const DrawingDoubt& doubt : file.drawing->doubts)
+        told += doubt.code == "not-taken-up" ? doubt.message : "";
+    EXPECT_EQ(told, "2 LINE on layer \"WALLS\" not taken up: it is part of a block that is one element");
+}
+
 TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
     std::string entities;
     for (const char* const handle : {"1F", "1F", "none"})
@@ -146,6 +243,51 @@ TEST(Drawing, DuplicateAndMissingHandlesAreReplacedAndTold) {
     EXPECT_EQ(handles, (std::vector<long long>{31, 32, 33}));
     ASSERT_EQ(file.drawing->doubts.size(), 1u);
     EXPECT_EQ(file.drawing->doubts[0].code, "replaced-handle");
+}
+
+TEST(Drawing, NamesMeanWhatTheyNameLast) {
+    const struct {
+        std::string name;
+        std::string expected; ///< "" for what means nothing
+    } rows[] = {
+        {"总配电箱", "model"},    {"二级配电箱", "model"},      {"总配电室", "totalStepDownSubstation"},
+        {"消防管路", ""},         {"消防道路", "road"},         {"临时消防通路", "road"},
+        {"消防车道边线", "road"}, {"消防道路灯", "ignore"},     {"宿舍楼道路灯", "ignore"},
+        {"围墙大门", "door"},     {"大门围墙", "wall"},         {"围墙", "wall"},
+        {"1#大门位置", "door"},   {"Site$0$Fire Lane", "road"},
+    };
+    for (const auto& row : rows) {
+        const LayerRow* const found = LayerMap::convention().rowOfLayer(row.name);
+        EXPECT_EQ(found ? found->values["class"].get<std::string>() : "", row.expected) << row.name;
+        EXPECT_EQ(found && found->values.contains("fireRoad"), row.expected == "road") << row.name;
+    }
+}
+
+TEST(Drawing, AClassThatIsNoneIsTold) {
+    const struct {
+        std::string data;
+        std::string expected;
+        std::string suggestion; ///< "-" where nothing is told
+    } rows[] = {
+        {"CLASS=POSTER", "poster", "-"},
+        {"Class=Tower_Crane", "towerCrane", "-"},
+        {"CLASS=towerCran", "wall", "towerCrane"},
+        {"CLASS=tree", "wall", ""},
+        {"类型=砖墙", "wall", "-"},
+        {"CLASS=", "wall", "-"},
+    };
+    for (const auto& row : rows) {
+        const SiteFile file = parseDrawing(drawing("0\nLINE\n5\nA\n8\nWALLS\n10\n0\n20\n0\n11\n9000\n21\n0\n"
+                                                   "1001\nFIRECHECK\n1000\n" +
+                                                   row.data + "\n"),
+                                           "plan.dxf");
+        EXPECT_EQ(file.value["objects"][0]["class"], row.expected) << row.data;
+        std::string told = "-";
+        for (const DrawingDoubt& doubt : file.drawing->doubts)
+            if (doubt.code == "not-taken-up")
+                told = doubt.suggestion;
+        EXPECT_EQ(told, row.suggestion) << row.data;
+    }
 }
 
 TEST(Drawing, TablesOfLayersAreRefusedWithTheirPlaces) {

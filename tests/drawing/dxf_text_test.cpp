@@ -46,6 +46,8 @@ TEST(DxfEncoding, BelievesTheBytesBeforeTheHeader) {
         {"\xC1\xE5\xF1\xEE\xED", "AC1015", "ANSI_1251", "Бесон", false},
         {"\xA7\x41", "AC1015", "ANSI_950", "你", false},
         {"\xFF\xFE\xFF", "AC1015", "ANSI_936", "\uFFFD\uFFFD\uFFFD", true},
+        {"宿舍 食堂 \xE6\xB3\xA8\xE9\x87X", "AC1032", "", "宿舍 食堂 注\uFFFD\uFFFDX", true},
+        {"宿舍 食堂 \xE9\x87X", "AC1015", "unheard", "宿舍 食堂 \uFFFD\uFFFDX", true},
         {"plain", "AC1009", "unheard", "plain", false},
     };
     for (const auto& row : rows) {

@@ -8,6 +8,7 @@ import json
 import logging
 import math
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -103,6 +104,16 @@ class Overlay(InADirectory):
         line = next(line for line in document.modelspace().query("LINE")
                     if line.dxf.layer.endswith("-PrefabHouseToPrefabHouse"))
         self.assertAlmostEqual((line.dxf.start - line.dxf.end).magnitude, 3500, places=5)
+
+    def test_rules_have_the_colours_of_the_page(self):
+        light = (EXAMPLES / "../app/report/plan/plan.css").read_text("utf-8").split("@media")[0]
+        palette = re.findall(r"\.c\d \{ --rule: #([0-9a-f]{6}); \}", light)
+        run("check", EXAMPLES / "every-rule-offends.json", "--format", "dxf", "-o", self.path / "found.dxf", status=1)
+        document = ezdxf.readfile(self.path / "found.dxf")
+        colours = {int(layer.dxf.name[3:5]): "%02x%02x%02x" % layer.rgb
+                   for layer in document.layers if re.match("FC-(?!00)", layer.dxf.name)}
+        self.assertGreater(len(colours), len(palette))
+        self.assertEqual(colours, {rule: palette[(rule - 1) % len(palette)] for rule in colours})
 
     def test_has_the_unit_of_the_drawing(self):
         document = ezdxf.new("R2010")
@@ -226,18 +237,21 @@ class Drawn(InADirectory):
                           "elevation": 3000, "use": "厕所"})
 
     def test_texts_in_every_encoding(self):
-        for version, encoding, doubt in [("R12", "gbk", ""), ("R2000", "gbk", ""), ("R2000", "cp1252", ""),
-                                         ("R2004", "utf-8", ""), ("R2018", None, "")]:
-            with self.subTest(version=version, encoding=encoding):
+        # What the header says, and the bytes that are saved.
+        for version, said, saved in [("R12", "gbk", None), ("R2000", "gbk", None), ("R2000", "cp1252", None),
+                                     ("R2018", "utf-8", None), ("R2000", "cp1252", "gbk"), ("R2004", "cp1252", "utf-8"),
+                                     ("R2004", "gbk", "utf-8"), ("R2018", "utf-8", "gbk")]:
+            with self.subTest(version=version, said=said, saved=saved):
                 document = ezdxf.new(version, units=4)
-                document.encoding = encoding or "utf-8"
+                document.encoding = said
                 if version != "R12":
                     document.header["$INSUNITS"] = 4
                 document.modelspace().add_circle((0, 0), 4000, dxfattribs={"layer": "消防水池"})
                 document.modelspace().add_text("一号水池", dxfattribs={"insert": (0, 0), "height": 500})
-                site, told = self.site(document)
+                site, told = self.site(document, encoding=saved)
                 self.assertEqual([row["name"] for row in site.values()], ["一号水池"])
                 self.assertEqual(next(iter(site.values()))["circle"], {"center": [0, 0], "radius": 4000})
+                self.assertEqual("--encoding decides" in told, saved is not None)
 
     def test_wrong_code_page_and_wrong_unit_are_doubted(self):
         document = ezdxf.new("R2000", units=4)

@@ -111,7 +111,8 @@ struct DxfBlock {
 };
 
 struct DxfLayer {
-    bool isHidden = false; ///< off or frozen
+    bool isOff = false;    ///< hides its entities
+    bool isFrozen = false; ///< hides its entities, and all of a block that is inserted on it
     int colour = -1;       ///< as 0xRRGGBB
 };
 
@@ -127,6 +128,9 @@ struct DxfDrawing {
 
 /// Under which name of an application extended data is ours.
 inline const std::string kDxfApplication = "FIRECHECK";
+
+/// The layer that stands in a block for the one of its insert.
+inline const std::string kBlockLayer = "0";
 
 /// Names of layers and blocks are the same whatever their letter case.
 std::string dxfNameKey(const std::string& name);

@@ -19,6 +19,7 @@ namespace {
 const char* const kUtf8 = "UTF-8";
 const char* const kChinese = "GB18030";
 const char* const kWestern = "CP1252";
+const char* const kNoCharacter = "\uFFFD";
 
 /// One conversion to UTF-8.
 class Converter {
@@ -106,6 +107,17 @@ bool hasThreeByteCharacters(std::string_view bytes) {
     return found;
 }
 
+/// Programs cut texts within a character. The rest of such a drawing is UTF-8 all the same.
+bool isMostlyUtf8(std::string_view bytes) {
+    std::size_t valid = 0;
+    std::size_t all = 0;
+    everyRun(bytes, [&](std::string_view run) {
+        ++all;
+        valid += isValid(run, kUtf8) ? 1 : 0;
+    });
+    return 2 * valid > all;
+}
+
 /// Whether all that is not ASCII comes in pairs of bytes as GB 2312 has them. Letters of European languages
 /// stand alone between ASCII letters.
 bool looksChinese(std::string_view bytes) {
@@ -154,14 +166,15 @@ bool isUtf8Version(const std::string& version) {
     return version.size() == 6 && upper(version) >= "AC1021";
 }
 
-/// The encoding that the bytes are in for sure, or nothing when what the header says will do.
+/// The encoding that the bytes are in rather than in the one that the header says; nothing when that will do.
 std::optional<std::string> betterEncoding(std::string_view bytes, const std::optional<std::string>& said) {
-    const bool isUtf8 = isValid(bytes, kUtf8);
     if (said && *said == kUtf8)
-        return isUtf8 ? std::nullopt : std::optional<std::string>(kChinese);
-    if (isUtf8 && (!said || hasThreeByteCharacters(bytes) || !isValid(bytes, *said)))
+        return isMostlyUtf8(bytes) ? std::nullopt : std::optional<std::string>(kChinese);
+    if (!said || !isValid(bytes, *said))
+        return isMostlyUtf8(bytes) ? kUtf8 : kChinese;
+    if (hasThreeByteCharacters(bytes) && isValid(bytes, kUtf8))
         return kUtf8;
-    if (!said || !isValid(bytes, *said) || (!isManyByte(*said) && looksChinese(bytes)))
+    if (!isManyByte(*said) && looksChinese(bytes))
         return kChinese;
     return std::nullopt;
 }
@@ -184,9 +197,15 @@ DxfEncoding DxfEncoding::ofFile(std::string_view bytes, const std::string& versi
     if (isAscii(bytes))
         return DxfEncoding(said.value_or(kUtf8));
     const auto better = betterEncoding(bytes, said);
-    if (!better)
-        return DxfEncoding(*said);
-    DxfEncoding encoding(*better);
+    DxfEncoding encoding(better.value_or(said.value_or(kUtf8)));
+    if (!better) {
+        if (!isValid(bytes, encoding.m_name))
+            encoding.m_doubt =
+                filled(Words::tr("not all bytes of the drawing's texts are %1, as it says; those that are "
+                                 "not became \"%2\"; --encoding decides"),
+                       encoding.m_name, kNoCharacter);
+        return encoding;
+    }
     const std::string saidName = isUtf8Version(version) ? kUtf8 : shortened(codePage);
     encoding.m_doubt =
         (saidName.empty()
@@ -206,7 +225,7 @@ std::string DxfEncoding::decoded(std::string_view bytes) const {
     converterFrom(m_name).convert(
         bytes, [&text](std::string_view piece) { text.append(piece); },
         [&text] {
-            text += "\xEF\xBF\xBD";
+            text += kNoCharacter;
             return true;
         });
     return text;

@@ -14,7 +14,8 @@ public:
     static DxfEncoding named(const std::string& name);
 
     /// What the header of a drawing says, unless the bytes of the whole file contradict it: then UTF-8, or
-    /// GB18030. `codePage` is that of $DWGCODEPAGE, `version` that of $ACADVER; either may be empty.
+    /// GB18030. Less than half of all runs of bytes that are not ASCII may be wrong in what counts as UTF-8.
+    /// `codePage` is that of $DWGCODEPAGE, `version` that of $ACADVER; either may be empty.
     static DxfEncoding ofFile(std::string_view bytes, const std::string& version,
                               const std::string& codePage);
 

@@ -106,14 +106,22 @@ void DxfEntityBuilder::takeText(const DxfTag& tag) {
 
 void DxfEntityBuilder::takeVertex(const DxfTag& tag) {
     const double number = m_reader.number(tag);
-    if (tag.code == 10)
+    if (tag.code == 10) {
+        requireWholeVertex();
         m_vertices.push_back({{number, 0.0}, 0.0});
-    else if (m_vertices.empty())
+        m_openVertex = tag.line;
+    } else if (m_vertices.empty())
         m_reader.fail(tag.line, filled(Words::tr("expected group 10 of a vertex before group %1"), tag.code));
-    else if (tag.code == 20)
+    else if (tag.code == 20) {
         m_vertices.back().at.y = number;
-    else
+        m_openVertex = 0;
+    } else
         m_vertices.back().bulge = number;
+}
+
+void DxfEntityBuilder::requireWholeVertex() const {
+    if (m_openVertex != 0)
+        m_reader.fail(m_openVertex, filled(Words::tr("%1: expected group %2"), m_entity.type, 20));
 }
 
 void DxfEntityBuilder::takeNumber(const DxfTag& tag) {
@@ -125,6 +133,9 @@ void DxfEntityBuilder::takeNumber(const DxfTag& tag) {
         m_numbers[std::size_t(tag.code)] = m_reader.number(tag);
         m_isGiven[std::size_t(tag.code)] = true;
     }
+    const bool isRadius = tag.code == 40 && (isOf("ARC") || isOf("CIRCLE"));
+    if (isRadius && m_numbers[40] < 0.0)
+        m_reader.fail(tag.line, filled(Words::tr("%1: expected a radius of at least 0"), m_entity.type));
     if (tag.code == 70)
         m_flags = m_reader.integer(tag);
 }
@@ -152,6 +163,7 @@ DxfFacing DxfEntityBuilder::facing() const {
 }
 
 DxfPolyline DxfEntityBuilder::lightPolyline() {
+    requireWholeVertex();
     return {std::move(m_vertices), (m_flags & kClosed) != 0, value(43, m_vertexWidth.value_or(0.0))};
 }
 

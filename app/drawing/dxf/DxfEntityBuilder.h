@@ -35,6 +35,7 @@ private:
     void takeExtended(const DxfTag& tag);
     void takeText(const DxfTag& tag);
     void takeVertex(const DxfTag& tag);
+    void requireWholeVertex() const;
     void takeWidth(double width);
     void takeNumber(const DxfTag& tag);
     std::string text(const DxfTag& tag) const;
@@ -63,6 +64,7 @@ private:
     std::string m_text;     ///< bytes
     std::string m_name;     ///< of a block or an attribute
     std::vector<DxfVertex> m_vertices;
+    int m_openVertex = 0;                ///< the line of the vertex that lacks its y so far; 0 for none
     std::optional<double> m_vertexWidth; ///< 0 where they differ
 };
 

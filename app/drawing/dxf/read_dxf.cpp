@@ -97,9 +97,9 @@ private:
             if (tag.code == 2)
                 name = text(tag);
             else if (tag.code == 70)
-                layer.isHidden = layer.isHidden || (m_reader.integer(tag) & frozen) != 0;
+                layer.isFrozen = (m_reader.integer(tag) & frozen) != 0;
             else if (tag.code == 62) // a colour below 0 tells that the layer is off
-                layer.isHidden = layer.isHidden || m_reader.integer(tag) < 0;
+                layer.isOff = m_reader.integer(tag) < 0;
         });
         m_drawing.layers[dxfNameKey(name)] = layer;
     }

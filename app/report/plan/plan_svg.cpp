@@ -3,6 +3,7 @@
 #include "explain/Words.h"
 #include "explain/measure_text.h"
 #include "report/assets.h"
+#include "report/drawn_measures.h"
 #include "report/escape.h"
 #include "report/plan/element_spot.h"
 #include "report/plan/plan_ghosts.h"
@@ -110,18 +111,11 @@ private:
                pathData(shape, m_frame) + "\"><title>" + title + "</title></path>\n";
     }
 
-    /// Of a box that is too far only the nearest counts; of other distances each one does.
     template <class Visit> void everyMeasure(Visit visit) const {
-        for (std::size_t i = 0; i < m_merged.size(); ++i) {
-            const bool nearestOnly = m_report.record(finding(i)).type == QLatin1String("position");
-            for (const Measure& measure : finding(i).measures) {
-                if (measure.points)
-                    visit(i, measure, m_frame.drawn(measure.points->onElement),
-                          m_frame.drawn(measure.points->onOther));
-                if (nearestOnly)
-                    break;
-            }
-        }
+        for (std::size_t i = 0; i < m_merged.size(); ++i)
+            for (const Measure* const measure : drawnMeasures(m_report.record(finding(i)), finding(i)))
+                visit(i, *measure, m_frame.drawn(measure->points->onElement),
+                      m_frame.drawn(measure->points->onOther));
     }
 
     bool isFar(const DrawnPoint& from, const DrawnPoint& to) const {
