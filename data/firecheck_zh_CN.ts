@@ -2060,18 +2060,6 @@
         <translation>%1：此后符合 %2</translation>
     </message>
     <message>
-        <source>nothing within %1 helps: every way breaks %2, or stands in %3</source>
-        <translation>%1 范围内没有可行的办法：每种办法都违反 %2，或与%3重叠</translation>
-    </message>
-    <message>
-        <source>nothing within %1 helps: every way breaks %2</source>
-        <translation>%1 范围内没有可行的办法：每种办法都违反 %2</translation>
-    </message>
-    <message>
-        <source>nothing within %1 helps: every way stands in %2</source>
-        <translation>%1 范围内没有可行的办法：每种办法都与%2重叠</translation>
-    </message>
-    <message>
         <source>nothing within %1 helps</source>
         <translation>%1 范围内没有可行的办法</translation>
     </message>
@@ -3022,6 +3010,22 @@
     <message>
         <source>The program has ended; this page can be closed.</source>
         <translation>程序已结束，可以关闭此页面。</translation>
+    </message>
+    <message>
+        <source>no free place was found for an object of class %1 and use &quot;%2&quot;</source>
+        <translation>未找到可供类别为 %1、用途为“%2”的构件使用的空位</translation>
+    </message>
+    <message>
+        <source>%1: every way breaks %2, or stands in %3</source>
+        <translation>%1：每种办法都违反 %2，或与%3重叠</translation>
+    </message>
+    <message>
+        <source>%1: every way breaks %2</source>
+        <translation>%1：每种办法都违反 %2</translation>
+    </message>
+    <message>
+        <source>%1: every way stands in %2</source>
+        <translation>%1：每种办法都与%2重叠</translation>
     </message>
 </context>
 </TS>

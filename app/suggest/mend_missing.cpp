@@ -1,6 +1,8 @@
+#include "explain/Words.h"
 #include "rules/rule_texts.h"
 #include "site/element_type_identifiers.h"
 #include "site_file/site_classes.h"
+#include "suggest/action_text.h"
 #include "suggest/mend.h"
 
 #include <algorithm>
@@ -170,7 +172,7 @@ private:
                 {"depth", static_cast<long long>(m_facility.depth)}};
     }
 
-    Change withBox(const Json& facility, const Spot& spot) const {
+    Change withBox(const Json& facility, const Spot& spot) {
         const Json box = {{"class", "extinguisherBox"},
                           {"handle", m_bench.site().freeHandle() + 1},
                           {"position",
@@ -179,8 +181,11 @@ private:
         return hasRoom(box) ? Change{{std::nullopt, facility}, {std::nullopt, box}} : Change{};
     }
 
-    bool hasRoom(const Json& object) const {
-        return !m_bench.ground().obstacleOf(m_bench.site().elementOf(object), std::nullopt);
+    bool hasRoom(const Json& object) {
+        const auto obstacle = m_bench.ground().obstacleOf(m_bench.site().elementOf(object), std::nullopt);
+        if (obstacle)
+            m_bench.noteObstacle(*obstacle);
+        return !obstacle;
     }
 
     bool seemsToWork(const Change& change, const Spot& spot) {
@@ -201,6 +206,14 @@ std::optional<Proposal> mendMissing(Workbench& bench, const Targets& targets) {
     const RuleRow* row = bench.site().judge().row(*targets.begin());
     auto facility = facilityOf(*row);
     return facility ? FacilitySearch(bench, targets, std::move(*facility)).find() : std::nullopt;
+}
+
+QString noPlaceText(const Workbench& bench, const Targets& targets) {
+    const auto facility = facilityOf(*bench.site().judge().row(*targets.begin()));
+    return facility
+               ? firestandard::Words::tr("no free place was found for an object of class %1 and use \"%2\"")
+                     .arg(QString(facility->className), useText(facility->use))
+               : QString();
 }
 
 } // namespace firecheck
