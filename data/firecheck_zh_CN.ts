@@ -3027,5 +3027,17 @@
         <source>%1: every way stands in %2</source>
         <translation>%1：每种办法都与%2重叠</translation>
     </message>
+    <message>
+        <source>the elements are to stay as they are</source>
+        <translation>这些构件按要求保持不变</translation>
+    </message>
+    <message>
+        <source>the element is to stay as it is</source>
+        <translation>该构件按要求保持不变</translation>
+    </message>
+    <message>
+        <source>nothing helps</source>
+        <translation>没有可行的办法</translation>
+    </message>
 </context>
 </TS>

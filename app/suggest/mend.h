@@ -21,6 +21,9 @@ std::optional<Proposal> mendBox(Workbench& bench, const Targets& targets);
 /// Moves what lies below the cable, or the cable where such may be moved, or lays it in the ground.
 std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets);
 
+/// Whether the object hangs, so that raising it is tried.
+bool isRaisable(const TrialElement& element);
+
 /// Raises, moves or turns what reaches into the room above a fire road.
 std::optional<Proposal> mendHeadroom(Workbench& bench, const Targets& targets);
 

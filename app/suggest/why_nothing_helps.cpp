@@ -15,10 +15,11 @@ using Test = firestandard::RuleTest;
 
 namespace {
 
-bool mayMoveAny(const Workbench& bench, const Targets& targets) {
+/// Whether any element that the targets are about passes.
+bool isAny(const Workbench& bench, const Targets& targets, bool (Workbench::*passes)(std::size_t) const) {
     for (const Offence& offence : targets)
         for (const long long handle : {offence.element, offence.other})
-            if (const auto index = bench.site().indexOf(handle); index && bench.mayMove(*index))
+            if (const auto index = bench.site().indexOf(handle); index && (bench.*passes)(*index))
                 return true;
     return false;
 }
@@ -30,13 +31,36 @@ bool isTakenForGranted(const Workbench& bench, const Targets& targets) {
     });
 }
 
+/// Whether what hangs may be raised, or laid in the ground.
+bool mayHangElsewhere(const Workbench& bench, const Targets& targets, Test test) {
+    const Offence& first = *targets.begin();
+    const auto index = bench.site().indexOf(test == Test::OverheadCable ? first.element : first.other);
+    return index && bench.mayChange(*index) && isRaisable(bench.site().element(*index));
+}
+
+bool isTouchedByKeptBox(const Workbench& bench, const Targets& targets) {
+    const Offence& first = *targets.begin();
+    const JudgedValue* value = bench.value(first);
+    const auto box = value ? bench.site().indexOf(value->other) : std::nullopt;
+    return first.isTouched && box && !bench.mayMove(*box);
+}
+
 /// Why nothing was tried; empty where something was.
 QString untriedText(const Workbench& bench, const Targets& targets, Test test) {
+    const bool mayChange = isAny(bench, targets, &Workbench::mayChange);
+    const bool mayMove = isAny(bench, targets, &Workbench::mayMove);
     switch (test) {
     case Test::Distance:
         if (isTakenForGranted(bench, targets))
             return Words::tr("the rule takes the distance for granted, so that no move changes it");
-        return mayMoveAny(bench, targets) ? QString() : Words::tr("neither of the elements may be moved");
+        return mayMove ? QString() : Words::tr("neither of the elements may be moved");
+    case Test::OverheadCable:
+    case Test::FireRoadHeadroom:
+        if (!mayChange)
+            return Words::tr("the elements are to stay as they are");
+        return mayMove || mayHangElsewhere(bench, targets, test)
+                   ? QString()
+                   : Words::tr("neither of the elements may be moved");
     case Test::DoorToDoor:
     case Test::OneDoorToRoadLoop:
         return Words::tr("gates, walls and roads stay where they are");
@@ -46,17 +70,28 @@ QString untriedText(const Workbench& bench, const Targets& targets, Test test) {
         return bench.site().judge().row(*targets.begin())->use.of == firestandard::RequiredUse::Of::FireRoad
                    ? Words::tr("a fire road has to be added: an object of class road with \"fireRoad\": true")
                    : QString();
-    default:
-        return {};
+    case Test::RoadMinWidth:
+    case Test::PrefabHouseFloorArea:
+    case Test::PrefabHouseRoomArea:
+    case Test::PrefabHouseStairs:
+        return mayChange ? QString() : Words::tr("the element is to stay as it is");
+    case Test::FireExtinguisherBox:
+        return !mayMove && isTouchedByKeptBox(bench, targets)
+                   ? Words::tr("neither of the elements may be moved")
+                   : QString(); // where it lacks a box, one may be added whatever stays
     }
+    return {};
 }
 
-/// That all tries failed.
+/// That all tries failed, with the reach where it was a limit to them.
 QString failedText(const Workbench& bench, const Targets& targets, std::optional<Test> test) {
     if (test == Test::RequiredFacility)
         if (const QString text = noPlaceText(bench, targets); !text.isEmpty())
             return text;
-    return Words::tr("nothing within %1 helps").arg(lengthText(bench.options().reach));
+    if (test == Test::Distance || test == Test::FireExtinguisherBox || test == Test::OverheadCable ||
+        test == Test::FireRoadHeadroom)
+        return Words::tr("nothing within %1 helps").arg(lengthText(bench.options().reach));
+    return Words::tr("nothing helps");
 }
 
 /// The keys of the highest counts.
@@ -89,7 +124,8 @@ QString withObstacles(const QString& failed, const TrialSite& site, const Obstac
             .arg(failed, listed(rules), listed(elements));
     if (!rules.isEmpty())
         return Words::tr("%1: every way breaks %2").arg(failed, listed(rules));
-    return elements.isEmpty() ? failed : Words::tr("%1: every way stands in %2").arg(failed, listed(elements));
+    return elements.isEmpty() ? failed
+                              : Words::tr("%1: every way stands in %2").arg(failed, listed(elements));
 }
 
 } // namespace
