@@ -2068,10 +2068,6 @@
         <translation>该规则取固定的间距，移动不会改变结果</translation>
     </message>
     <message>
-        <source>gates, walls and roads stay where they are</source>
-        <translation>出入口、围墙和道路保持原位</translation>
-    </message>
-    <message>
         <source>no road of the site closes the loop as a further fire road</source>
         <translation>现场没有道路可作为临时消防车道使环路闭合</translation>
     </message>
@@ -3038,6 +3034,10 @@
     <message>
         <source>nothing helps</source>
         <translation>没有可行的办法</translation>
+    </message>
+    <message>
+        <source>a gate&apos;s place is its wall&apos;s &quot;doors&quot; entry and is not searched</source>
+        <translation>出入口的位置由所在围墙的 &quot;doors&quot; 项给出，不作搜索</translation>
     </message>
 </context>
 </TS>

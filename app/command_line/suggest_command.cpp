@@ -31,6 +31,15 @@ double reachOf(const Options& options) {
     return metres / firestandard::kMetresPerMillimetre;
 }
 
+/// Of which objects are moved when asked for.
+std::string askedForClasses() {
+    std::string list;
+    for (const SiteClass& siteClass : siteClasses())
+        if (movableClasses().count(siteClass.name) == 0 && unmovableClasses().count(siteClass.name) == 0)
+            list += (list.empty() ? "" : ", ") + siteClass.name;
+    return list;
+}
+
 std::set<std::string> movedClasses(const Options& options) {
     std::vector<std::string> known;
     for (const SiteClass& siteClass : siteClasses())
@@ -42,6 +51,9 @@ std::set<std::string> movedClasses(const Options& options) {
             throw InputError("Option --move: no class is named \"" + name + "\". " +
                              suggestionText(name, known) +
                              "Try \"firecheck site-schema --format markdown\".");
+        if (unmovableClasses().count(name) > 0)
+            throw InputError("Option --move: objects of class \"" + name +
+                             "\" are never moved. Those that are when asked for: " + askedForClasses() + ".");
         classes.insert(name);
     }
     return classes;

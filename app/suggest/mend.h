@@ -24,7 +24,8 @@ std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets);
 /// Whether the object hangs, so that raising it is tried.
 bool isRaisable(const TrialElement& element);
 
-/// Raises, moves or turns what reaches into the room above a fire road.
+/// Raises, moves or turns what reaches into the room above a fire road, or moves the road where such may be
+/// moved.
 std::optional<Proposal> mendHeadroom(Workbench& bench, const Targets& targets);
 
 std::optional<Proposal> mendRoadWidth(Workbench& bench, const Targets& targets);

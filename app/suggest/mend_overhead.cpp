@@ -106,10 +106,9 @@ std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets) {
     const auto area = bench.site().indexOf(targets.begin()->other);
     if (!cable || !area)
         return std::nullopt;
-    if (auto moved = moveAcross(bench, targets, *area, bench.site().element(*cable)))
-        return moved;
-    if (auto moved = moveAcross(bench, targets, *cable, bench.site().element(*cable)))
-        return moved;
+    for (const std::size_t index : {*area, *cable})
+        if (auto moved = moveAcross(bench, targets, index, bench.site().element(*cable)))
+            return moved;
     return bench.mayChange(*cable) ? buriedCable(bench, targets, *cable) : std::nullopt;
 }
 
@@ -121,8 +120,9 @@ std::optional<Proposal> mendHeadroom(Workbench& bench, const Targets& targets) {
     if (bench.mayChange(*object) && isRaisable(bench.site().element(*object)))
         if (auto higher = raised(bench, targets, *object))
             return higher;
-    if (auto moved = moveAcross(bench, targets, *object, bench.site().element(*road)))
-        return moved;
+    for (const std::size_t index : {*object, *road})
+        if (auto moved = moveAcross(bench, targets, index, bench.site().element(*road)))
+            return moved;
     return bench.mayMove(*object) ? leastTurn(bench, *object, targets) : std::nullopt;
 }
 

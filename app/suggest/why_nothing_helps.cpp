@@ -63,7 +63,7 @@ QString untriedText(const Workbench& bench, const Targets& targets, Test test) {
                    : Words::tr("neither of the elements may be moved");
     case Test::DoorToDoor:
     case Test::OneDoorToRoadLoop:
-        return Words::tr("gates, walls and roads stay where they are");
+        return Words::tr("a gate's place is its wall's \"doors\" entry and is not searched");
     case Test::RoadLoop:
         return Words::tr("no road of the site closes the loop as a further fire road");
     case Test::RequiredFacility:

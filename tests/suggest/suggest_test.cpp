@@ -93,6 +93,18 @@ TEST(Suggestions, LeaveAloneWhatIsKeptOrTooFar) {
               "Move future building 1 1.00 m west: " + ofTower + " then measures 10.00 m");
 }
 
+TEST(Suggestions, MoveTheRoadWhenAskedFor) {
+    SuggestOptions moving;
+    moving.movable = {"road"};
+    moving.kept = {2};
+    EXPECT_EQ(said(Json::parse(R"({"objects": [
+        {"class": "road", "handle": 1, "fireRoad": true, "start": [0, 0], "end": [9000, 0], "width": 4000},
+        {"class": "poster", "handle": 2, "start": [5000, -5000], "end": [5000, 1500], "height": 1000,
+         "elevationMetres": 3.5}]})"),
+                   "Position_FireRoad", moving),
+              "Move fire road 1 3.51 m north: Position_FireRoad is then kept");
+}
+
 TEST(Suggestions, TellWhyNothingIsTried) {
     const std::string road =
         R"({"class": "road", "handle": 1, "fireRoad": true, "start": [0, 0], "end": [9000, 0], "width": )";
@@ -127,6 +139,11 @@ TEST(Suggestions, TellWhyNothingIsTried) {
          {1, 2},
          "Position_FireExtinguisherBoxToTemplateYard",
          "neither of the elements may be moved"},
+        {road + R"(4000}, {"class": "wall", "handle": 3, "start": [0, 9000], "end": [9000, 9000],
+            "doors": [{"distance": 4000, "door": 2}]}, {"class": "door", "handle": 2, "position": [4000, 9000]})",
+         {},
+         "Self_OneDoorToRoadLoop",
+         "a gate's place is its wall's \"doors\" entry and is not searched"},
         {R"({"class": "wall", "handle": 3, "start": [0, 0], "end": [9000, 0]},
             {"class": "wall", "handle": 4, "start": [0, 0], "end": [0, 9000]},
             {"class": "futureHouse", "handle": 2, "center": [4500, 4500], "length": 9000, "depth": 9000})",
