@@ -221,6 +221,8 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         {"firecheck check yard.dxf yard.dxf --format dxf", "",
          "firecheck: Expected one site file for --format dxf: the findings of two would lie upon each other.\n",
          2},
+        {"firecheck check gone.json --suggest --format csv", "",
+         "firecheck: Option --suggest is for text, json and html.\n", 2},
         {"firecheck import yard.dxf --layers map.json -o map.json", "",
          "firecheck: map.json: expected another file for --output: it is --layers, which would be lost\n", 2},
         {"firecheck help check > /dev/full", "",
