@@ -283,6 +283,22 @@ TEST_F(CommandLine, OverwritesNothingThatItReads) {
         << "names are no files";
 }
 
+TEST_F(CommandLine, AppliesSuggestionsToAnotherFileOnly) {
+    const std::string before = read("narrow.json");
+    const std::string suggest = "firecheck suggest narrow.json --rules rules.xml --apply ";
+    for (const char* target :
+         {"narrow.json", "./narrow.json", "rules.xml", "-", "applied.json --output applied.json",
+          "applied.json --output gone/plan.txt", "applied.json --output /dev/full"})
+        EXPECT_EQ(run(suggest + target).status, 2) << target;
+    EXPECT_EQ(read("narrow.json"), before);
+    EXPECT_EQ(read("applied.json"), "") << "not without the plan";
+
+    EXPECT_EQ(run(suggest + "applied.json").status, 1);
+    std::string widened = before;
+    widened.replace(widened.find("3999"), 4, "4000");
+    EXPECT_EQ(read("applied.json"), widened);
+}
+
 TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {
     const std::string check = "firecheck check narrow.json --rules rules.xml 2>&1 ";
     EXPECT_EQ(run(check + "--write-accept accepted.json").status, 1);
