@@ -19,16 +19,17 @@ namespace firecheck {
 namespace {
 
 double reachOf(const Options& options) {
-    constexpr double longest = 1e3; // metres
+    constexpr double shortest = double(kLayoutStep); // mm
+    constexpr double longest = 1e6;
     const auto given = options.value("reach");
     if (!given)
         return SuggestOptions().reach;
     bool isNumber = false;
-    const double metres = given->toDouble(&isNumber);
-    if (!isNumber || !(metres > 0.0) || metres > longest)
-        throw InputError("Option --reach: expected metres above 0 and up to 1000, found \"" +
+    const double reach = given->toDouble(&isNumber) / firestandard::kMetresPerMillimetre;
+    if (!isNumber || !(reach >= shortest && reach <= longest))
+        throw InputError("Option --reach: expected metres from 0.01 to 1000, found \"" +
                          given->toStdString() + "\".");
-    return metres / firestandard::kMetresPerMillimetre;
+    return reach;
 }
 
 /// Of which objects are moved when asked for.

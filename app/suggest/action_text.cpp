@@ -21,9 +21,27 @@ QString shown(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+/// In metres: two decimals, and as many more as it takes to tell the value from others.
+QString metresText(double millimetres) {
+    constexpr int fewestDecimals = 2;
+    constexpr int mostDecimals = 8;
+    constexpr double noise = 1e-9;
+    const double metres = millimetres * kMetresPerMillimetre;
+    if (std::abs(metres) >= firestandard::kBeyondAnySite)
+        return QString::number(metres, 'g');
+    QString text;
+    for (int decimals = fewestDecimals; decimals <= mostDecimals; ++decimals) {
+        text = QString::number(metres, 'f', decimals);
+        if (std::abs(text.toDouble() - metres) < noise)
+            break;
+    }
+    return text;
+}
+
 /// Along an axis or at 45 degrees, which have a name; the length of the latter is followed by its parts.
 QString namedMoveText(const QString& element, const PlanMove& move) {
-    const QString length = lengthText(move.length());
+    const QString length =
+        QString::number(move.length() * kMetresPerMillimetre, 'f', 2) + QStringLiteral(" m");
     const QString part = lengthText(double(std::abs(move.dx)));
     if (move.dx == 0)
         return (move.dy > 0 ? Words::tr("Move %1 %2 north") : Words::tr("Move %1 %2 south"))
@@ -57,12 +75,12 @@ QString moveText(const QString& element, const PlanMove& move) {
 QString positionsText(const std::vector<double>& positions) {
     QStringList texts;
     for (const double position : positions)
-        texts << QString::number(position * kMetresPerMillimetre, 'f', 2);
+        texts << metresText(position);
     return texts.join(QStringLiteral(", "));
 }
 
 QString coordinate(const Json& point, std::size_t axis) {
-    return QString::number(point[axis].get<double>() * kMetresPerMillimetre, 'f', 2);
+    return metresText(point[axis].get<double>());
 }
 
 QString addedBoxText(const Json& box) {
@@ -187,7 +205,7 @@ const char* actionName(Action::Kind kind) {
 }
 
 QString lengthText(double millimetres) {
-    return QString::number(millimetres * kMetresPerMillimetre, 'f', 2) + QStringLiteral(" m");
+    return metresText(millimetres) + QStringLiteral(" m");
 }
 
 QString useText(const Json& use) {

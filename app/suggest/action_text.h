@@ -16,7 +16,7 @@ const char* actionName(Action::Kind kind);
 /// stands before.
 std::string proposalText(const TrialSite& site, const Proposal& proposal, const Targets& targets);
 
-/// "12.50 m"
+/// "12.50 m", with more decimals where the length has them.
 QString lengthText(double millimetres);
 
 /// The value of the key "use", a name or a number.

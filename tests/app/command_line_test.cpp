@@ -223,6 +223,8 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          2},
         {"firecheck check gone.json --suggest --format csv", "",
          "firecheck: Option --suggest is for text, json and html.\n", 2},
+        {"firecheck suggest gone.json --reach 0.009", "",
+         "firecheck: Option --reach: expected metres from 0.01 to 1000, found \"0.009\".\n", 2},
         {"firecheck import yard.dxf --layers map.json -o map.json", "",
          "firecheck: map.json: expected another file for --output: it is --layers, which would be lost\n", 2},
         {"firecheck help check > /dev/full", "",

@@ -43,10 +43,10 @@ TEST(Suggestions, AreTheSmallestChangeInWords) {
          "Move office 1 0.50 m south: Distant_PrefabHouseToPrefabHouse then measures 4.00 m"},
         {house + "1" + office + R"("center": [0, 0], "floors": 3})", "Self_PrefabHouseStairs",
          "Give office 1 a stair at each end: Self_PrefabHouseStairs is then kept"},
-        {R"({"class": "prefabHouse", "handle": 1, "use": "dormitory", "center": [0, 0], "length": 40000, "depth": 8000,
+        {R"({"class": "prefabHouse", "handle": 1, "use": "dormitory", "center": [0, 0], "length": 45000.5, "depth": 8000,
             "stairs": "bothEnds"})",
          "Self_PrefabHouseFloorArea",
-         "Shorten dormitory 1 to 37.50 m from 40.00 m: Self_PrefabHouseFloorArea then measures 300.00 m²"},
+         "Shorten dormitory 1 to 37.50 m from 45.0005 m: Self_PrefabHouseFloorArea then measures 300.00 m²"},
         {house + "1" + office + R"("center": [0, 0], "floorDepth": 11000, "partitions": [0, 9999.5, 12000]})",
          "Self_PrefabHouseRoomArea",
          "Set the partitions of office 1 at 0.00, 9.09, 12.00 m along it: Self_PrefabHouseRoomArea then measures "
