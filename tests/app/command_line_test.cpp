@@ -225,6 +225,18 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
          "firecheck: Option --suggest is for text, json and html.\n", 2},
         {"firecheck suggest gone.json --reach 0.009", "",
          "firecheck: Option --reach: expected metres from 0.01 to 1000, found \"0.009\".\n", 2},
+        {"firecheck suggest gone.json --move raod", "",
+         "firecheck: Option --move: no class is named \"raod\". Did you mean \"road\"? Try \"firecheck site-schema "
+         "--format markdown\".\n",
+         2},
+        {"firecheck suggest gone.json --move door", "",
+         "firecheck: Option --move: objects of class \"door\" are never moved. Those that are when asked for: "
+         "futureHouse, crossing, road, serviceCable.\n",
+         2},
+        {"firecheck suggest fine.json --rules rules.xml --keep 2", "",
+         "firecheck: Option --keep: the site has no object with the handle \"2\".\n", 2},
+        {"firecheck suggest narrow.json --rules rules.xml --keep 3 --reach 0.01 | tail -n 1",
+         "    No suggestion: the element is to stay as it is\n", "", 0},
         {"firecheck import yard.dxf --layers map.json -o map.json", "",
          "firecheck: map.json: expected another file for --output: it is --layers, which would be lost\n", 2},
         {"firecheck help check > /dev/full", "",
