@@ -2060,28 +2060,12 @@
         <translation>%1：此后符合 %2</translation>
     </message>
     <message>
-        <source>nothing within %1 helps: every way breaks %2, or stands in %3</source>
-        <translation>%1 范围内没有可行的办法：每种办法都违反 %2，或与%3重叠</translation>
-    </message>
-    <message>
-        <source>nothing within %1 helps: every way breaks %2</source>
-        <translation>%1 范围内没有可行的办法：每种办法都违反 %2</translation>
-    </message>
-    <message>
-        <source>nothing within %1 helps: every way stands in %2</source>
-        <translation>%1 范围内没有可行的办法：每种办法都与%2重叠</translation>
-    </message>
-    <message>
         <source>nothing within %1 helps</source>
         <translation>%1 范围内没有可行的办法</translation>
     </message>
     <message>
         <source>the rule takes the distance for granted, so that no move changes it</source>
         <translation>该规则取固定的间距，移动不会改变结果</translation>
-    </message>
-    <message>
-        <source>gates, walls and roads stay where they are</source>
-        <translation>出入口、围墙和道路保持原位</translation>
     </message>
     <message>
         <source>no road of the site closes the loop as a further fire road</source>
@@ -3043,6 +3027,38 @@
     <message>
         <source>it is part of a block that is one element</source>
         <translation>属于一个整体作为构件的块</translation>
+    </message>
+    <message>
+        <source>no free place was found for an object of class %1 and use &quot;%2&quot;</source>
+        <translation>未找到可供类别为 %1、用途为“%2”的构件使用的空位</translation>
+    </message>
+    <message>
+        <source>the elements are to stay as they are</source>
+        <translation>这些构件按要求保持不变</translation>
+    </message>
+    <message>
+        <source>a gate&apos;s place is its wall&apos;s &quot;doors&quot; entry and is not searched</source>
+        <translation>出入口的位置由所在围墙的 &quot;doors&quot; 项给出，不作搜索</translation>
+    </message>
+    <message>
+        <source>the element is to stay as it is</source>
+        <translation>该构件按要求保持不变</translation>
+    </message>
+    <message>
+        <source>nothing helps</source>
+        <translation>没有可行的办法</translation>
+    </message>
+    <message>
+        <source>%1: every way breaks %2, or stands in %3</source>
+        <translation>%1：每种办法都违反 %2，或与%3重叠</translation>
+    </message>
+    <message>
+        <source>%1: every way breaks %2</source>
+        <translation>%1：每种办法都违反 %2</translation>
+    </message>
+    <message>
+        <source>%1: every way stands in %2</source>
+        <translation>%1：每种办法都与%2重叠</translation>
     </message>
 </context>
 </TS>

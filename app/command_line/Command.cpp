@@ -61,7 +61,7 @@ const std::vector<Command>& commands() {
           {"ignore", "PATTERN",
            "Leave the rules whose name fits the pattern out of the report; may be repeated."},
           {"suggest", "",
-           "Tell for each violation the smallest change of one element that removes it, in text and JSON. "
+           "Tell for each violation the smallest change of one element that removes it, in text, JSON and HTML. "
            "\"firecheck help suggest\" tells more."},
           {"unjudged", "", "List the elements, too, that no rule compared with anything."},
           {"no-results", "", "Leave the engine's own two maps out of JSON."},

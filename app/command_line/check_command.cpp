@@ -174,6 +174,8 @@ int checkCommand(const Options& options) {
     if (options.format() == "dxf" && options.arguments().size() > 1)
         throw InputError(
             "Expected one site file for --format dxf: the findings of two would lie upon each other.");
+    if (options.isSet("suggest") && (options.format() == "csv" || options.format() == "dxf"))
+        throw InputError("Option --suggest is for text, json and html.");
     options.choice("order");
     const auto givenRules = options.value("rules");
     const std::string ruleFile = givenRules ? givenRules->toStdString() : defaultRuleFile();

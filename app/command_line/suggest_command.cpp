@@ -19,16 +19,26 @@ namespace firecheck {
 namespace {
 
 double reachOf(const Options& options) {
-    constexpr double longest = 1e3; // metres
+    constexpr double shortest = double(kLayoutStep); // mm
+    constexpr double longest = 1e6;
     const auto given = options.value("reach");
     if (!given)
         return SuggestOptions().reach;
     bool isNumber = false;
-    const double metres = given->toDouble(&isNumber);
-    if (!isNumber || !(metres > 0.0) || metres > longest)
-        throw InputError("Option --reach: expected metres above 0 and up to 1000, found \"" +
+    const double reach = given->toDouble(&isNumber) / firestandard::kMetresPerMillimetre;
+    if (!isNumber || !(reach >= shortest && reach <= longest))
+        throw InputError("Option --reach: expected metres from 0.01 to 1000, found \"" +
                          given->toStdString() + "\".");
-    return metres / firestandard::kMetresPerMillimetre;
+    return reach;
+}
+
+/// Of which objects are moved when asked for.
+std::string askedForClasses() {
+    std::string list;
+    for (const SiteClass& siteClass : siteClasses())
+        if (movableClasses().count(siteClass.name) == 0 && unmovableClasses().count(siteClass.name) == 0)
+            list += (list.empty() ? "" : ", ") + siteClass.name;
+    return list;
 }
 
 std::set<std::string> movedClasses(const Options& options) {
@@ -42,6 +52,9 @@ std::set<std::string> movedClasses(const Options& options) {
             throw InputError("Option --move: no class is named \"" + name + "\". " +
                              suggestionText(name, known) +
                              "Try \"firecheck site-schema --format markdown\".");
+        if (unmovableClasses().count(name) > 0)
+            throw InputError("Option --move: objects of class \"" + name +
+                             "\" are never moved. Those that are when asked for: " + askedForClasses() + ".");
         classes.insert(name);
     }
     return classes;
@@ -78,35 +91,47 @@ Json headJson(const SiteReport& report, const SuggestOptions& options) {
             {"findings", std::move(findings)}};
 }
 
-void writeFile(const QString& name, const std::string& text) {
-    Output output(name);
-    output.write(text);
-    output.commit();
+std::string jsonText(const Json& json) {
+    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-std::string planResult(const Options& options, const SiteFile& file, const SiteReport& report,
-                       const SuggestOptions& suggestOptions, const RuleMap& rules,
-                       const SuggestProgress& progress) {
-    const SitePlan plan = planChanges(file.value, rules, suggestOptions, progress);
-    if (const auto target = options.value("apply"))
-        writeFile(*target,
-                  file.drawing ? siteText(plan.site) : changedSiteText(file.text, file.value, plan.site));
+std::string planResult(const Options& options, const SiteReport& report, const SuggestOptions& suggestOptions,
+                       const SitePlan& plan) {
     if (options.format() == "text")
         return planText(report, plan);
     Json json = headJson(report, suggestOptions);
     json["plan"] = planJson(plan);
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return jsonText(json);
 }
 
-std::string suggestionsResult(const Options& options, const SiteFile& file, SiteReport& report,
-                              const SuggestOptions& suggestOptions, const RuleMap& rules,
-                              const SuggestProgress& progress) {
-    report.suggestions = suggestChanges(file.value, report, rules, suggestOptions, progress);
+std::string suggestionsResult(const Options& options, const SiteReport& report,
+                              const SuggestOptions& suggestOptions) {
     if (options.format() == "text")
         return suggestionsText(report);
     Json json = headJson(report, suggestOptions);
     json["suggestions"] = suggestionsJson(*report.suggestions);
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return jsonText(json);
+}
+
+/// Nothing unless it is asked for.
+std::optional<std::string> changedSite(const Options& options, const SiteFile& file, const SitePlan& plan) {
+    if (!options.value("apply"))
+        return std::nullopt;
+    return file.drawing ? siteText(plan.site) : changedSiteText(file.text, file.value, plan.site);
+}
+
+/// Neither where the other cannot be written.
+void write(const Options& options, const std::string& result, const std::optional<std::string>& site) {
+    Output output(options.value("output").value_or(QString()));
+    std::optional<Output> applied;
+    if (site)
+        applied.emplace(*options.value("apply"));
+    output.write(result);
+    if (applied)
+        applied->write(*site);
+    output.commit();
+    if (applied)
+        applied->commit();
 }
 
 } // namespace
@@ -132,10 +157,13 @@ int suggestCommand(const Options& options) {
     const auto progress = [&line](std::size_t done, std::size_t all, const std::string& rule) {
         line.tell(done, all, rule);
     };
-    const bool isPlan = options.isSet("all") || options.value("apply");
-    writeFile(options.value("output").value_or(QString()),
-              isPlan ? planResult(options, file, report, suggestOptions, rules, progress)
-                     : suggestionsResult(options, file, report, suggestOptions, rules, progress));
+    if (options.isSet("all") || options.value("apply")) {
+        const SitePlan plan = planChanges(file.value, rules, suggestOptions, progress);
+        write(options, planResult(options, report, suggestOptions, plan), changedSite(options, file, plan));
+    } else {
+        report.suggestions = suggestChanges(file.value, report, rules, suggestOptions, progress);
+        write(options, suggestionsResult(options, report, suggestOptions), std::nullopt);
+    }
     return report.findings.empty() ? kNothingFound : kViolationsFound;
 }
 

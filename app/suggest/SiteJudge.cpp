@@ -104,6 +104,13 @@ SiteJudge::SiteJudge(const RuleMap& rulesInUse) {
     }
 }
 
+std::optional<firestandard::RuleTest> SiteJudge::test(const Offence& offence) const {
+    if (rule(offence).type == QLatin1String("distant"))
+        return firestandard::RuleTest::Distance;
+    const firestandard::RuleRow* known = row(offence);
+    return known ? std::optional(known->test) : std::nullopt;
+}
+
 bool SiteJudge::isBoxRule(std::size_t rule) const {
     return rule < m_rows.size() && m_rows[rule] &&
            m_rows[rule]->test == firestandard::RuleTest::FireExtinguisherBox;

@@ -47,6 +47,8 @@ public:
     const NuxStandardCheckRule& rule(const Offence& offence) const { return m_rules[offence.rule]; }
     /// Null for a rule whose name no catalogue has.
     const firestandard::RuleRow* row(const Offence& offence) const { return m_rows[offence.rule]; }
+    /// What the rule judges, a distance whatever its name is; nothing where no catalogue tells.
+    std::optional<firestandard::RuleTest> test(const Offence& offence) const;
     bool isBoxRule(std::size_t rule) const;
 
     /// The offences that a record of the engine's results stands for.

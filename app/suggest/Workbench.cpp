@@ -35,6 +35,11 @@ const std::set<std::string>& movableClasses() {
     return classes;
 }
 
+const std::set<std::string>& unmovableClasses() {
+    static const std::set<std::string> classes = {"wall", "door", "element", "drawing"};
+    return classes;
+}
+
 Workbench::Workbench(TrialSite& site, const SuggestOptions& options)
     : m_site(site), m_options(options), m_ground(std::make_unique<Ground>(site)) {}
 

@@ -22,6 +22,9 @@ struct SuggestOptions {
 /// Classes whose objects are moved without being asked for: what is set up for the time of building.
 const std::set<std::string>& movableClasses();
 
+/// Classes whose objects are never moved: walls with their gates, and what has no place in plan.
+const std::set<std::string>& unmovableClasses();
+
 /// What is done to an element, for those who tell of it.
 struct Action {
     enum class Kind {

@@ -6,7 +6,6 @@
 
 #include <QString>
 
-#include <algorithm>
 #include <cmath>
 
 namespace firecheck {
@@ -18,18 +17,32 @@ using firestandard::Words;
 
 namespace {
 
-QString metres(double millimetres) {
-    return QString::number(millimetres * kMetresPerMillimetre, 'f', 2) + QStringLiteral(" m");
-}
-
 QString shown(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+/// In metres: two decimals, and as many more as it takes to tell the value from others.
+QString metresText(double millimetres) {
+    constexpr int fewestDecimals = 2;
+    constexpr int mostDecimals = 8;
+    constexpr double noise = 1e-9;
+    const double metres = millimetres * kMetresPerMillimetre;
+    if (std::abs(metres) >= firestandard::kBeyondAnySite)
+        return QString::number(metres, 'g');
+    QString text;
+    for (int decimals = fewestDecimals; decimals <= mostDecimals; ++decimals) {
+        text = QString::number(metres, 'f', decimals);
+        if (std::abs(text.toDouble() - metres) < noise)
+            break;
+    }
+    return text;
+}
+
 /// Along an axis or at 45 degrees, which have a name; the length of the latter is followed by its parts.
 QString namedMoveText(const QString& element, const PlanMove& move) {
-    const QString length = metres(move.length());
-    const QString part = metres(double(std::abs(move.dx)));
+    const QString length =
+        QString::number(move.length() * kMetresPerMillimetre, 'f', 2) + QStringLiteral(" m");
+    const QString part = lengthText(double(std::abs(move.dx)));
     if (move.dx == 0)
         return (move.dy > 0 ? Words::tr("Move %1 %2 north") : Words::tr("Move %1 %2 south"))
             .arg(element, length);
@@ -48,8 +61,8 @@ QString namedMoveText(const QString& element, const PlanMove& move) {
 QString moveText(const QString& element, const PlanMove& move) {
     if (move.dx == 0 || move.dy == 0 || std::abs(move.dx) == std::abs(move.dy))
         return namedMoveText(element, move);
-    const QString x = metres(double(std::abs(move.dx)));
-    const QString y = metres(double(std::abs(move.dy)));
+    const QString x = lengthText(double(std::abs(move.dx)));
+    const QString y = lengthText(double(std::abs(move.dy)));
     if (move.dx > 0)
         return (move.dy > 0 ? Words::tr("Move %1 %2 east and %3 north")
                             : Words::tr("Move %1 %2 east and %3 south"))
@@ -62,22 +75,17 @@ QString moveText(const QString& element, const PlanMove& move) {
 QString positionsText(const std::vector<double>& positions) {
     QStringList texts;
     for (const double position : positions)
-        texts << QString::number(position * kMetresPerMillimetre, 'f', 2);
+        texts << metresText(position);
     return texts.join(QStringLiteral(", "));
 }
 
 QString coordinate(const Json& point, std::size_t axis) {
-    return QString::number(point[axis].get<double>() * kMetresPerMillimetre, 'f', 2);
+    return metresText(point[axis].get<double>());
 }
 
 QString addedBoxText(const Json& box) {
     const Json& at = box.at("position");
     return Words::tr("Add an extinguisher box at (%1, %2) m").arg(coordinate(at, 0), coordinate(at, 1));
-}
-
-QString useOf(const Json& object) {
-    const Json& use = object.at("use");
-    return use.is_string() ? shown(use.get<std::string>()) : shown(use.dump());
 }
 
 QString addedText(const Change& change) {
@@ -86,8 +94,8 @@ QString addedText(const Change& change) {
         return addedBoxText(object);
     const Json& at = object.at("center");
     const QString className = shown(object.at("class").get<std::string>());
-    const QString size = metres(object.at("length").get<double>());
-    const QString depth = metres(object.at("depth").get<double>());
+    const QString size = lengthText(object.at("length").get<double>());
+    const QString depth = lengthText(object.at("depth").get<double>());
     const QString x = coordinate(at, 0);
     const QString y = coordinate(at, 1);
     return (change.size() == 1
@@ -95,7 +103,7 @@ QString addedText(const Change& change) {
                 : Words::tr(
                       "Add an object of class %1 and use \"%2\" at (%3, %4) m, %5 by %6, with an extinguisher "
                       "box beside it"))
-        .arg(className, useOf(object), x, y, size, depth);
+        .arg(className, useText(object.at("use")), x, y, size, depth);
 }
 
 QString turnText(const QString& element, double degrees) {
@@ -115,11 +123,11 @@ QString doneText(const TrialSite& site, const Proposal& proposal) {
     case Action::Kind::Turn:
         return turnText(element, action.value);
     case Action::Kind::Widen:
-        return Words::tr("Widen %1 to %2").arg(element, metres(action.value));
+        return Words::tr("Widen %1 to %2").arg(element, lengthText(action.value));
     case Action::Kind::Raise:
-        return Words::tr("Raise %1 by %2").arg(element, metres(action.value));
+        return Words::tr("Raise %1 by %2").arg(element, lengthText(action.value));
     case Action::Kind::Bury:
-        return Words::tr("Lay %1 in the ground, %2 deep").arg(element, metres(action.value));
+        return Words::tr("Lay %1 in the ground, %2 deep").arg(element, lengthText(action.value));
     case Action::Kind::BothStairs:
         return Words::tr("Give %1 a stair at each end").arg(element);
     case Action::Kind::Floors:
@@ -127,7 +135,7 @@ QString doneText(const TrialSite& site, const Proposal& proposal) {
             .arg(element, QString::number(action.value), QString::number(action.before));
     case Action::Kind::Shorten:
         return Words::tr("Shorten %1 to %2 from %3")
-            .arg(element, metres(action.value), metres(action.before));
+            .arg(element, lengthText(action.value), lengthText(action.before));
     case Action::Kind::Partitions:
         return Words::tr("Set the partitions of %1 at %2 m along it")
             .arg(element, positionsText(action.positions));
@@ -166,23 +174,6 @@ QString valueText(const JudgedValue& judged) {
     return shown(firestandard::valueText(measure));
 }
 
-/// The keys of the highest counts.
-template <class Key> std::vector<Key> mostOften(const std::map<Key, std::size_t>& counts, std::size_t most) {
-    std::vector<std::pair<std::size_t, Key>> sorted;
-    for (const auto& [key, count] : counts)
-        sorted.emplace_back(count, key);
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const auto& a, const auto& b) { return a.first > b.first; });
-    std::vector<Key> keys;
-    for (std::size_t i = 0; i < std::min(most, sorted.size()); ++i)
-        keys.push_back(sorted[i].second);
-    return keys;
-}
-
-QString listed(const QStringList& names) {
-    return names.size() == 2 ? Words::tr("%1 or %2").arg(names[0], names[1]) : names.value(0);
-}
-
 } // namespace
 
 const char* actionName(Action::Kind kind) {
@@ -213,6 +204,14 @@ const char* actionName(Action::Kind kind) {
     return "move";
 }
 
+QString lengthText(double millimetres) {
+    return metresText(millimetres) + QStringLiteral(" m");
+}
+
+QString useText(const Json& use) {
+    return shown(use.is_string() ? use.get<std::string>() : use.dump());
+}
+
 std::string proposalText(const TrialSite& site, const Proposal& proposal, const Targets& targets) {
     const QString done = doneText(site, proposal);
     const auto value = tellingValue(proposal, targets);
@@ -220,30 +219,6 @@ std::string proposalText(const TrialSite& site, const Proposal& proposal, const 
     return (value ? Words::tr("%1: %2 then measures %3").arg(done, rule, valueText(value->second))
                   : Words::tr("%1: %2 is then kept").arg(done, rule))
         .toStdString();
-}
-
-std::string obstacleText(const TrialSite& site, const Obstacles& obstacles, double reach) {
-    constexpr std::size_t most = 2;
-    QStringList rules;
-    for (const std::size_t rule : mostOften(obstacles.rules, most))
-        rules << site.judge().rules()[rule].name;
-    QStringList elements;
-    for (const std::size_t index : mostOften(obstacles.elements, most))
-        elements << shown(site.element(index).phrase);
-    const QString within = metres(reach);
-    if (!rules.isEmpty() && !elements.isEmpty())
-        return Words::tr("nothing within %1 helps: every way breaks %2, or stands in %3")
-            .arg(within, listed(rules), listed(elements))
-            .toStdString();
-    if (!rules.isEmpty())
-        return Words::tr("nothing within %1 helps: every way breaks %2")
-            .arg(within, listed(rules))
-            .toStdString();
-    if (!elements.isEmpty())
-        return Words::tr("nothing within %1 helps: every way stands in %2")
-            .arg(within, listed(elements))
-            .toStdString();
-    return Words::tr("nothing within %1 helps").arg(within).toStdString();
 }
 
 } // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include "suggest/Workbench.h"
 
+#include <QString>
+
 #include <string>
 
 namespace firecheck {
@@ -14,7 +16,10 @@ const char* actionName(Action::Kind kind);
 /// stands before.
 std::string proposalText(const TrialSite& site, const Proposal& proposal, const Targets& targets);
 
-/// Why nothing helps: what tries within the reach failed for most. `reach` in mm.
-std::string obstacleText(const TrialSite& site, const Obstacles& obstacles, double reach);
+/// "12.50 m", with more decimals where the length has them.
+QString lengthText(double millimetres);
+
+/// The value of the key "use", a name or a number.
+QString useText(const Json& use);
 
 } // namespace firecheck

@@ -2,6 +2,8 @@
 
 #include "suggest/Workbench.h"
 
+#include <QString>
+
 namespace firecheck {
 
 // Each looks for the smallest change of one element that removes the targets, which are one finding's or a
@@ -9,9 +11,6 @@ namespace firecheck {
 
 /// Dispatches by the rule that found the targets, of which there is at least one.
 std::optional<Proposal> mend(Workbench& bench, const Targets& targets);
-
-/// What keeps them from being removed, after `mend` has found nothing. Takes the obstacles of the bench.
-std::string whyNothingHelps(Workbench& bench, const Targets& targets);
 
 /// Moves one of two elements, or turns it.
 std::optional<Proposal> mendDistance(Workbench& bench, const Targets& targets);
@@ -22,7 +21,11 @@ std::optional<Proposal> mendBox(Workbench& bench, const Targets& targets);
 /// Moves what lies below the cable, or the cable where such may be moved, or lays it in the ground.
 std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets);
 
-/// Raises, moves or turns what reaches into the room above a fire road.
+/// Whether the object hangs, so that raising it is tried.
+bool isRaisable(const TrialElement& element);
+
+/// Raises, moves or turns what reaches into the room above a fire road, or moves the road where such may be
+/// moved.
 std::optional<Proposal> mendHeadroom(Workbench& bench, const Targets& targets);
 
 std::optional<Proposal> mendRoadWidth(Workbench& bench, const Targets& targets);
@@ -36,5 +39,8 @@ std::optional<Proposal> mendStairs(Workbench& bench, const Targets& targets);
 
 /// Adds what is missing where there is room for it.
 std::optional<Proposal> mendMissing(Workbench& bench, const Targets& targets);
+
+/// That no place was found for what is missing, by its class and use; empty for what no footprint makes.
+QString noPlaceText(const Workbench& bench, const Targets& targets);
 
 } // namespace firecheck

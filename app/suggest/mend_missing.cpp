@@ -1,6 +1,8 @@
+#include "explain/Words.h"
 #include "rules/rule_texts.h"
 #include "site/element_type_identifiers.h"
 #include "site_file/site_classes.h"
+#include "suggest/action_text.h"
 #include "suggest/mend.h"
 
 #include <algorithm>
@@ -63,8 +65,13 @@ struct Spot {
     double distance; ///< of where it is looked for first
 };
 
-/// What the site holds, without what lies far off.
-hrx::CBox2d extentsOf(const TrialSite& site) {
+bool holds(const hrx::CBox2d& box, const Facility& facility) {
+    return box.high.x - box.low.x >= facility.length && box.high.y - box.low.y >= facility.depth;
+}
+
+/// Within the walls where they enclose enough, else what the site holds and as far around it as any rule asks
+/// to keep away.
+hrx::CBox2d searchedBox(const TrialSite& site, const Facility& facility) {
     hrx::CBox2d walls;
     hrx::CBox2d all;
     for (std::size_t i = 0; i < site.size(); ++i) {
@@ -75,11 +82,17 @@ hrx::CBox2d extentsOf(const TrialSite& site) {
         if (shape.kind == PlanKind::Wall)
             walls.add(shape.box);
     }
-    return walls.low.x <= walls.high.x ? walls : all;
+    if (holds(walls, facility))
+        return walls;
+    if (!(all.low.x <= all.high.x))
+        all = {{0.0, 0.0}, {0.0, 0.0}};
+    const double margin = facility.length + site.farthestLimit();
+    return {{all.low.x - margin, all.low.y - margin}, {all.high.x + margin, all.high.y + margin}};
 }
 
-/// Middle of the elements of that class, else of the site.
-hrx::CVec2<double> middleOf(const TrialSite& site, const std::string& className, const hrx::CBox2d& extents) {
+/// Middle of the elements of that class, else of where it is looked for.
+hrx::CVec2<double> middleOf(const TrialSite& site, const std::string& className,
+                            const hrx::CBox2d& searched) {
     hrx::CVec2<double> sum;
     double count = 0.0;
     for (std::size_t i = 0; i < site.size(); ++i) {
@@ -89,23 +102,32 @@ hrx::CVec2<double> middleOf(const TrialSite& site, const std::string& className,
         sum = sum + (element.shape.box.low + element.shape.box.high) * 0.5;
         count += 1.0;
     }
-    return count > 0.0 ? sum * (1.0 / count) : (extents.low + extents.high) * 0.5;
+    return count > 0.0 ? sum * (1.0 / count) : (searched.low + searched.high) * 0.5;
 }
 
-/// A grid over the site, from the middle on.
+/// Multiples of the step, or the middle where none lies between.
+std::vector<double> coordinatesBetween(double low, double high, double step) {
+    std::vector<double> coordinates;
+    for (double at = std::ceil(low / step) * step; at <= high; at += step)
+        coordinates.push_back(at);
+    if (coordinates.empty())
+        coordinates.push_back(std::round((low + high) * 0.5));
+    return coordinates;
+}
+
+/// A grid, from the middle on; never empty.
 std::vector<Spot> spotsOf(const TrialSite& site, const Facility& facility) {
-    const hrx::CBox2d extents = extentsOf(site);
-    std::vector<Spot> spots;
-    if (!(extents.low.x <= extents.high.x))
-        return {{0.0, 0.0, 0.0}};
-    const hrx::CVec2<double> middle = middleOf(site, facility.className, extents);
-    const double widest = std::max(extents.high.x - extents.low.x, extents.high.y - extents.low.y);
+    const hrx::CBox2d searched = searchedBox(site, facility);
+    const hrx::CVec2<double> middle = middleOf(site, facility.className, searched);
+    const double widest = std::max(searched.high.x - searched.low.x, searched.high.y - searched.low.y);
     const double step = std::ceil(std::max(kGrid, widest / kMostPerSide) / kGrid) * kGrid;
-    const auto up = [step](double value) { return std::ceil(value / step) * step; };
-    for (double x = up(extents.low.x + facility.length * 0.5); x <= extents.high.x - facility.length * 0.5;
-         x += step)
-        for (double y = up(extents.low.y + facility.depth * 0.5); y <= extents.high.y - facility.depth * 0.5;
-             y += step)
+    const auto along = [step](double low, double high, double size) {
+        return coordinatesBetween(low + size * 0.5, high - size * 0.5, step);
+    };
+    const std::vector<double> ys = along(searched.low.y, searched.high.y, facility.depth);
+    std::vector<Spot> spots;
+    for (const double x : along(searched.low.x, searched.high.x, facility.length))
+        for (const double y : ys)
             spots.push_back({x, y, std::hypot(x - middle.x, y - middle.y)});
     std::stable_sort(spots.begin(), spots.end(),
                      [](const Spot& a, const Spot& b) { return a.distance < b.distance; });
@@ -150,7 +172,7 @@ private:
                 {"depth", static_cast<long long>(m_facility.depth)}};
     }
 
-    Change withBox(const Json& facility, const Spot& spot) const {
+    Change withBox(const Json& facility, const Spot& spot) {
         const Json box = {{"class", "extinguisherBox"},
                           {"handle", m_bench.site().freeHandle() + 1},
                           {"position",
@@ -159,8 +181,11 @@ private:
         return hasRoom(box) ? Change{{std::nullopt, facility}, {std::nullopt, box}} : Change{};
     }
 
-    bool hasRoom(const Json& object) const {
-        return !m_bench.ground().obstacleOf(m_bench.site().elementOf(object), std::nullopt);
+    bool hasRoom(const Json& object) {
+        const auto obstacle = m_bench.ground().obstacleOf(m_bench.site().elementOf(object), std::nullopt);
+        if (obstacle)
+            m_bench.noteObstacle(*obstacle);
+        return !obstacle;
     }
 
     bool seemsToWork(const Change& change, const Spot& spot) {
@@ -181,6 +206,14 @@ std::optional<Proposal> mendMissing(Workbench& bench, const Targets& targets) {
     const RuleRow* row = bench.site().judge().row(*targets.begin());
     auto facility = facilityOf(*row);
     return facility ? FacilitySearch(bench, targets, std::move(*facility)).find() : std::nullopt;
+}
+
+QString noPlaceText(const Workbench& bench, const Targets& targets) {
+    const auto facility = facilityOf(*bench.site().judge().row(*targets.begin()));
+    return facility
+               ? firestandard::Words::tr("no free place was found for an object of class %1 and use \"%2\"")
+                     .arg(QString(facility->className), useText(facility->use))
+               : QString();
 }
 
 } // namespace firecheck

@@ -51,8 +51,8 @@ std::optional<Proposal> buriedCable(Workbench& bench, const Targets& targets, st
     return changed(bench, targets, cable, std::move(object), Action::Kind::Bury, kBurialDepth);
 }
 
-/// The object with its heights raised; nothing for a class that hangs nowhere.
-std::optional<Json> raisedObject(Json object, const std::string& className, double millimetres) {
+/// The object with its heights raised; it is raisable.
+Json raisedObject(Json object, const std::string& className, double millimetres) {
     const double metres = millimetres / kMillimetresPerMetre;
     if (className == "serviceCable") {
         object["startElevationMetres"] = sumOf(object.at("startElevationMetres"), metres);
@@ -64,11 +64,8 @@ std::optional<Json> raisedObject(Json object, const std::string& className, doub
         object["elevationMetres"] = sumOf(object.value("elevationMetres", Json(0)), metres);
         return object;
     }
-    if (className == "towerCrane") {
-        object["jibHeight"] = sumOf(object.at("jibHeight"), millimetres);
-        return object;
-    }
-    return std::nullopt;
+    object["jibHeight"] = sumOf(object.at("jibHeight"), millimetres);
+    return object;
 }
 
 /// The least raise in steps of kLayoutStep. What hangs high enough stays so when it hangs higher.
@@ -80,12 +77,10 @@ std::optional<Proposal> raised(Workbench& bench, const Targets& targets, std::si
         handles.insert(offence.element);
     std::optional<Neighbourhood> neighbourhood;
     const auto works = [&](long steps) {
-        const auto object = raisedObject(site.object(index), className, double(steps * kLayoutStep));
-        if (!object)
-            return false;
+        Json object = raisedObject(site.object(index), className, double(steps * kLayoutStep));
         if (!neighbourhood)
             neighbourhood.emplace(site, site.element(index).shape.box, handles);
-        return bench.meets(neighbourhood->differenceWith({{index, *object}}), targets);
+        return bench.meets(neighbourhood->differenceWith({{index, std::move(object)}}), targets);
     };
     long high = static_cast<long>(bench.options().reach) / kLayoutStep;
     if (high < 1 || !works(high))
@@ -95,21 +90,25 @@ std::optional<Proposal> raised(Workbench& bench, const Targets& targets, std::si
         (works(middle) ? high : low) = middle;
     }
     const double rise = double(high * kLayoutStep);
-    return changed(bench, targets, index, *raisedObject(site.object(index), className, rise),
+    return changed(bench, targets, index, raisedObject(site.object(index), className, rise),
                    Action::Kind::Raise, rise);
 }
 
 } // namespace
+
+bool isRaisable(const TrialElement& element) {
+    return element.className == "serviceCable" || element.className == "poster" ||
+           element.className == "towerCrane";
+}
 
 std::optional<Proposal> mendCable(Workbench& bench, const Targets& targets) {
     const auto cable = bench.site().indexOf(targets.begin()->element);
     const auto area = bench.site().indexOf(targets.begin()->other);
     if (!cable || !area)
         return std::nullopt;
-    if (auto moved = moveAcross(bench, targets, *area, bench.site().element(*cable)))
-        return moved;
-    if (auto moved = moveAcross(bench, targets, *cable, bench.site().element(*cable)))
-        return moved;
+    for (const std::size_t index : {*area, *cable})
+        if (auto moved = moveAcross(bench, targets, index, bench.site().element(*cable)))
+            return moved;
     return bench.mayChange(*cable) ? buriedCable(bench, targets, *cable) : std::nullopt;
 }
 
@@ -118,11 +117,12 @@ std::optional<Proposal> mendHeadroom(Workbench& bench, const Targets& targets) {
     const auto object = bench.site().indexOf(targets.begin()->other);
     if (!road || !object)
         return std::nullopt;
-    if (bench.mayChange(*object))
+    if (bench.mayChange(*object) && isRaisable(bench.site().element(*object)))
         if (auto higher = raised(bench, targets, *object))
             return higher;
-    if (auto moved = moveAcross(bench, targets, *object, bench.site().element(*road)))
-        return moved;
+    for (const std::size_t index : {*object, *road})
+        if (auto moved = moveAcross(bench, targets, index, bench.site().element(*road)))
+            return moved;
     return bench.mayMove(*object) ? leastTurn(bench, *object, targets) : std::nullopt;
 }
 

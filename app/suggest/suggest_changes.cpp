@@ -4,6 +4,7 @@
 #include "site_file/site_reader.h"
 #include "suggest/mend.h"
 #include "suggest/suggested_step.h"
+#include "suggest/why_nothing_helps.h"
 
 #include <algorithm>
 
@@ -14,8 +15,7 @@ namespace {
 constexpr std::size_t kMostSteps = 4; ///< for one finding
 
 bool isCable(const SiteJudge& judge, const Offence& offence) {
-    const firestandard::RuleRow* row = judge.row(offence);
-    return row && row->test == firestandard::RuleTest::OverheadCable;
+    return judge.test(offence) == firestandard::RuleTest::OverheadCable;
 }
 
 /// The first change that removes one of the targets, where none removes all.

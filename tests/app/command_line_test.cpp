@@ -221,6 +221,22 @@ TEST_F(CommandLine, ReportsAndTellsByItsExitStatus) {
         {"firecheck check yard.dxf yard.dxf --format dxf", "",
          "firecheck: Expected one site file for --format dxf: the findings of two would lie upon each other.\n",
          2},
+        {"firecheck check gone.json --suggest --format csv", "",
+         "firecheck: Option --suggest is for text, json and html.\n", 2},
+        {"firecheck suggest gone.json --reach 0.009", "",
+         "firecheck: Option --reach: expected metres from 0.01 to 1000, found \"0.009\".\n", 2},
+        {"firecheck suggest gone.json --move raod", "",
+         "firecheck: Option --move: no class is named \"raod\". Did you mean \"road\"? Try \"firecheck site-schema "
+         "--format markdown\".\n",
+         2},
+        {"firecheck suggest gone.json --move door", "",
+         "firecheck: Option --move: objects of class \"door\" are never moved. Those that are when asked for: "
+         "futureHouse, crossing, road, serviceCable.\n",
+         2},
+        {"firecheck suggest fine.json --rules rules.xml --keep 2", "",
+         "firecheck: Option --keep: the site has no object with the handle \"2\".\n", 2},
+        {"firecheck suggest narrow.json --rules rules.xml --keep 3 --reach 0.01 | tail -n 1",
+         "    No suggestion: the element is to stay as it is\n", "", 0},
         {"firecheck import yard.dxf --layers map.json -o map.json", "",
          "firecheck: map.json: expected another file for --output: it is --layers, which would be lost\n", 2},
         {"firecheck help check > /dev/full", "",
@@ -279,6 +295,22 @@ TEST_F(CommandLine, OverwritesNothingThatItReads) {
                   .status,
               0)
         << "names are no files";
+}
+
+TEST_F(CommandLine, AppliesSuggestionsToAnotherFileOnly) {
+    const std::string before = read("narrow.json");
+    const std::string suggest = "firecheck suggest narrow.json --rules rules.xml --apply ";
+    for (const char* target :
+         {"narrow.json", "./narrow.json", "rules.xml", "-", "applied.json --output applied.json",
+          "applied.json --output gone/plan.txt", "applied.json --output /dev/full"})
+        EXPECT_EQ(run(suggest + target).status, 2) << target;
+    EXPECT_EQ(read("narrow.json"), before);
+    EXPECT_EQ(read("applied.json"), "") << "not without the plan";
+
+    EXPECT_EQ(run(suggest + "applied.json").status, 1);
+    std::string widened = before;
+    widened.replace(widened.find("3999"), 4, "4000");
+    EXPECT_EQ(read("applied.json"), widened);
 }
 
 TEST_F(CommandLine, AcceptsViolationsForAReasonOnly) {

@@ -6,8 +6,10 @@
 #include "report/ReportWriter.h"
 #include "report/clause_table.h"
 #include "report/finding_order.h"
+#include "report/merged_findings.h"
 #include "report/plan/plan_svg.h"
 #include "source_file.h"
+#include "suggest/suggest_changes.h"
 
 #include <QDir>
 #include <QDomDocument>
@@ -37,9 +39,13 @@ QString rendered(const SiteReport& report, MakeWriter makeWriter) {
     return QString::fromStdString(text);
 }
 
-SiteReport check(Site site, const std::string& name) {
+const RuleMap& shippedRules() {
     static const RuleMap& rules = loadRules(SOURCE_DIRECTORY "/data/FireStandardCheck.xml");
-    return checkSite(std::move(site), name, rules);
+    return rules;
+}
+
+SiteReport check(Site site, const std::string& name) {
+    return checkSite(std::move(site), name, shippedRules());
 }
 
 SiteReport checkExample(const QString& name) {
@@ -293,6 +299,33 @@ TEST_F(Renderers, SayWhatAPlannerWouldSay) {
     };
     for (const auto& [rule, sentence] : expected)
         EXPECT_EQ(sentences[rule], sentence);
+}
+
+/// The numbers of the findings whose changes the plan outlines.
+std::set<std::size_t> outlinedFindings(const QString& html) {
+    std::set<std::size_t> numbers;
+    for (const QString& group : html.split("<g class=\"ghost ").mid(1))
+        if (group.section('\n', 1, 1).startsWith("<path class=\"outline\""))
+            numbers.insert(group.section("data-finding=\"", 1).section('"', 0, 0).toULong());
+    return numbers;
+}
+
+TEST_F(Renderers, OutlineWhatIsSuggested) {
+    SiteReport report = checkExample("tower-site.json");
+    EXPECT_FALSE(rendered(report, htmlReportWriter).contains("<g class=\"ghost"));
+    report.suggestions =
+        suggestChanges(Json::parse(sourceText("examples/tower-site.json")), report, shippedRules(), {});
+    std::set<std::size_t> changed;
+    const std::vector<MergedFinding> merged = mergedFindings(report);
+    for (const MergedFinding& one : merged)
+        if (!report.suggestions->at(one.numbers.front() - 1).steps.empty())
+            changed.insert(one.numbers.front());
+    ASSERT_EQ(changed.size() + 1, merged.size()) << "all but the gates";
+    const QString html = rendered(report, htmlReportWriter);
+    EXPECT_EQ(outlinedFindings(html), changed);
+    EXPECT_EQ(std::size_t(html.count(QRegularExpression("<g class=\"ghost [^>]*data-finding"))),
+              changed.size());
+    EXPECT_EQ(std::size_t(html.count("<p class=\"suggestion\">")), merged.size());
 }
 
 /// A road, too narrow by a trifle, with a name out to become something else.

@@ -17,11 +17,17 @@ std::vector<Suggestion> suggestionsFor(const Json& site, const SiteReport& repor
 
 /// The sentence for the first finding of the rule, or why there is none.
 std::string said(const Json& site, const std::string& rule, const SuggestOptions& options = {}) {
-    const SiteReport report = checked(site);
-    for (const Suggestion& suggestion : suggestionsFor(site, report, options))
-        if (report.record(report.findings[suggestion.finding]).name.toStdString() == rule)
-            return suggestion.steps.empty() ? suggestion.obstacle : suggestion.steps.front().sentence;
-    return "not found";
+    SiteReport report = checked(site);
+    auto& findings = report.findings;
+    findings.erase(std::remove_if(findings.begin(), findings.end(),
+                                  [&](const Finding& finding) {
+                                      return report.record(finding).name.toStdString() != rule;
+                                  }),
+                   findings.end());
+    if (findings.empty())
+        return "not found";
+    const Suggestion suggestion = suggestionsFor(site, report, options).front();
+    return suggestion.steps.empty() ? suggestion.obstacle : suggestion.steps.front().sentence;
 }
 
 TEST(Suggestions, AreTheSmallestChangeInWords) {
@@ -37,10 +43,10 @@ TEST(Suggestions, AreTheSmallestChangeInWords) {
          "Move office 1 0.50 m south: Distant_PrefabHouseToPrefabHouse then measures 4.00 m"},
         {house + "1" + office + R"("center": [0, 0], "floors": 3})", "Self_PrefabHouseStairs",
          "Give office 1 a stair at each end: Self_PrefabHouseStairs is then kept"},
-        {R"({"class": "prefabHouse", "handle": 1, "use": "dormitory", "center": [0, 0], "length": 40000, "depth": 8000,
+        {R"({"class": "prefabHouse", "handle": 1, "use": "dormitory", "center": [0, 0], "length": 45000.5, "depth": 8000,
             "stairs": "bothEnds"})",
          "Self_PrefabHouseFloorArea",
-         "Shorten dormitory 1 to 37.50 m from 40.00 m: Self_PrefabHouseFloorArea then measures 300.00 m²"},
+         "Shorten dormitory 1 to 37.50 m from 45.0005 m: Self_PrefabHouseFloorArea then measures 300.00 m²"},
         {house + "1" + office + R"("center": [0, 0], "floorDepth": 11000, "partitions": [0, 9999.5, 12000]})",
          "Self_PrefabHouseRoomArea",
          "Set the partitions of office 1 at 0.00, 9.09, 12.00 m along it: Self_PrefabHouseRoomArea then measures "
@@ -85,6 +91,73 @@ TEST(Suggestions, LeaveAloneWhatIsKeptOrTooFar) {
     moving.movable = {"futureHouse"};
     EXPECT_EQ(said(tower, ofTower, moving),
               "Move future building 1 1.00 m west: " + ofTower + " then measures 10.00 m");
+}
+
+TEST(Suggestions, MoveTheRoadWhenAskedFor) {
+    SuggestOptions moving;
+    moving.movable = {"road"};
+    moving.kept = {2};
+    EXPECT_EQ(said(Json::parse(R"({"objects": [
+        {"class": "road", "handle": 1, "fireRoad": true, "start": [0, 0], "end": [9000, 0], "width": 4000},
+        {"class": "poster", "handle": 2, "start": [5000, -5000], "end": [5000, 1500], "height": 1000,
+         "elevationMetres": 3.5}]})"),
+                   "Position_FireRoad", moving),
+              "Move fire road 1 3.51 m north: Position_FireRoad is then kept");
+}
+
+TEST(Suggestions, TellWhyNothingIsTried) {
+    const std::string road =
+        R"({"class": "road", "handle": 1, "fireRoad": true, "start": [0, 0], "end": [9000, 0], "width": )";
+    const std::string house = R"({"class": "prefabHouse", "handle": 1, "use": "office", "center": [0, 0], )";
+    const std::string cable =
+        R"({"class": "serviceCable", "handle": 2, "start": [5000, -9000], "end": [5000, 9000],
+        "startElevationMetres": 3})";
+    const std::string poster =
+        R"({"class": "poster", "handle": 2, "start": [5000, -5000], "end": [5000, 5000],
+        "height": 1000, "elevationMetres": 3.5})";
+    const std::string yard =
+        R"({"class": "templateYard", "handle": 1, "center": [5000, 0], "length": 4000, "depth": 4000}, )";
+    const std::string stays = "the element is to stay as it is";
+    const std::string stay = "the elements are to stay as they are";
+    const struct {
+        std::string objects;
+        std::set<long long> kept;
+        std::string rule;
+        std::string obstacle;
+    } cases[] = {
+        {road + "3001}", {1}, "Self_RoadMinWidth", stays},
+        {house + R"("length": 10000, "depth": 5000, "floors": 3})", {1}, "Self_PrefabHouseStairs", stays},
+        {house + R"("length": 40000, "depth": 8000})", {1}, "Self_PrefabHouseFloorArea", stays},
+        {house + R"("length": 12000, "depth": 11000, "partitions": [0, 12000]})",
+         {1},
+         "Self_PrefabHouseRoomArea",
+         stays},
+        {yard + cable, {1, 2}, "Position_WireToTemplateYard", stay},
+        {road + "4000}, " + poster, {1, 2}, "Position_FireRoad", stay},
+        {road + "4000}, " + poster, {2}, "Position_FireRoad", "neither of the elements may be moved"},
+        {yard + R"({"class": "extinguisherBox", "handle": 2, "position": [5000, 0]})",
+         {1, 2},
+         "Position_FireExtinguisherBoxToTemplateYard",
+         "neither of the elements may be moved"},
+        {road + R"(4000}, {"class": "wall", "handle": 3, "start": [0, 9000], "end": [9000, 9000],
+            "doors": [{"distance": 4000, "door": 2}]}, {"class": "door", "handle": 2, "position": [4000, 9000]})",
+         {},
+         "Self_OneDoorToRoadLoop",
+         "a gate's place is its wall's \"doors\" entry and is not searched"},
+        {R"({"class": "wall", "handle": 3, "start": [0, 0], "end": [9000, 0]},
+            {"class": "wall", "handle": 4, "start": [0, 0], "end": [0, 9000]},
+            {"class": "futureHouse", "handle": 2, "center": [4500, 4500], "length": 9000, "depth": 9000})",
+         {},
+         "Without_Toilet",
+         "no free place was found for an object of class closedHouse and use \"厕所\": every way stands in future building 2"},
+    };
+    for (const auto& expected : cases) {
+        SuggestOptions options;
+        options.kept = expected.kept;
+        EXPECT_EQ(said(Json::parse(R"({"objects": [)" + expected.objects + "]}"), expected.rule, options),
+                  expected.obstacle)
+            << expected.objects;
+    }
 }
 
 TEST(Suggestions, OfEveryExampleAreKept) {

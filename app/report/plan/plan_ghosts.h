@@ -5,7 +5,7 @@
 
 namespace firecheck {
 
-/// The suggestion for a finding, by its place in the report's findings; null for none that changes something.
+/// The suggestion for a finding, by its place in the report's findings; null where none was looked for.
 const Suggestion* suggestionFor(const SiteReport& report, std::size_t finding);
 
 /// What elements would be after the changes that are suggested: their outlines, and arrows from where those

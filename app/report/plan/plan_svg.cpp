@@ -148,7 +148,7 @@ private:
             return {};
         QString text = "<g class=\"ghosts\">\n";
         for (std::size_t i = 0; i < m_merged.size(); ++i)
-            if (const Suggestion* change = suggestion(i))
+            if (const Suggestion* change = suggestion(i); change && !change->steps.empty())
                 text += "<g" + marked("ghost", i) + ">\n" + planGhosts(*change, m_frame) + "</g>\n";
         return text + "</g>\n";
     }
