@@ -13,7 +13,7 @@ namespace {
 
 using Point = hrx::CVec2<double>;
 
-constexpr double kCell = 20000.0;
+constexpr double kCellOfWalls = 20000.0;
 constexpr double kReach = 1000.0;     // mm between a door and the axis of its wall
 constexpr double kMostReach = 5000.0; // of one whose symbol, with its swing, stands beside the axis
 
@@ -119,7 +119,7 @@ void order(Json& doors) {
 } // namespace
 
 std::vector<std::size_t> joinDoors(std::vector<DrawnElement>& elements) {
-    BoxGrid grid(kCell);
+    BoxGrid grid(kCellOfWalls);
     const std::vector<Axis> axes = axesOf(elements, grid);
     const std::set<std::int64_t> joined = joinedDoors(elements);
     std::vector<std::size_t> alone;

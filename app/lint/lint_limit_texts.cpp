@@ -15,12 +15,12 @@ namespace {
 
 using firestandard::RuleTest;
 
-struct Limits {
+struct RuleLimits {
     std::vector<double> values; ///< none for a rule without a limit of this unit
     bool isArea = false;
 };
 
-Limits fixedLimits(const firestandard::RuleRow& row) {
+RuleLimits fixedLimits(const firestandard::RuleRow& row) {
     switch (row.test) {
     case RuleTest::RoadMinWidth:
     case RuleTest::FireExtinguisherBox:
@@ -34,20 +34,20 @@ Limits fixedLimits(const firestandard::RuleRow& row) {
     }
 }
 
-Limits limitsOf(const RuleFileNode& rule) {
+RuleLimits limitsOf(const RuleFileNode& rule) {
     const QString type = QString::fromStdString(rule.value("Type"));
     if (type == "distant") {
-        Limits limits;
+        RuleLimits limits;
         for (const QString& part : QString::fromStdString(rule.value("DistantValue")).split(':'))
             limits.values.push_back(part.toDouble());
         // What is no distance is told as that.
         const bool areDistances = std::all_of(limits.values.begin(), limits.values.end(), [](double limit) {
             return limit >= 0.0 && std::isfinite(limit);
         });
-        return areDistances ? limits : Limits();
+        return areDistances ? limits : RuleLimits();
     }
     const auto* row = firestandard::findRule(QString::fromStdString(rule.name), type);
-    return row ? fixedLimits(*row) : Limits();
+    return row ? fixedLimits(*row) : RuleLimits();
 }
 
 /// "4", "3.5" and the like before "m", "metres", "米" or "m2", "m²", "平方米".
@@ -64,7 +64,7 @@ std::optional<double> firstFigure(const std::string& text, bool isArea) {
 } // namespace
 
 void lintLimitTexts(const RuleFileNode& rule, LintFindings& findings) {
-    const Limits limits = limitsOf(rule);
+    const RuleLimits limits = limitsOf(rule);
     if (limits.values.empty())
         return;
     for (const RuleFileNode& text : rule.children) {

@@ -1,3 +1,4 @@
+#include "geometry/CVec2.h"
 #include "site_file/site_keys.h"
 #include "site_lint/SiteDoubts.h"
 #include "text/words.h"
@@ -14,10 +15,7 @@ namespace {
 /// Doors stand this near the place that their wall gives; half of an opening, and the thickness of a wall.
 constexpr double kDoorTolerance = 500.0;
 
-struct Point {
-    double x;
-    double y;
-};
+using Point = hrx::CVec2<double>;
 
 Point pointOf(const Json& value) {
     return {value[0].get<double>(), value[1].get<double>()};

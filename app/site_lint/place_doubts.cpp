@@ -33,7 +33,7 @@ bool standsAlone(const PlanShape& shape, const std::string& className) {
             shape.kind == PlanKind::Station || className == "wastePool");
 }
 
-std::string metres(double millimetres) {
+std::string wholeMetres(double millimetres) {
     return QByteArray::number(millimetres * 0.001, 'f', 0).toStdString() + " m";
 }
 
@@ -62,11 +62,11 @@ public:
         for (const auto& [index, place] : m_middles) {
             const double apart = std::hypot(place.x - middle.x, place.y - middle.y);
             if (apart > kLargestSite)
-                m_doubts.push_back(
-                    {DoubtedSite::pointerTo(index),
-                     "remote",
-                     filled(Words::tr("The object stands %1 from the middle of the site."), metres(apart)),
-                     {}});
+                m_doubts.push_back({DoubtedSite::pointerTo(index),
+                                    "remote",
+                                    filled(Words::tr("The object stands %1 from the middle of the site."),
+                                           wholeMetres(apart)),
+                                    {}});
         }
     }
 

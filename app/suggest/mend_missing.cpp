@@ -56,7 +56,7 @@ std::optional<Facility> facilityOf(const RuleRow& row) {
 constexpr double kGrid = 1e3;          ///< mm, between places that are tried
 constexpr double kMostPerSide = 300.0; ///< of them; a larger site has a wider grid
 constexpr std::size_t kMostTried = 400;
-constexpr std::size_t kMostVerified = 6;
+constexpr std::size_t kMostJudged = 6;
 constexpr double kBoxAway = 1e3; ///< mm, of a box beside the new facility
 
 struct Spot {
@@ -149,7 +149,7 @@ public:
             const Json facility = facilityAt(spot);
             if (!hasRoom(facility))
                 continue;
-            if (++tried > kMostTried || verified > kMostVerified)
+            if (++tried > kMostTried || verified > kMostJudged)
                 break;
             for (const Change& change : {Change{{std::nullopt, facility}}, withBox(facility, spot)}) {
                 if (change.empty() || !seemsToWork(change, spot))

@@ -23,7 +23,7 @@ using firestandard::Words;
 
 namespace {
 
-QString coordinate(double metres) {
+QString coordinateText(double metres) {
     return QString::number(metres, 'f', 2);
 }
 
@@ -216,8 +216,8 @@ private:
         if (!label->className.empty())
             text += " · " + escaped(label->className);
         if (label->place)
-            text += " · " +
-                    Words::tr("at (%1, %2) m").arg(coordinate(label->place->x), coordinate(label->place->y));
+            text += " · " + Words::tr("at (%1, %2) m")
+                                .arg(coordinateText(label->place->x), coordinateText(label->place->y));
         return text;
     }
 
