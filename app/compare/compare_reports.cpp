@@ -61,7 +61,7 @@ std::map<Element, Violations> violationsByElement(const std::vector<SavedFinding
     return byElement;
 }
 
-bool areSame(const SavedFinding& a, const SavedFinding& b) {
+bool haveSameRelated(const SavedFinding& a, const SavedFinding& b) {
     return a.related == b.related;
 }
 
@@ -75,7 +75,7 @@ public:
     SiteComparison compare() {
         m_result.file = m_after.file;
         m_result.name = m_after.name;
-        match(areSame);
+        match(haveSameRelated);
         match([this](const SavedFinding&, const SavedFinding& later) { return !isCounted(later); });
         for (std::size_t i = 0; i < m_after.findings.size(); ++i)
             if (m_partners[i])
