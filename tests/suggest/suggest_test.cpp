@@ -161,11 +161,20 @@ TEST(Suggestions, TellWhyNothingIsTried) {
 }
 
 TEST(Suggestions, OfEveryExampleAreKept) {
-    for (const char* name : {"tower-site", "small-yard", "every-rule-offends"}) {
-        const Json site = sourceJson("examples/" + std::string(name) + ".json");
+    struct Example {
+        std::string name;
+        std::size_t helped; // violations for which there is a suggestion
+    };
+    for (const Example& example :
+         {Example{"tower-site", 20}, Example{"small-yard", 22}, Example{"every-rule-offends", 63}}) {
+        const Json site = sourceJson("examples/" + example.name + ".json");
         const SiteReport report = checked(site);
-        for (const Suggestion& suggestion : suggestionsFor(site, report))
-            expectKept(site, report, suggestion, std::string(name) + ": ");
+        std::size_t helped = 0;
+        for (const Suggestion& suggestion : suggestionsFor(site, report)) {
+            expectKept(site, report, suggestion, example.name + ": ");
+            helped += suggestion.steps.empty() ? 0 : 1;
+        }
+        EXPECT_EQ(helped, example.helped) << example.name;
     }
 }
 
